@@ -1,0 +1,64 @@
+// Sizes, counts and codes shared by records, files and screens.
+#pragma once
+
+// Items a pattern may hold.
+enum PtrnType {
+    PTRN_GBOX = 1,  ///< group box
+    PTRN_LINE = 2,  ///< line
+    PTRN_RECT = 3,  ///< rectangle
+    PTRN_CRCL = 4,  ///< circle or ellipse
+    PTRN_BARG = 5,  ///< bar graph
+    PTRN_FCHR = 6,  ///< fixed text
+    PTRN_CHAR = 7,  ///< variable text
+    PTRN_NUMR = 8,  ///< numeric field
+    PTRN_BUTN = 9,  ///< push button
+    PTRN_RDIO = 10, ///< radio button
+    PTRN_CHCK = 11, ///< check box
+    PTRN_BMAP = 12, ///< bitmap
+    PTRN_MARK = 13, ///< mark (icon)
+    PTRN_SBAR = 14, ///< scroll bar
+    PTRN_SPIN = 15, ///< spin button
+};
+constexpr int CONT_PTRN = 15;
+
+// Resource tables.
+constexpr int CONT_COLR = 100;
+constexpr int CONT_FONT = 20;
+constexpr int SIZE_FONT = 30;
+constexpr int CONT_MARK = 350;
+constexpr int SIZE_MARK = 512;
+
+// Parameters and texts of a pattern. Character arrays are two bytes longer than the sizes.
+constexpr int CONT_PARM = 30;
+constexpr int CONT_PARM1 = 30;
+constexpr int CONT_PARM2 = 10;
+constexpr int SIZE_PTRNNAME = 80;
+constexpr int SIZE_LOGONAME = 20;
+constexpr int SIZE_BMAPNAME = 20;
+constexpr int SIZE_PTRNTEXT = 100;
+constexpr int SIZE_ID_NAME = 80;
+constexpr int SIZE_ID_CODE = 20;
+
+// Message and limit tables.
+constexpr int CONT_MESGDATA = 500;
+constexpr int SIZE_MESGTEXT = 100;
+constexpr int CONT_LIMTDATA = 500;
+
+// Log lines.
+constexpr int SIZE_LOGMESG1 = 20;
+constexpr int SIZE_LOGMESG2 = 200;
+constexpr int SIZE_LOGFILE = 16;
+
+// Reserved data numbers.
+constexpr int DTNO_SYSCALN = 1;   ///< 1..7: year, month, day, weekday (0 = Sunday), hour, minute, second
+constexpr int DTNO_SYSEROR = 11;  ///< the error line
+constexpr int DTNO_MENTE = 20;    ///< 20..81: the maintenance screen
+constexpr int DTNO_SYSTEM = 100;  ///< first number of the application
+
+// Display state of the items bound to a cell: the bits of the cell's word.
+constexpr int STATE_COLOR = 0x0003;   ///< colour selection 0..3; bit 0 also locks buttons, radio buttons and check boxes
+constexpr int STATE_NEVER = 0x0800;   ///< never displayed; only in an item's cached copy
+constexpr int STATE_FROZEN = 0x1000;  ///< not redrawn by the tick, not hit; set while the field is in edit
+constexpr int STATE_FLICKER = 0x2000; ///< blinks
+constexpr int STATE_DISABLE = 0x4000; ///< drawn blanked; a click changes nothing
+constexpr int STATE_HIDDEN = 0x8000;  ///< erased, not hit

@@ -1,0 +1,192 @@
+// A loaded pattern: its header, its items, and everything that is done with items
+// (display, flicker, repeat, hit test, press, scroll bars, title bar).
+#pragma once
+
+#include "base/Constants.h"
+#include "base/Types.h"
+
+#include <vector>
+
+class CDraw;
+
+#pragma pack(push, 1)
+
+/// The pattern header as held in memory.
+struct PTRNHEDR {
+    std::int32_t Parm1[CONT_PARM1]; ///< window geometry, title bar, colours (HedrParm)
+    std::int32_t Parm2[CONT_PARM2];
+    char PtrnName[SIZE_PTRNNAME + 2]; ///< title in the current language
+    char LogoName[SIZE_LOGONAME + 2];
+    char BmapName[SIZE_BMAPNAME + 2];
+};
+
+/// One item. Copied whole; changed on a copy and written back with WritePtrnData.
+struct PTRNDATA {
+    std::int32_t Type;             ///< PtrnType
+    std::int32_t Parm[CONT_PARM];  ///< ItemParm
+    char Text[SIZE_PTRNTEXT + 2];  ///< text in the current language
+    std::int32_t ID_Type;          ///< action code
+    char ID_Name[SIZE_ID_NAME + 2];
+    char ID_Code[SIZE_ID_CODE + 2]; ///< empty: bound to no data
+    std::int32_t ID_No;
+    std::int32_t DataNo; ///< cell: 0 unbound, -1 unknown code
+    WORD wData;          ///< cached state word
+    float fData;         ///< cached number
+    char sData[256];     ///< cached text
+    std::int32_t Recd;   ///< index in the item array
+    RECT Rect;           ///< SetRect(Parm[0..3])
+};
+
+#pragma pack(pop)
+
+/// Text of a numeric item's current value: hexadecimal, or decimal with optional zero fill and grouping.
+/// @param item  its FIELD_... parameters and data number are used
+/// @return a static buffer, overwritten by the next call
+const char* ConvertNumrData(const PTRNDATA* item);
+
+class CPtrnData
+{
+public:
+    std::int32_t PtrnCont = 0; ///< number of items
+    PTRNHEDR PtrnHedr{};
+    PTRNDATA* PtrnData = nullptr; ///< owned; PtrnCont items in file order
+    std::int32_t PtrnCalnSec;     ///< second last shown by the clock; -1 none yet
+    std::int32_t PtrnCalnPos = 0; ///< pixels kept free right of the clock
+    std::int32_t ScrollPtrn1;     ///< Recd of the scroll bar last clicked, by role; -1 none
+    std::int32_t ScrollPtrn2;
+    std::int32_t ScrollPtrn3;
+    RECT SCrect1{}; ///< layout of the scroll bar handled last: first page button
+    RECT SCrect2{}; ///< second page button
+    RECT SCrect3{}; ///< first arrow button
+    RECT SCrect4{}; ///< second arrow button
+    RECT SCrect5{}; ///< thumb
+    RECT SCrect6{}; ///< trough
+    SIZE SCoffset{};          ///< where inside the thumb the pointer grabbed it
+    std::int32_t FlikerFlag;  ///< flicker phase: 1 shown, 0 blanked
+    std::int32_t FlikerTimr;  ///< ticks in the phase
+    std::int32_t RepeatFlag;  ///< 0 idle, 1 waiting, 2 repeating
+    std::int32_t RepeatMode = 0;
+    std::int32_t RepeatTimr = 0;
+    PTRNDATA RepeatPtrn{}; ///< the item being held
+    RECT LogoMarkButn{};   ///< title bar button areas, set when the title bar is drawn
+    RECT HardCopyButn{};
+
+    /// Loads the pattern `name`; a pattern that can not be loaded leaves an object without items.
+    explicit CPtrnData(const char* name);
+    ~CPtrnData();
+    CPtrnData(const CPtrnData&) = delete;
+    CPtrnData& operator=(const CPtrnData&) = delete;
+
+    // --- records -------------------------------------------------------------------------------
+
+    /// Loads `<ProjPath>/<name>.ptn`. @return 1, or 0 when the file does not exist
+    int LoadPtrnData(const char* name);
+
+    /// Copies out the first item (file order) of that data number and type. @return 1 found, 0 none
+    int ReadPtrnData(int dataNo, int type, PTRNDATA* item);
+
+    /// Copies a record back over the item with its Recd; a Recd outside the array is ignored.
+    void WritePtrnData(const PTRNDATA* item);
+
+    static RECT SetRect(int x1, int y1, int x2, int y2) { return ::SetRect(x1, y1, x2, y2); }
+    static const char* ConvertNumrData(const PTRNDATA* item) { return ::ConvertNumrData(item); }
+
+    // --- display, flicker, repeat ----------------------------------------------------------------
+
+    /// Full display: every item, pass 0 then pass 1.
+    void DispPtrnData(CDraw* draw);
+    /// Full display of one pass.
+    void DispPtrnData(CDraw* draw, int top);
+    /// Draws one item by its type. @param updt 0 full display, 1 tick update
+    void DispPtrnData(CDraw* draw, PTRNDATA* item, int updt);
+    /// Redraws the bound items whose cell has changed.
+    void UpdtPtrnData(CDraw* draw);
+    void UpdtPtrnData(CDraw* draw, int top);
+    /// Erases one item by its type.
+    void ClerPtrnData(CDraw* draw, PTRNDATA* item);
+    /// Advances the flicker cycle by one tick and redraws at a phase change.
+    void FlikPtrnData(CDraw* draw);
+    /// Advances auto-repeat by one tick. @return 1 when a value changed; the held item is then in `item`
+    int ReptPtrnData(PTRNDATA* item);
+
+    // --- the fifteen types -----------------------------------------------------------------------
+
+    void DispPtrnData01(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData02(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData03(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData04(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData05(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData06(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData07(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData08(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData09(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData10(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData11(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData12(CDraw* draw, PTRNDATA* item);
+    void DispPtrnData13(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData14(CDraw* draw, PTRNDATA* item, int updt);
+    void DispPtrnData15(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData01(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData02(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData03(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData04(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData06(CDraw* draw, PTRNDATA* item);
+    void ClerPtrnData10(CDraw* draw, PTRNDATA* item);
+    void FlikPtrnData06(CDraw* draw, PTRNDATA* item, int phase);
+    void FlikPtrnData13(CDraw* draw, PTRNDATA* item, int phase);
+
+    // --- pointer and keys ------------------------------------------------------------------------
+
+    /// Index of the item under a point in pattern coordinates, -1 none; pass 1 before pass 0.
+    int TestPtrnData(POINT point);
+    int TestPtrnData(POINT point, int top);
+    /// 1 when the point hits this item by its type's test.
+    int TestPtrnData(POINT point, PTRNDATA* item);
+    int TestPtrnData01(POINT point, PTRNDATA* item);
+    int TestPtrnData02(POINT point, PTRNDATA* item);
+    int TestPtrnData06(POINT point, PTRNDATA* item);
+    int TestPtrnData10(POINT point, PTRNDATA* item);
+
+    /// Left press on an item copy, which a linked item may replace.
+    /// @return 0 nothing, 1 carry out the action, 2 start keyboard entry, 3 start dragging the thumb
+    int LButtonDown(POINT point, PTRNDATA* item);
+    /// Ends auto-repeat.
+    void LButtonUp();
+    /// Ends auto-repeat when the pointer leaves the held part.
+    void MouseMove(POINT point);
+    /// One wheel click; direction 0 up, other values down. @return 1 when a value changed
+    int WheelToScroll(int direction, PTRNDATA* item);
+    int WheelToSpin(int direction, PTRNDATA* item);
+    /// Keyboard operation for screen classes; key values are X keysyms. @return 1 when the key was used
+    int SetScrollKey(int key, PTRNDATA* item);
+    int ConvScrollKey(int key, PTRNDATA* item);
+    int SetButtonKey(int key, PTRNDATA* item);
+
+    // --- scroll bars and spin buttons ------------------------------------------------------------
+
+    /// Lays the bar out into SCrect1..6.
+    void SetScrollBar(PTRNDATA* item);
+    void DispScrollBar(CDraw* draw, PTRNDATA* item);
+    /// Part under the point: 1, 2 page buttons, 3, 4 arrow buttons, 5 thumb, 6, 7 trough, 0 none.
+    int TestScrollBar(POINT point, PTRNDATA* item);
+    /// Value from the pointer during a thumb drag. @return 1 when it changed
+    int SetScrollPos(POINT point, PTRNDATA* item);
+    /// 1 upper half, 2 lower half, 0 neither.
+    int TestSpinButn(POINT point, PTRNDATA* item);
+
+    // --- title bar -------------------------------------------------------------------------------
+
+    /// Draws title bar, body background, bottom band and frame.
+    void DispTitle(CDraw* draw);
+    /// Redraws date and time when the second has changed.
+    void DispCalender(CDraw* draw);
+    /// What a point in pattern coordinates hits.
+    /// @param butn  0 in the title bar at all?, 1 left button, 2 right button
+    /// @return 0 nothing, 1 title bar (butn 0) or logo, 2 hard-copy button, 3 drag area
+    int TestTitle(POINT point, int butn);
+
+private:
+    /// Item indexes in drawing order, one list per pass; rebuilt when a type or a pass changes.
+    std::vector<int> DrawOrder[2];
+    void BuildDrawOrder();
+};
