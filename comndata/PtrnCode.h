@@ -1,0 +1,65 @@
+// The pattern code table: which block of data numbers belongs to which code, which numbers are logged, and
+// which patterns the project has.
+#pragma once
+
+#include "base/Constants.h"
+#include "base/Types.h"
+
+#pragma pack(push, 1)
+
+/// One row of the code table, as it lies in the file "PtrnCode".
+struct PTRNCODE {
+    char ID_Code[SIZE_ID_CODE + 2]; ///< may fill its field without a terminator
+    std::int32_t DataCount;         ///< data numbers of the code, not negative
+    std::int32_t DataNo;            ///< first data number, as it stands in the file
+    std::int32_t DispNo;            ///< first line shown on the maintenance screen; never written back
+};
+static_assert(sizeof(PTRNCODE) == 34);
+
+/// A pattern file's name without folder and extension.
+struct PTRNNAME {
+    char name[SIZE_PTRNNAME + 2];
+};
+
+#pragma pack(pop)
+
+extern PTRNCODE* PtrnCode;     ///< rows in file order; null without any
+extern std::int32_t PtrnRecd;  ///< number of rows
+extern BYTE* PtrnFlag;         ///< one byte for each data number; bit 0: the number has a name and is logged
+extern PTRNNAME* PtrnName;     ///< in the order of the directory; null without any
+extern std::int32_t PtrnCount; ///< number of names
+
+/// Most rows that are read of a code table.
+constexpr int CONT_PTRNCODE = 1000000;
+
+/// Bytes of the name of a data number: a code of 22 bytes, "+", an int of 11, the terminator.
+constexpr int SIZE_DTNONAME = 22 + 1 + 11 + 1;
+
+/// Loads "PtrnCode" and "PtrnFlag" of the project directory, creates the cells, brings "PtrnFlag" to the
+/// length of the store and lists the project's pattern files. Whatever was loaded before is freed first.
+/// The table ends before a row whose count is negative or with which the store would pass CONT_COMNDATA
+/// cells; that is logged. Without "PtrnCode" there are no cells and no flags. @return 1
+int LoadCodeData();
+
+/// Frees table, flags, names and cells.
+void ExitCodeData();
+
+/// The first row, in file order, whose block holds the data number; null when none does.
+const PTRNCODE* FindCode(int no);
+
+/// Name of a data number: code, "+", offset within the code.
+/// @param name  receives the text; at least SIZE_DTNONAME bytes
+/// @return 1; or 0 with an empty name when the number is outside the store, its log flag is clear or no code
+///         holds it
+int ConvertDtno(int no, char* name);
+
+/// Data number of a code and an offset; the first row with exactly this code counts.
+/// @return the number, which is not checked against the store and may lie before the code when the offset
+///         is negative; 0 for an empty or null code; -1 when the code is not known, the offset is not below
+///         its count, or the number is no int
+int ConvertDtno(const char* code, int offset);
+
+/// Number of a pattern: its index in PtrnName; PtrnCount for the built-in version screen, PtrnCount + 1
+/// for the built-in maintenance screen.
+/// @return -1 for any other name and for null
+int ConvertPtrn(const char* pattern);
