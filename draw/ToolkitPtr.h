@@ -1,0 +1,17 @@
+// Owning pointers to the toolkit's reference-counted objects.
+#pragma once
+
+#include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gdk/gdk.h>
+#include <memory>
+
+struct ObjectUnref {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+
+template <class T> using ObjectPtr = std::unique_ptr<T, ObjectUnref>;
+
+using GcPtr = ObjectPtr<GdkGC>;
+using PixmapPtr = ObjectPtr<GdkPixmap>;
+using BitmapPtr = ObjectPtr<GdkBitmap>;
+using PixbufPtr = ObjectPtr<GdkPixbuf>;
