@@ -56,7 +56,7 @@ float Get_fData(int no, const char* file, int line);
 /// @return one static buffer of SIZE_SDATA bytes, overwritten by the next call; empty when the cell has no
 ///         text or the number is outside the store. A text of 256 bytes is cut before the character that
 ///         does not fit
-char* Get_sData(int no, const char* file, int line);
+const char* Get_sData(int no, const char* file, int line);
 
 /// Writes the word. Like every writing access it does nothing for a number outside the store.
 void Set_wData(int no, WORD value, const char* file, int line);

@@ -1,0 +1,15 @@
+// Where the message table and the limit table lie.
+#pragma once
+
+#include "config/FileCntl.h"
+
+/// Longest table that is loaded, in bytes. Every key costs one read of the whole file; a table with all its
+/// 500 keys at full length has an eighth of this.
+constexpr int SIZE_TABLEFILE = 1024 * 1024;
+
+/// Path of a table: ProjPath/<name>.prf below the working directory, "ProjPath" being that very name and
+/// not the project directory.
+/// @param path  receives the path; SIZE_PATH + 1 bytes
+/// @param mesg1  category of the log line about a file that is too long
+/// @return false when the file is longer than SIZE_TABLEFILE, which is logged
+bool TablePath(char (&path)[SIZE_PATH + 1], const char* name, const char* mesg1);
