@@ -1,0 +1,144 @@
+// Font sets by number, and what the log says when one is missing.
+#include "config/Profile.h"
+#include "config/Settings.h"
+#include "draw/Resource.h"
+#include "draw/ResourceLoad.h"
+#include "shell/Logfile.h"
+
+#include <cstdio>
+#include <cstring>
+#include <gdk/gdkx.h>
+#include <string>
+
+GdkFont* DrawFont[CONT_FONT];
+SIZE FontSize[CONT_FONT];
+
+namespace
+{
+
+/// Name of the profile key; 64 bits, because a language number may be as large as the profile can write it.
+std::string FontKey(int no)
+{
+    return "FONTNAME" + std::to_string(std::int64_t{Language} * CONT_FONT + no);
+}
+
+/// The fonts of a list are fields of the profile line; they are joined again.
+std::string FontName(const std::string& key)
+{
+    char part[8][100];
+    ProfileRead(ProfName, "FONT", key.c_str(), "ssssssss", part[0], part[1], part[2], part[3], part[4],
+                part[5], part[6], part[7]);
+    std::string name;
+    for (const char* text : part) {
+        if (!text[0])
+            continue;
+        if (!name.empty())
+            name += ',';
+        name += text;
+    }
+    return name;
+}
+
+/// Character sets that the locale needs and the font set lacks, separated by blanks.
+std::string MissingCharsets(GdkFont* font)
+{
+    std::string names;
+    XOMCharSetList missing{};
+    const auto context = static_cast<XOC>(GDK_FONT_XFONT(font));
+    if (XGetOCValues(context, XNMissingCharSet, &missing, nullptr))
+        return names;
+    for (int i = 0; i < missing.charset_count; ++i) {
+        if (i)
+            names += ' ';
+        names += missing.charset_list[i];
+    }
+    return names;
+}
+
+void Report(const char* text)
+{
+    LogfileWrite("SYSTEM", text, __FILE__, __LINE__);
+}
+
+void Report(const char* format, const std::string& key, const std::string& what)
+{
+    char text[SIZE_LOGMESG2 + 1];
+    std::snprintf(text, sizeof text, format, key.c_str(), what.c_str());
+    Report(text);
+}
+
+/// @return false when something of the font is missing
+bool LoadFont(int no, const std::string& key, const std::string& name)
+{
+    DrawFont[no] = gdk_fontset_load(name.c_str());
+    FontDataInit(no, name.c_str());
+    if (!DrawFont[no]) {
+        Report("フォントの読込みに失敗 [%s=%s]", key, name);
+        return false;
+    }
+    const std::string missing = MissingCharsets(DrawFont[no]);
+    if (missing.empty())
+        return true;
+    Report("フォントに文字集合がない [%s: %s]", key, missing);
+    return false;
+}
+
+} // namespace
+
+void FontInit()
+{
+    int named = 0;
+    bool complete = true;
+    for (int no = 0; no < CONT_FONT; ++no) {
+        const std::string key = FontKey(no);
+        const std::string name = FontName(key);
+        if (name.empty())
+            continue;
+        ++named;
+        complete = LoadFont(no, key, name) && complete;
+    }
+
+    if (!named)
+        Report("文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない", FontKey(0),
+               FontKey(CONT_FONT - 1));
+    if (!complete)
+        Report("フォントのパッケージ xfonts-base, xfonts-intl-japanese を導入してXサーバーを再起動するか、"
+               "[FONT] のフォント名を直すこと");
+}
+
+void FontExit()
+{
+    for (GdkFont*& font : DrawFont) {
+        if (font)
+            gdk_font_unref(font);
+        font = nullptr;
+    }
+    std::memset(FontSize, 0, sizeof FontSize);
+}
+
+void FontDataInit(int no, const char* name)
+{
+    if (no < 0 || no >= CONT_FONT)
+        return;
+    FontSize[no] = {0, 0};
+
+    const char* at = name;
+    for (int field = 0; field < 7; ++field) {
+        at = at ? std::strchr(at, '-') : nullptr;
+        if (!at)
+            return;
+        ++at;
+    }
+
+    // No pixel size: the next field is the point size, in tenths.
+    const bool points = *at == '*';
+    if (points)
+        at += at[1] ? 2 : 1;
+
+    int size = 0;
+    for (int digits = 0; digits < 4 && *at >= '0' && *at <= '9'; ++digits)
+        size = size * 10 + (*at++ - '0');
+    if (points)
+        size /= 10;
+    FontSize[no] = {size / 2, size};
+}

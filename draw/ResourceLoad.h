@@ -1,0 +1,12 @@
+// Steps of DrawCntlInit and DrawCntlExit that lie in the file of their resource. Nobody else calls them.
+#pragma once
+
+/// Loads the font sets of `Language` and fills `DrawFont` and `FontSize`; the log tells what is missing.
+void FontInit();
+
+/// Reads the two cursor colours; they are allocated when both are complete.
+void CursorColorInit();
+
+void FontExit();
+void MarkExit();
+void CursorExit();
