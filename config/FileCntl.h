@@ -6,7 +6,8 @@
 //
 // A file is named by a directory and a name, joined as MakePath does; an empty name means that the
 // directory is the whole path. A null text counts as an empty one. Sizes, offsets and positions are
-// bytes and fit 32 bits. No call waits: a pipe or a terminal in place of a file is a failed read or write.
+// bytes and fit 32 bits. No call waits for the other end of a pipe or for a terminal: without data at once it
+// fails.
 #pragma once
 
 #include <cstdio>

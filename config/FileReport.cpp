@@ -1,0 +1,24 @@
+#include "config/FileReport.h"
+
+#include "base/Constants.h"
+#include "config/PathName.h"
+#include "shell/Logfile.h"
+
+void FileReport::success(const FileEvent& event, const std::string& subject) const
+{
+    if (successes_)
+        write(event.success, subject);
+}
+
+void FileReport::failure(const FileEvent& event, const std::string& subject) const
+{
+    if (failures_)
+        write(event.failure, subject);
+}
+
+void FileReport::write(const char* text, const std::string& subject) const
+{
+    // The log keeps two bytes beyond the nominal size and cuts by bytes; cut here by characters.
+    const std::string message = CutText(TextOf(text) + " [" + subject + "]", SIZE_LOGMESG2 + 2);
+    LogfileWrite("FILECNTL", message.c_str(), file_, line_);
+}
