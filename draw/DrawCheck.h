@@ -1,7 +1,8 @@
 // The contract checks of the drawing primitives.
 #pragma once
 
-/// Logs "file %s: line %d (%s): assertion failed: (%s)" at the error level of glib's log and ends the process.
+/// Logs "file %s: line %d (%s): assertion failed: (%s)" at the error level of glib's log and ends the
+/// process.
 /// @param function  full signature of the primitive
 /// @param condition text of the failed condition
 [[noreturn]] void DrawCheckFailed(int line, const char* function, const char* condition);

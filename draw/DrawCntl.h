@@ -22,7 +22,7 @@
 
 class CDraw
 {
-public:
+  public:
     GdkWindow* window; ///< the drawable, a window or a pixmap; not owned
     GdkGC* gc;
 
@@ -113,7 +113,7 @@ public:
     void DrawRect1(int mode, int xpos1, int ypos1, int xpos2, int ypos2);
     void DrawCrcl1(int mode, int xpos1, int ypos1, int xpos2, int ypos2);
 
-protected:
+  protected:
     explicit CDraw(GdkWindow* drawable) : window(drawable), gc(gdk_gc_new(drawable)) {}
     ~CDraw() = default;
 };
@@ -122,7 +122,7 @@ protected:
 /// makes one per drawable, keeps it, and releases `gc` with it (PaintDrawPtr does).
 class CPaintDraw : public CDraw
 {
-public:
+  public:
     explicit CPaintDraw(GdkWindow* drawable) : CDraw(drawable) {}
     ~CPaintDraw() {}
 };
@@ -130,7 +130,7 @@ public:
 /// A context on a window itself; otherwise the same.
 class CClientDraw : public CDraw
 {
-public:
+  public:
     explicit CClientDraw(GdkWindow* drawable) : CDraw(drawable) {}
     ~CClientDraw() {}
 };

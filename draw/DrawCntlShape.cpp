@@ -1,0 +1,223 @@
+// Lines, rectangles, ellipses and bevelled boxes. Thick ones are built of lines one pixel wide, so that the
+// place of every pixel is known.
+#include "draw/Coord.h"
+#include "draw/DrawBounds.h"
+#include "draw/DrawCheck.h"
+#include "draw/DrawCntl.h"
+#include "draw/Resource.h"
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+
+// Where the extra pixels of a thick line or frame go; every other value is centred.
+enum Format { FOMT_INSIDE = 1, FOMT_OUTSIDE = 2 };
+
+gint8 dash1[] = {12, 4};
+gint8 dash2[] = {4, 2};
+
+void SetColor(GdkGC* gc, int colr)
+{
+    gdk_gc_set_foreground(gc, &DrawColr[colr]);
+}
+
+void SetSolidPen(GdkGC* gc)
+{
+    gdk_gc_set_line_attributes(gc, 1, GDK_LINE_SOLID, GDK_CAP_BUTT, GDK_JOIN_MITER);
+}
+
+void SetDashedPen(GdkGC* gc, gint8 (&dashes)[2])
+{
+    gdk_gc_set_dashes(gc, 0, dashes, 2);
+    gdk_gc_set_line_attributes(gc, 1, GDK_LINE_ON_OFF_DASH, GDK_CAP_BUTT, GDK_JOIN_MITER);
+}
+
+/// Offset of line i of a thick line parallel to an axis.
+int StraightOffset(int fomt, int i)
+{
+    if (fomt == FOMT_INSIDE)
+        return -i - 1;
+    if (fomt == FOMT_OUTSIDE)
+        return i;
+    return i % 2 == 0 ? i / 2 : -(i / 2) - 1;
+}
+
+/// Offset of line i of any other thick line. The sequence repeats -1 and leans one pixel to the negative
+/// side: 0, -1, -1, 0, -2, 1, ...
+int SlantedOffset(int i)
+{
+    return i % 2 == 0 ? -(i / 2) : i / 2 - 1;
+}
+
+/// How far outline i of a thick frame lies inside its box; negative outside.
+int FrameInset(int fomt, int i)
+{
+    if (fomt == FOMT_INSIDE)
+        return i;
+    if (fomt == FOMT_OUTSIDE)
+        return -i - 1;
+    return i % 2 == 0 ? i / 2 : -(i / 2) - 1;
+}
+
+/// Draws fill and outlines of a frame with DrawRect1 or DrawCrcl1.
+using Shape = void (CDraw::*)(int mode, int xpos1, int ypos1, int xpos2, int ypos2);
+void DrawFrame(CDraw* draw, Shape shape, RECT box, int wide, int fomt, int colr1, int colr2)
+{
+    SetSolidPen(draw->gc);
+    if (colr2 >= 0) {
+        SetColor(draw->gc, colr2);
+        (draw->*shape)(1, box.left, box.top, box.right, box.bottom);
+    }
+    if (wide == 0)
+        return;
+    SetColor(draw->gc, colr1);
+    for (int i = 0; i < wide; i++) {
+        const int inset = FrameInset(fomt, i);
+        (draw->*shape)(0, Shift(box.left, inset), Shift(box.top, inset), Shift(box.right, -inset),
+                       Shift(box.bottom, -inset));
+    }
+}
+
+/// The 256 shades of the shaded fill, shade k darker by k / 256. They are allocated for every fill.
+std::array<GdkColor, 256> MakeShades(const COLRDATA& colr)
+{
+    std::array<GdkColor, 256> shades{};
+    for (int k = 0; k < 256; k++) {
+        const auto component = [k](std::int64_t full) { return static_cast<guint16>(full - k * full / 256); };
+        GdkColor& shade = shades[static_cast<std::size_t>(k)];
+        shade.red = component(colr.red);
+        shade.green = component(colr.green);
+        shade.blue = component(colr.blue);
+        gdk_color_alloc(gdk_colormap_get_system(), &shade);
+    }
+    return shades;
+}
+
+} // namespace
+
+void CDraw::DrawLine(int xpos1, int ypos1, int xpos2, int ypos2, int type, int wide, int fomt, int colr)
+{
+    // clang-format off
+    DRAW_CHECK((type >= 0) && (type < 3 ));
+    DRAW_CHECK((wide >= 1) && (wide < 99 ));
+    DRAW_CHECK((colr >= 0) && (colr < CONT_COLR));
+    // clang-format on
+    SetColor(gc, colr);
+    if (type == 0)
+        SetSolidPen(gc);
+    else
+        SetDashedPen(gc, type == 1 ? dash1 : dash2);
+
+    if (wide == 1) {
+        LineBounded(window, gc, xpos1, ypos1, xpos2, ypos2);
+        return;
+    }
+    const std::int64_t width = std::abs(std::int64_t{xpos1} - xpos2);
+    const std::int64_t height = std::abs(std::int64_t{ypos1} - ypos2);
+    const bool slanted = width != 0 && height != 0;
+    const bool sideways = slanted ? width < height : width == 0;
+    for (int i = 0; i < wide; i++) {
+        const int offset = slanted ? SlantedOffset(i) : StraightOffset(fomt, i);
+        const int dx = sideways ? offset : 0;
+        const int dy = sideways ? 0 : offset;
+        LineBounded(window, gc, Shift(xpos1, dx), Shift(ypos1, dy), Shift(xpos2, dx), Shift(ypos2, dy));
+    }
+}
+
+void CDraw::DrawRect(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int fomt, int colr1, int colr2)
+{
+    // clang-format off
+    DRAW_CHECK((wide >= 0) && (wide < 99 ));
+    DRAW_CHECK((colr1 >= 0) && (colr1 < CONT_COLR));
+    DRAW_CHECK((colr2 >= -1) && (colr2 < CONT_COLR));
+    DRAW_CHECK(xpos1 <= xpos2);
+    DRAW_CHECK(ypos1 <= ypos2);
+    // clang-format on
+    DrawFrame(this, &CDraw::DrawRect1, ::SetRect(xpos1, ypos1, xpos2, ypos2), wide, fomt, colr1, colr2);
+}
+
+void CDraw::DrawCrcl(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int fomt, int colr1, int colr2)
+{
+    // clang-format off
+    DRAW_CHECK((wide >= 0) && (wide < 99 ));
+    DRAW_CHECK((colr1 >= 0) && (colr1 < CONT_COLR));
+    DRAW_CHECK((colr2 >= -1) && (colr2 < CONT_COLR));
+    DRAW_CHECK(xpos1 <= xpos2);
+    DRAW_CHECK(ypos1 <= ypos2);
+    // clang-format on
+    DrawFrame(this, &CDraw::DrawCrcl1, ::SetRect(xpos1, ypos1, xpos2, ypos2), wide, fomt, colr1, colr2);
+}
+
+void CDraw::DrawGbox(int xpos1, int ypos1, int xpos2, int ypos2, int wide1, int wide2, int wide3, int wide4,
+                     int colr1, int colr2, int colr3, int colr4, int colr5)
+{
+    // clang-format off
+    DRAW_CHECK((wide1 >= 0) && (wide1 < 99 ));
+    DRAW_CHECK((wide2 >= 0) && (wide2 < 99 ));
+    DRAW_CHECK((wide3 >= 0) && (wide3 < 99 ));
+    DRAW_CHECK((wide4 >= 0) && (wide4 < 99 ));
+    DRAW_CHECK((colr1 >= 0) && (colr1 < CONT_COLR));
+    DRAW_CHECK((colr2 >= 0) && (colr2 < CONT_COLR));
+    DRAW_CHECK((colr3 >= 0) && (colr3 < CONT_COLR));
+    DRAW_CHECK((colr4 >= 0) && (colr4 < CONT_COLR));
+    DRAW_CHECK((colr5 >= 0) && (colr5 < CONT_COLR));
+    DRAW_CHECK(xpos1 <= xpos2);
+    DRAW_CHECK(ypos1 <= ypos2);
+    // clang-format on
+    SetSolidPen(gc);
+    SetColor(gc, colr5);
+    FillBounded(window, gc, xpos1, ypos1, xpos2, ypos2);
+
+    const auto row = [&](int y) { LineBounded(window, gc, xpos1, y, xpos2, y); };
+    const auto column = [&](int x) { LineBounded(window, gc, x, ypos1, x, ypos2); };
+    SetColor(gc, colr1);
+    for (int i = 0; i < wide1; i++)
+        row(Shift(ypos1, i));
+    SetColor(gc, colr2);
+    for (int i = 0; i < wide2; i++)
+        row(Shift(ypos2, -i - 1));
+    SetColor(gc, colr3);
+    for (int i = 0; i < wide3; i++)
+        column(Shift(xpos1, i));
+    SetColor(gc, colr4);
+    for (int i = 0; i < wide4; i++)
+        column(Shift(xpos2, -i - 1));
+}
+
+void CDraw::DrawRect(int xpos1, int ypos1, int xpos2, int ypos2, int colr)
+{
+    const std::int64_t height = std::int64_t{ypos2} - ypos1;
+    if (colr < 0 || colr >= CONT_COLR || height <= 0)
+        return;
+
+    // Only the rows of the drawable are visited, however high the box is.
+    int visible = 0;
+    gdk_drawable_get_size(window, nullptr, &visible);
+    const std::int64_t first = std::max<std::int64_t>(0, -std::int64_t{ypos1});
+    const std::int64_t last = std::min(height, std::int64_t{visible} - ypos1);
+
+    SetSolidPen(gc);
+    const auto shades = MakeShades(ColrData[colr]);
+    for (std::int64_t r = first; r < last; r++) {
+        gdk_gc_set_foreground(gc, &shades[static_cast<std::size_t>(r * 255 / height)]);
+        const int y = Saturate(ypos1 + r);
+        LineBounded(window, gc, xpos1, y, xpos2, y);
+    }
+}
+
+void CDraw::DrawRect1(int mode, int xpos1, int ypos1, int xpos2, int ypos2)
+{
+    const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    if (mode)
+        FillBounded(window, gc, box.left, box.top, box.right, box.bottom);
+    else
+        FrameBounded(window, gc, box.left, box.top, box.right, box.bottom);
+}
+
+void CDraw::DrawCrcl1(int mode, int xpos1, int ypos1, int xpos2, int ypos2)
+{
+    const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    EllipseBounded(window, gc, mode != 0, box.left, box.top, box.right, box.bottom);
+}
