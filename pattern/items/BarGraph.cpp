@@ -1,0 +1,100 @@
+// Bar graph: a filled bar, or a needle, at the level of the item's value.
+#include "comndata/LimtData.h"
+#include "draw/Coord.h"
+#include "draw/DrawCntl.h"
+#include "pattern/items/ItemDraw.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+/// Where the bar may reach, and the level: `xl` of a horizontal bar, `yl` of a vertical one.
+struct BarArea {
+    int xa;
+    int ya;
+    int xb;
+    int yb;
+    int xl;
+    int yl;
+};
+
+/// Held between two ends, which a damaged pattern may have exchanged.
+int Hold(int value, int end1, int end2)
+{
+    return std::clamp(value, std::min(end1, end2), std::max(end1, end2));
+}
+
+/// The position `share` of `length` away from `start`. A share that is no number gives the start itself.
+int Advance(int start, std::int64_t length, float share)
+{
+    const float distance = static_cast<float>(length) * share;
+    if (std::isnan(distance))
+        return start;
+    return Saturate(start + static_cast<std::int64_t>(std::clamp(distance, -1e10f, 1e10f)));
+}
+
+BarArea LayOut(const PTRNDATA* item)
+{
+    const int x1 = item->Parm[PARM_X1];
+    const int y1 = item->Parm[PARM_Y1];
+    const int x2 = item->Parm[PARM_X2];
+    const int y2 = item->Parm[PARM_Y2];
+    const int inset = item->Parm[BARG_FRAME_WIDTH];
+    const int back = Saturate(-std::int64_t{inset});
+    BarArea area{Shift(x1, inset), Shift(y1, inset), Shift(x2, back), Shift(y2, back), 0, 0};
+    area.xl = area.xa;
+    area.yl = area.yb;
+
+    float min = static_cast<float>(item->Parm[BARG_MINIMUM]);
+    float max = static_cast<float>(item->Parm[BARG_MAXIMUM]);
+    if (item->Parm[BARG_MINIMUM] == 0 && item->Parm[BARG_MAXIMUM] == 0)
+        Get_LimtData(item->DataNo, &min, &max, nullptr, 0);
+    if (min < max) {
+        // The scale spans the whole item, the bar only the part inside the frame.
+        const float share = (item->fData - min) / (max - min);
+        area.xl = Hold(Advance(area.xa, std::int64_t{x2} - x1, share), area.xa, area.xb);
+        area.yl = Hold(Advance(area.yb, std::int64_t{y1} - y2, share), area.ya, area.yb);
+    }
+    return area;
+}
+
+void DrawBar(CDraw* draw, const PTRNDATA* item, const BarArea& area, int colr)
+{
+    const RECT bar = item->Parm[BARG_HORIZONTAL] ? SetRect(area.xa, area.ya, area.xl, area.yb)
+                                                 : SetRect(area.xa, area.yl, area.xb, area.yb);
+    draw->DrawRect(bar, 0, 1, colr, colr);
+}
+
+/// Draws a line across the bar at the level, held half its width inside the bar's ends. The odd pixel counts
+/// at the top of a vertical bar and at the right of a horizontal one.
+void DrawNeedle(CDraw* draw, const PTRNDATA* item, const BarArea& area, int colr)
+{
+    const int wide = item->Parm[BARG_NEEDLE_WIDTH];
+    const int half = wide / 2;
+    const int larger = half + wide % 2;
+    if (item->Parm[BARG_HORIZONTAL]) {
+        const int x = Hold(area.xl, Shift(area.xa, half), Shift(area.xb, -larger));
+        draw->DrawLine(x, area.ya, x, area.yb, 0, wide, 0, colr);
+    } else {
+        const int y = Hold(area.yl, Shift(area.ya, larger), Shift(area.yb, -half));
+        draw->DrawLine(area.xa, y, area.xb, y, 0, wide, 0, colr);
+    }
+}
+
+} // namespace
+
+void CPtrnData::DispPtrnData05(CDraw* draw, PTRNDATA* item)
+{
+    const BarArea area = LayOut(item);
+    const int bar = Selected(item, BARG_BAR4);
+    const int back = Selected(item, BARG_BACK4);
+    draw->DrawRect(item->Rect, 0, 1, back, back);
+    if (item->Parm[BARG_NEEDLE_WIDTH] == 0)
+        DrawBar(draw, item, area, bar);
+    else if (item->Parm[BARG_NEEDLE_WIDTH] > 0)
+        DrawNeedle(draw, item, area, bar);
+    if (item->Parm[BARG_FRAME_WIDTH])
+        draw->DrawRect(item->Rect, item->Parm[BARG_FRAME_WIDTH], 1, item->Parm[BARG_FRAME_COLOR], -1);
+}
