@@ -5,9 +5,23 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 
+#include <utility>
 #include <vector>
 
 class CDraw;
+
+// Times in ticks of 100 ms.
+constexpr int FLIKER_ON = 7;    ///< a blinking item is shown
+constexpr int FLIKER_OFF = 3;   ///< and blanked
+constexpr int REPEATTIMER1 = 5; ///< a control is held before it starts to repeat
+constexpr int REPEATTIMER2 = 2; ///< from one repeat to the next
+
+/// CPtrnData::RepeatFlag.
+enum RepeatState {
+    REPEAT_IDLE = 0,
+    REPEAT_WAITING = 1, ///< held, not yet for REPEATTIMER1 ticks
+    REPEAT_STEPPING = 2,
+};
 
 #pragma pack(push, 1)
 
@@ -22,10 +36,10 @@ struct PTRNHEDR {
 
 /// One item. Copied whole; changed on a copy and written back with WritePtrnData.
 struct PTRNDATA {
-    std::int32_t Type;             ///< PtrnType
-    std::int32_t Parm[CONT_PARM];  ///< ItemParm
-    char Text[SIZE_PTRNTEXT + 2];  ///< text in the current language
-    std::int32_t ID_Type;          ///< action code
+    std::int32_t Type;            ///< PtrnType
+    std::int32_t Parm[CONT_PARM]; ///< ItemParm
+    char Text[SIZE_PTRNTEXT + 2]; ///< text in the current language
+    std::int32_t ID_Type;         ///< action code
     char ID_Name[SIZE_ID_NAME + 2];
     char ID_Code[SIZE_ID_CODE + 2]; ///< empty: bound to no data
     std::int32_t ID_No;
@@ -40,13 +54,15 @@ struct PTRNDATA {
 #pragma pack(pop)
 
 /// Text of a numeric item's current value: hexadecimal, or decimal with optional zero fill and grouping.
-/// @param item  its FIELD_... parameters and data number are used
-/// @return a static buffer, overwritten by the next call
+/// A separator takes the place of digits: 1234567 in a field of 7 reads "1,4,7".
+/// @param item  its FIELD_... parameters and data number are used; a negative width fills on the right,
+///              negative decimals mean six, and both are held at 255
+/// @return a static buffer of at most 255 bytes of text, overwritten by the next call
 const char* ConvertNumrData(const PTRNDATA* item);
 
 class CPtrnData
 {
-public:
+  public:
     std::int32_t PtrnCont = 0; ///< number of items
     PTRNHEDR PtrnHedr{};
     PTRNDATA* PtrnData = nullptr; ///< owned; PtrnCont items in file order
@@ -55,16 +71,16 @@ public:
     std::int32_t ScrollPtrn1;     ///< Recd of the scroll bar last clicked, by role; -1 none
     std::int32_t ScrollPtrn2;
     std::int32_t ScrollPtrn3;
-    RECT SCrect1{}; ///< layout of the scroll bar handled last: first page button
-    RECT SCrect2{}; ///< second page button
-    RECT SCrect3{}; ///< first arrow button
-    RECT SCrect4{}; ///< second arrow button
-    RECT SCrect5{}; ///< thumb
-    RECT SCrect6{}; ///< trough
-    SIZE SCoffset{};          ///< where inside the thumb the pointer grabbed it
-    std::int32_t FlikerFlag;  ///< flicker phase: 1 shown, 0 blanked
-    std::int32_t FlikerTimr;  ///< ticks in the phase
-    std::int32_t RepeatFlag;  ///< 0 idle, 1 waiting, 2 repeating
+    RECT SCrect1{};          ///< layout of the scroll bar handled last: first page button
+    RECT SCrect2{};          ///< second page button
+    RECT SCrect3{};          ///< first arrow button
+    RECT SCrect4{};          ///< second arrow button
+    RECT SCrect5{};          ///< thumb
+    RECT SCrect6{};          ///< trough
+    SIZE SCoffset{};         ///< where inside the thumb the pointer grabbed it
+    std::int32_t FlikerFlag; ///< flicker phase: 1 shown, 0 blanked
+    std::int32_t FlikerTimr; ///< ticks in the phase
+    std::int32_t RepeatFlag; ///< RepeatState
     std::int32_t RepeatMode = 0;
     std::int32_t RepeatTimr = 0;
     PTRNDATA RepeatPtrn{}; ///< the item being held
@@ -79,13 +95,18 @@ public:
 
     // --- records -------------------------------------------------------------------------------
 
-    /// Loads `<ProjPath>/<name>.ptn`. @return 1, or 0 when the file does not exist
+    /// Loads `<ProjPath>/<name>.ptn` in place of what was loaded before. Of a damaged file everything is kept
+    /// that it holds: items whose records are missing are not made, texts that are missing are empty, texts
+    /// that are too long are cut; the log has one line for each kind of damage.
+    /// @return 1; or 0, without items, when the file does not exist (not logged) or its header can not be
+    /// read
     int LoadPtrnData(const char* name);
 
     /// Copies out the first item (file order) of that data number and type. @return 1 found, 0 none
     int ReadPtrnData(int dataNo, int type, PTRNDATA* item);
 
-    /// Copies a record back over the item with its Recd; a Recd outside the array is ignored.
+    /// Copies a record back over the item with its Recd; a Recd outside the array is ignored. A type or a
+    /// pass changed in any other way does not change the order of drawing.
     void WritePtrnData(const PTRNDATA* item);
 
     static RECT SetRect(int x1, int y1, int x2, int y2) { return ::SetRect(x1, y1, x2, y2); }
@@ -185,8 +206,18 @@ public:
     /// @return 0 nothing, 1 title bar (butn 0) or logo, 2 hard-copy button, 3 drag area
     int TestTitle(POINT point, int butn);
 
-private:
-    /// Item indexes in drawing order, one list per pass; rebuilt when a type or a pass changes.
-    std::vector<int> DrawOrder[2];
+  private:
+    /// An item in the order of drawing: by pass, within a pass by type, within a type as in the file.
+    struct Place {
+        std::int32_t Pass;
+        std::int32_t Rank; ///< index of the type in TypeTabl
+        std::int32_t Recd;
+    };
+    using Places = std::pair<std::vector<Place>::const_iterator, std::vector<Place>::const_iterator>;
+
+    std::vector<Place> DrawOrder; ///< without items of unknown type
     void BuildDrawOrder();
+    Places PassPlaces(int pass) const;
+    Places TypePlaces(int pass, int rank) const;
+    void ShowPtrnData(CDraw* draw, PTRNDATA* item, int updt);
 };

@@ -27,8 +27,8 @@ static_assert(sizeof(HEDRFILE) == 466);
 struct PTRNFILE {
     std::int32_t Type;
     std::int32_t Parm[CONT_PARM];
-    std::int32_t ID_Type; ///< action code
-    std::int32_t ID_No;   ///< offset within the item's code
+    std::int32_t ID_Type;  ///< action code
+    std::int32_t ID_No;    ///< offset within the item's code
     std::int32_t UndfFlag; ///< reserved
 };
 static_assert(sizeof(PTRNFILE) == 136);

@@ -1,0 +1,271 @@
+// Loading a pattern file, and the records of a loaded pattern.
+#include "base/EucText.h"
+#include "comndata/PtrnCode.h"
+#include "config/FileCntl.h"
+#include "config/Settings.h"
+#include "pattern/ItemParm.h"
+#include "pattern/ItemTable.h"
+#include "pattern/PtrnData.h"
+#include "pattern/PtrnFile.h"
+#include "shell/LogText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string>
+#include <tuple>
+
+namespace
+{
+
+/// Longest file that counts as a pattern. Room for a hundred thousand items, and a bound to the memory
+/// that a damaged file can ask for.
+constexpr int longestFile = 16 * 1024 * 1024;
+
+/// The open file, and what was found wrong with it. What its header claims is believed only as far as
+/// the file goes.
+class PatternFile
+{
+  public:
+    explicit PatternFile(const std::string& name) : name_(name), size_(FileSize(ProjPath, name.c_str())) {}
+
+    /// @return false when there is nothing to load
+    bool readHeader(HEDRFILE* header)
+    {
+        if (size_ < 0 || size_ > longestFile) {
+            LogText("PTRNDATA", __FILE__, __LINE__, "File Size Error [%s / %d]", name_.c_str(), size_);
+            return false;
+        }
+        return reader_.Open(ProjPath, name_.c_str(), nullptr, 0) == 1 &&
+               reader_.ReadBlock(header, sizeof *header, 0, nullptr, 0) == 1;
+    }
+
+    /// Number of item records that are there.
+    int itemCount(int claimed)
+    {
+        const int room = (size_ - static_cast<int>(sizeof(HEDRFILE))) / static_cast<int>(sizeof(PTRNFILE));
+        return believe("Item Count", claimed, room);
+    }
+
+    PTRNFILE readItem()
+    {
+        PTRNFILE record;
+        reader_.ReadBlock(&record, sizeof record, 0, nullptr, 0);
+        return record;
+    }
+
+    std::string readTexts(int claimed, int items)
+    {
+        const int room =
+            size_ - static_cast<int>(sizeof(HEDRFILE)) - items * static_cast<int>(sizeof(PTRNFILE));
+        const int size = believe("Text Size", claimed, room);
+        std::string block(static_cast<std::size_t>(size), '\0');
+        if (size)
+            reader_.ReadBlock(block.data(), size, 0, nullptr, 0);
+        return block;
+    }
+
+    /// Copies a text into its field, which keeps whole characters only; `Size` is the field's array.
+    template <std::size_t Size> void copy(char (&field)[Size], const std::string& text)
+    {
+        const std::size_t kept = EucCut(text.c_str(), Size - 2);
+        std::memcpy(field, text.data(), kept);
+        field[kept] = '\0';
+        cutTexts_ += kept < text.size();
+    }
+
+    void missingText() { ++missingTexts_; }
+
+    /// One line for all texts of a kind, however many there are.
+    void logTexts() const
+    {
+        if (cutTexts_)
+            LogText("PTRNDATA", __FILE__, __LINE__, "Text Length Error [%s / %d]", name_.c_str(), cutTexts_);
+        if (missingTexts_)
+            LogText("PTRNDATA", __FILE__, __LINE__, "Text End Error [%s / %d]", name_.c_str(), missingTexts_);
+    }
+
+  private:
+    int believe(const char* what, int claimed, int room) const
+    {
+        const int believed = std::clamp(claimed, 0, room);
+        if (believed != claimed)
+            LogText("PTRNDATA", __FILE__, __LINE__, "%s Error [%s / %d / %d]", what, name_.c_str(), claimed,
+                    believed);
+        return believed;
+    }
+
+    std::string name_;
+    int size_;
+    CFileRead reader_;
+    int cutTexts_ = 0;
+    int missingTexts_ = 0;
+};
+
+/// The strings of the text block one after another. A string without its terminator counts as empty, since
+/// what is left of a code could be another code.
+class TextBlock
+{
+  public:
+    TextBlock(PatternFile& file, std::string block) : file_(file), block_(std::move(block)) {}
+
+    std::string next()
+    {
+        const std::size_t end = block_.find('\0', at_);
+        if (end == std::string::npos) {
+            file_.missingText();
+            at_ = block_.size();
+            return "";
+        }
+        const std::size_t begin = at_;
+        at_ = end + 1;
+        return block_.substr(begin, end - begin);
+    }
+
+  private:
+    PatternFile& file_;
+    std::string block_;
+    std::size_t at_ = 0;
+};
+
+/// Which of three texts is shown in the current language.
+template <typename Text> const Text& InLanguage(const Text& first, const Text& second, const Text& third)
+{
+    return Language == 0 ? first : Language == 1 ? second : third;
+}
+
+template <std::size_t Size> std::string FieldText(const char (&field)[Size])
+{
+    return std::string(field, BoundedLength(field, Size));
+}
+
+PTRNHEDR MakeHeader(PatternFile& file, const HEDRFILE& record)
+{
+    PTRNHEDR header{};
+    std::memcpy(header.Parm1, record.Parm1, sizeof header.Parm1);
+    std::memcpy(header.Parm2, record.Parm2, sizeof header.Parm2);
+    file.copy(header.PtrnName, FieldText(InLanguage(record.PtrnName1, record.PtrnName2, record.PtrnName3)));
+    file.copy(header.LogoName, FieldText(record.LogoName));
+    file.copy(header.BmapName, FieldText(record.BmapName));
+    return header;
+}
+
+PTRNDATA MakeItem(const PTRNFILE& record, int recd)
+{
+    PTRNDATA item{};
+    item.Type = record.Type;
+    item.ID_Type = record.ID_Type;
+    item.ID_No = record.ID_No;
+    std::memcpy(item.Parm, record.Parm, sizeof item.Parm);
+    item.Recd = recd;
+    item.Rect = SetRect(item.Parm[PARM_X1], item.Parm[PARM_Y1], item.Parm[PARM_X2], item.Parm[PARM_Y2]);
+    item.wData = STATE_NEVER;
+    return item;
+}
+
+void SetTexts(PatternFile& file, TextBlock& texts, PTRNDATA* item)
+{
+    const std::array<std::string, 3> shown{texts.next(), texts.next(), texts.next()};
+    const std::string name = texts.next();
+    const std::string code = texts.next();
+    file.copy(item->Text, InLanguage(shown[0], shown[1], shown[2]));
+    file.copy(item->ID_Name, name);
+    file.copy(item->ID_Code, code);
+    // The whole code: cut to its field it could be another one.
+    item->DataNo = ConvertDtno(code.c_str(), item->ID_No);
+}
+
+} // namespace
+
+CPtrnData::CPtrnData(const char* name)
+    : PtrnCalnSec(-1), ScrollPtrn1(-1), ScrollPtrn2(-1), ScrollPtrn3(-1), FlikerFlag(0), FlikerTimr(0),
+      RepeatFlag(0)
+{
+    LoadPtrnData(name);
+}
+
+CPtrnData::~CPtrnData()
+{
+    delete[] PtrnData;
+}
+
+int CPtrnData::LoadPtrnData(const char* name)
+{
+    delete[] PtrnData;
+    PtrnData = nullptr;
+    PtrnCont = 0;
+    PtrnHedr = {};
+    DrawOrder.clear();
+
+    const std::string fileName = std::string(name ? name : "") + ".ptn";
+    if (FileExist(ProjPath, fileName.c_str()) == 0)
+        return 0;
+
+    PatternFile file(fileName);
+    HEDRFILE header;
+    if (!file.readHeader(&header))
+        return 0;
+    PtrnHedr = MakeHeader(file, header);
+
+    PtrnCont = file.itemCount(header.DataCount);
+    if (PtrnCont)
+        PtrnData = new PTRNDATA[static_cast<std::size_t>(PtrnCont)];
+    for (int i = 0; i < PtrnCont; ++i)
+        PtrnData[i] = MakeItem(file.readItem(), i);
+
+    TextBlock texts(file, file.readTexts(header.TextSize, PtrnCont));
+    for (int i = 0; i < PtrnCont; ++i)
+        SetTexts(file, texts, &PtrnData[i]);
+    file.logTexts();
+
+    BuildDrawOrder();
+    return 1;
+}
+
+int CPtrnData::ReadPtrnData(int dataNo, int type, PTRNDATA* item)
+{
+    for (int i = 0; i < PtrnCont; ++i)
+        if (PtrnData[i].Type == type && PtrnData[i].DataNo == dataNo) {
+            *item = PtrnData[i];
+            return 1;
+        }
+    return 0;
+}
+
+void CPtrnData::WritePtrnData(const PTRNDATA* item)
+{
+    if (item->Recd < 0 || item->Recd >= PtrnCont)
+        return;
+    PTRNDATA& target = PtrnData[item->Recd];
+    const bool moved = target.Type != item->Type || target.Parm[PARM_PASS] != item->Parm[PARM_PASS];
+    // A caller may hand back the very record it found in the array.
+    std::memmove(&target, item, sizeof target);
+    if (moved)
+        BuildDrawOrder();
+}
+
+void CPtrnData::BuildDrawOrder()
+{
+    DrawOrder.clear();
+    for (int i = 0; i < PtrnCont; ++i) {
+        const int rank = ItemRank(PtrnData[i].Type);
+        if (rank >= 0)
+            DrawOrder.push_back({PtrnData[i].Parm[PARM_PASS], rank, i});
+    }
+    std::sort(DrawOrder.begin(), DrawOrder.end(), [](const Place& one, const Place& other) {
+        return std::tie(one.Pass, one.Rank, one.Recd) < std::tie(other.Pass, other.Rank, other.Recd);
+    });
+}
+
+CPtrnData::Places CPtrnData::PassPlaces(int pass) const
+{
+    return {TypePlaces(pass, 0).first, TypePlaces(pass, CONT_PTRN - 1).second};
+}
+
+CPtrnData::Places CPtrnData::TypePlaces(int pass, int rank) const
+{
+    const auto before = [](const Place& one, const Place& other) {
+        return std::tie(one.Pass, one.Rank) < std::tie(other.Pass, other.Rank);
+    };
+    return std::equal_range(DrawOrder.begin(), DrawOrder.end(), Place{pass, rank, 0}, before);
+}
