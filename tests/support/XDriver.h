@@ -72,7 +72,7 @@ class XDriver
     /// Writes the screen as PNG.
     void save(const std::string& path);
 
-    /// Visible top-level windows, lowest first, with or without a window manager.
+    /// Mapped top-level windows, lowest first, with or without a window manager.
     std::vector<ScreenWindow> windows();
     /// Waits for the window with that title, topmost first.
     ScreenWindow waitForWindow(const std::string& title);

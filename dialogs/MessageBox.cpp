@@ -1,0 +1,140 @@
+#include "dialogs/MessageBox.h"
+
+#include "base/EucText.h"
+
+#include <string>
+#include <vector>
+
+gint MessageButnNo;
+
+namespace
+{
+
+constexpr std::size_t textLimit = 1000; // bytes; more than that does not fit a screen
+constexpr int border = 10;
+
+struct Button {
+    const char* label;
+    void (*clicked)(GtkWidget*, gpointer);
+};
+
+std::vector<Button> ButtonsOf(int type)
+{
+    const Button confirm{" 確認 ", Message_Button1};
+    const Button yes{" はい ", Message_Button1};
+    const Button no{" いいえ ", Message_Button2};
+    const Button cancel{" キャンセル ", Message_Button3};
+    switch (type) {
+    case 1:
+        return {confirm};
+    case 2:
+        return {yes, no};
+    case 3:
+        return {yes, no, cancel};
+    default:
+        return {};
+    }
+}
+
+std::string ToolkitText(const char* text)
+{
+    return text ? EucToUtf8(std::string(text, EucCut(text, textLimit))) : "";
+}
+
+void Pack(GtkWidget* box, GtkWidget* child)
+{
+    gtk_box_pack_start(GTK_BOX(box), child, FALSE, FALSE, 0);
+    gtk_widget_show(child);
+}
+
+GtkWidget* NewWindow(const char* title)
+{
+    GtkWidget* window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+    gtk_window_set_type_hint(GTK_WINDOW(window), GDK_WINDOW_TYPE_HINT_DIALOG);
+    gtk_window_set_modal(GTK_WINDOW(window), TRUE);
+    gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
+    gtk_window_set_title(GTK_WINDOW(window), ToolkitText(title).c_str());
+    gtk_container_set_border_width(GTK_CONTAINER(window), border);
+    gtk_widget_realize(window);
+    gdk_window_set_decorations(gtk_widget_get_window(window), GDK_DECOR_TITLE);
+    g_signal_connect(window, "destroy", G_CALLBACK(Message_Destroy), nullptr);
+    return window;
+}
+
+void Wrap(GtkLabel* label, int width)
+{
+    // A path is no word: a hyphen at the end of its line would look like part of it.
+    PangoAttrList* attributes = pango_attr_list_new();
+    pango_attr_list_insert(attributes, pango_attr_insert_hyphens_new(FALSE));
+    gtk_label_set_attributes(label, attributes);
+    pango_attr_list_unref(attributes);
+    gtk_label_set_line_wrap(label, TRUE);
+    gtk_label_set_line_wrap_mode(label, PANGO_WRAP_WORD_CHAR);
+    gtk_widget_set_size_request(GTK_WIDGET(label), width, -1);
+}
+
+GtkWidget* NewLabel(const char* text)
+{
+    GtkWidget* label = gtk_label_new(ToolkitText(text).c_str());
+    const int room = gdk_screen_width() - 4 * border;
+    GtkRequisition wanted;
+    gtk_widget_size_request(label, &wanted);
+    if (wanted.width > room)
+        Wrap(GTK_LABEL(label), room);
+    return label;
+}
+
+GtkWidget* NewButtonRow(int type, GtkWidget* window)
+{
+    GtkWidget* row = gtk_hbox_new(FALSE, 10);
+    for (const Button& button : ButtonsOf(type)) {
+        GtkWidget* widget = gtk_button_new_with_label(ToolkitText(button.label).c_str());
+        g_signal_connect(widget, "clicked", G_CALLBACK(button.clicked), window);
+        Pack(row, widget);
+    }
+    return row;
+}
+
+void Close(int button, gpointer window)
+{
+    MessageButnNo = button;
+    gtk_widget_destroy(GTK_WIDGET(window));
+}
+
+} // namespace
+
+int MessageBox(const char* title, const char* text, int, int type)
+{
+    MessageButnNo = 0;
+    GtkWidget* window = NewWindow(title);
+    GtkWidget* column = gtk_vbox_new(FALSE, 20);
+    Pack(column, NewLabel(text));
+    Pack(column, NewButtonRow(type, window));
+    gtk_container_add(GTK_CONTAINER(window), column);
+    gtk_widget_show(column);
+    gtk_widget_show(window);
+    gtk_grab_add(window);
+    gtk_main();
+    return MessageButnNo;
+}
+
+void Message_Button1(GtkWidget*, gpointer window)
+{
+    Close(1, window);
+}
+
+void Message_Button2(GtkWidget*, gpointer window)
+{
+    Close(2, window);
+}
+
+void Message_Button3(GtkWidget*, gpointer window)
+{
+    Close(3, window);
+}
+
+void Message_Destroy(GtkWidget* widget)
+{
+    gtk_main_quit();
+    gtk_grab_remove(widget);
+}
