@@ -50,13 +50,14 @@ constexpr int SIZE_LOGMESG2 = 200;
 constexpr int SIZE_LOGFILE = 16;
 
 // Reserved data numbers.
-constexpr int DTNO_SYSCALN = 1;   ///< 1..7: year, month, day, weekday (0 = Sunday), hour, minute, second
-constexpr int DTNO_SYSEROR = 11;  ///< the error line
-constexpr int DTNO_MENTE = 20;    ///< 20..81: the maintenance screen
-constexpr int DTNO_SYSTEM = 100;  ///< first number of the application
+constexpr int DTNO_SYSCALN = 1;  ///< 1..7: year, month, day, weekday (0 = Sunday), hour, minute, second
+constexpr int DTNO_SYSEROR = 11; ///< the error line
+constexpr int DTNO_MENTE = 20;   ///< 20..81: the maintenance screen
+constexpr int DTNO_SYSTEM = 100; ///< first number of the application
 
 // Display state of the items bound to a cell: the bits of the cell's word.
-constexpr int STATE_COLOR = 0x0003;   ///< colour selection 0..3; bit 0 also locks buttons, radio buttons and check boxes
+constexpr int STATE_COLOR =
+    0x0003; ///< colour selection 0..3; bit 0 also locks buttons, radio buttons and check boxes
 constexpr int STATE_NEVER = 0x0800;   ///< never displayed; only in an item's cached copy
 constexpr int STATE_FROZEN = 0x1000;  ///< not redrawn by the tick, not hit; set while the field is in edit
 constexpr int STATE_FLICKER = 0x2000; ///< blinks

@@ -1,7 +1,30 @@
 // main() of every test executable.
+#include "tests/support/Sanitizer.h"
+
 #include <clocale>
 #include <cstdio>
 #include <gtest/gtest.h>
+
+// Asked by the sanitizers' run-time libraries; without them nobody calls these.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return kLeakSuppressions;
+}
+
+extern "C" const char* __lsan_default_options()
+{
+    return "print_suppressions=0";
+}
+
+extern "C" const char* __asan_default_options()
+{
+    return "detect_stack_use_after_return=1";
+}
+
+extern "C" const char* __ubsan_default_options()
+{
+    return "print_stacktrace=1";
+}
 
 int main(int argc, char** argv)
 {

@@ -22,7 +22,8 @@ std::string readFile(const std::string& path)
 
 void writeFile(const std::string& path, const std::string& bytes)
 {
-    std::ofstream(path, std::ios::binary | std::ios::trunc).write(bytes.data(), static_cast<long>(bytes.size()));
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        .write(bytes.data(), static_cast<long>(bytes.size()));
 }
 
 std::string int32(std::int32_t value)
@@ -72,7 +73,8 @@ Project::~Project()
 Project& Project::set(const std::string& section, const std::string& key, const std::string& value)
 {
     unset(section, key);
-    auto place = std::find_if(keys_.begin(), keys_.end(), [&](auto& entry) { return entry.first == section; });
+    auto place =
+        std::find_if(keys_.begin(), keys_.end(), [&](auto& entry) { return entry.first == section; });
     if (place == keys_.end())
         place = keys_.insert(keys_.end(), {section, {}});
     place->second.emplace_back(key, value);

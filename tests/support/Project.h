@@ -9,15 +9,15 @@
 
 struct LogLine {
     std::string time;
-    std::string file;    ///< caller's source file, empty when none
-    int line = 0;        ///< caller's line, 0 when no file
-    std::string mesg1;   ///< category without trailing blanks
-    std::string mesg2;   ///< message
+    std::string file;  ///< caller's source file, empty when none
+    int line = 0;      ///< caller's line, 0 when no file
+    std::string mesg1; ///< category without trailing blanks
+    std::string mesg2; ///< message
 };
 
 class Project
 {
-public:
+  public:
     /// Makes <temporary>/panel.ini, <temporary>/ProjPath and <temporary>/log, makes the temporary folder
     /// the working directory and points ProfName and ProjPath at it. Nothing is loaded yet.
     Project();
@@ -56,7 +56,7 @@ public:
     /// Empties the log files.
     void clearLog();
 
-private:
+  private:
     void writeProfile() const;
     std::string root_;
     std::string before_;

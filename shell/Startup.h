@@ -1,0 +1,23 @@
+// Start-up, shut-down and the tick of 100 ms.
+#pragma once
+
+/// Set to 3 by TessaryInit; the framework does not read it.
+extern int Platform;
+
+/// Starts the framework: finds the profile beside the program, opens the log, loads the common data and
+/// the drawing resources.
+/// @param path  the program's own path (argv[0]); the profile has its folder and base name, extension "ini"
+/// @return 1 on success; 0 after a message box has told what is missing, or when the data can not be loaded
+int TessaryInit(char* path);
+
+/// Releases the common data and closes the log. Safe after a start-up that failed.
+void TessaryExit();
+
+/// The framework's own part of a tick: clock snapshot, clock cells 1..7, the log's timer every tenth tick.
+void TessaryTimr();
+
+/// The tick: application hook, clock, windows, stop countdown. @return always 1, so that it is called again
+int Timer_Event(void* data);
+
+/// An entry point for applications; mode 0 reads the profile key "SHUTDOWN" and nothing else happens.
+void ShutDown(int mode);

@@ -1,0 +1,162 @@
+// The real program, started as a user starts it, with projects of the test's own.
+#include "tests/support/PatternBuilder.h"
+#include "tests/support/Program.h"
+#include "tests/support/Project.h"
+#include "tests/support/XDriver.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <X11/keysym.h>
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace
+{
+
+const char* const menu = "テスト  ［メニュー選択］";
+const char* const other = "テスト  （図形）";
+const char* const notice = "システム終了";
+
+/// A program with a name of the test's own, so that its profile is the project's.
+class Panel : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        std::string colors;
+        for (int number = 0; number < 100; number++)
+            colors += int32(number * 600) + int32(65535 - number * 600) + int32(number * 300);
+        project.write("PtrnColr", colors);
+        project.set("TESSARY", "DISPSIZE", "1280,1024");
+        project.set("PTRN", "PTRNSTART", menu);
+        project.set("FONT", "FONTNAME0", "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
+        project.code("DATA", 200);
+    }
+
+    void run() { program.emplace("panel", project.root() + "/panel"); }
+
+    int waitEnd()
+    {
+        user.waitFor([&] { return program->status().has_value(); }, "the end of the program");
+        return program->status().value_or(-1);
+    }
+
+    std::vector<std::string> logged() { return project.messages(); }
+
+    void waitLogged(const std::string& message)
+    {
+        user.waitFor(
+            [&] {
+                const auto messages = logged();
+                return std::find(messages.begin(), messages.end(), message) != messages.end();
+            },
+            "the log line " + message);
+    }
+
+    XDriver user;
+    Project project;
+    std::optional<Program> program;
+};
+
+} // namespace
+
+TEST_F(Panel, tells_that_its_profile_is_missing_and_ends_with_status_0)
+{
+    unlink(project.profile().c_str());
+    run();
+    const ScreenWindow box = user.waitForWindow("起動不可");
+    user.clickAt(box.x + box.width / 2, box.y + box.height / 2); // the text, not the button
+    EXPECT_FALSE(program->status());
+    user.key(XK_Tab);
+    user.key(XK_space);
+    EXPECT_EQ(waitEnd(), 0) << program->output();
+}
+
+TEST_F(Panel, tells_that_the_project_is_not_set_and_ends_with_status_0)
+{
+    project.unset("TESSARY", "PROJECT");
+    run();
+    const ScreenWindow box = user.waitForWindow("起動不可");
+    user.requestClose(box.id);
+    EXPECT_EQ(waitEnd(), 0) << program->output();
+    EXPECT_THAT(logged(), IsEmpty()) << "the log is opened only after the project is known";
+}
+
+TEST_F(Panel, shows_the_start_pattern_opens_another_and_stops)
+{
+    project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", notice);
+    Pattern(menu).size(300, 200).item(PTRN_BUTN, 10, 10, 110, 50).text("図形").action(8, other).save(project);
+    Pattern(other).size(320, 210).item(PTRN_BUTN, 10, 10, 110, 50).text("終了").action(16).save(project);
+    Pattern(notice).size(150, 80).save(project);
+    run();
+
+    EXPECT_EQ(user.waitForWindow(menu).width, 300);
+    user.clickAt(50, 30);
+    EXPECT_EQ(user.waitForWindow(other).width, 320);
+    user.waitFor([&] { return user.windows().size() == 1; }, "the menu to go");
+    user.clickAt(50, 30);
+    user.waitForWindow(notice);
+    EXPECT_EQ(waitEnd(), 0) << program->output();
+    EXPECT_EQ(logged().front(), "システム起動");
+    EXPECT_EQ(logged().back(), "システム停止");
+}
+
+TEST_F(Panel, idles_without_a_window_when_the_start_pattern_is_unknown)
+{
+    project.set("PTRN", "PTRNSTART", "no such screen");
+    run();
+    waitLogged("最上位ウィンドウ表示に失敗  [no such screen]");
+    EXPECT_FALSE(program->status());
+    EXPECT_THAT(user.windows(), IsEmpty());
+}
+
+TEST_F(Panel, idles_without_a_window_when_there_is_no_start_pattern)
+{
+    project.unset("PTRN", "PTRNSTART");
+    run();
+    waitLogged("最上位ウィンドウ表示に失敗  []");
+    EXPECT_FALSE(program->status());
+}
+
+TEST_F(Panel, starts_without_any_file_in_its_project)
+{
+    for (const char* name : {"PtrnCode", "PtrnColr"})
+        unlink((project.folder() + "/" + name).c_str());
+    Pattern(menu).size(300, 200).save(project);
+    run();
+    EXPECT_EQ(user.waitForWindow(menu).width, 300);
+    EXPECT_FALSE(program->status());
+    EXPECT_THAT(program->output(), testing::Not(HasSubstr("ERROR")));
+}
+
+TEST_F(Panel, shows_a_window_of_one_pixel_for_a_pattern_that_is_no_pattern)
+{
+    project.write(std::string(menu) + ".ptn", "this is no pattern");
+    run();
+    user.waitForWindow(menu);
+    EXPECT_FALSE(program->status());
+    EXPECT_THAT(logged(), Contains(std::string("パターンを表示できない  [") + menu + "]"));
+}
+
+TEST_F(Panel, shows_its_clock_values_from_the_first_tick_on)
+{
+    Pattern(menu)
+        .size(300, 200)
+        .item(PTRN_NUMR, 20, 20, 100, 40)
+        .code("DATA", 0)
+        .parm(FIELD_WIDTH, 4)
+        .parm(TEXT_BACKED, 1)
+        .save(project);
+    run();
+    user.waitForWindow(menu);
+    // The year has as many pixels as its four digits need; before the first tick it is a single zero.
+    user.waitFor(
+        [&] {
+            const Picture digits = user.picture(20, 20, 8, 16); // the thousands
+            return std::any_of(digits.pixels.begin(), digits.pixels.end(),
+                               [&](std::uint32_t pixel) { return pixel != digits.at(0, 0); });
+        },
+        "the year in its field");
+}

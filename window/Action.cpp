@@ -1,0 +1,96 @@
+// Action codes, messages and closing.
+#include "comndata/PtrnCode.h"
+#include "shell/Logfile.h"
+#include "shell/LogText.h"
+#include "shell/Request.h"
+#include "window/PtrnDisp.h"
+#include "window/Retire.h"
+
+namespace
+{
+constexpr char kLog[] = "PTRNDISP";
+}
+
+void CPtrnDisp::ExecMessage(PTRNDATA* item)
+{
+    switch (item->ID_Type) {
+    case ACTION_MESSAGE_SELF:
+    case ACTION_MESSAGE_CHILD1:
+    case ACTION_MESSAGE_CHILD2:
+    case ACTION_MESSAGE_PARENT:
+        PtrnSendMessage(item->ID_Type - ACTION_MESSAGE_SELF, item->DataNo, nullptr, 0);
+        break;
+    case ACTION_OPEN_CHILD1:
+        PtrnDispChild(1, item->ID_Name, nullptr, 0);
+        break;
+    case ACTION_OPEN_CHILD2:
+        PtrnDispChild(2, item->ID_Name, nullptr, 0);
+        break;
+    case ACTION_OPEN_TOP:
+        PtrnDispTopWnd(item->ID_Name, nullptr, 0);
+        break;
+    case ACTION_CLOSE_SELF:
+    case ACTION_CLOSE_CHILD1:
+    case ACTION_CLOSE_CHILD2:
+    case ACTION_CLOSE_SYSTEM:
+        PtrnCloseWnd(item->ID_Type - ACTION_CLOSE_SELF, nullptr, 0);
+        break;
+    case ACTION_STOP:
+        ReqSystemStop(nullptr, 0);
+        break;
+    default:
+        SystemAction(*item);
+        break;
+    }
+}
+
+void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
+{
+    switch (which) {
+    case 0:
+        if (!ParentWnd)
+            LogfileWrite(kLog, "最上位ウィンドウを閉じることはできません。", file, line);
+        else if (PtrnType == KIND_CHILD1 || PtrnType == KIND_CHILD2)
+            ParentWnd->PtrnCloseWnd(PtrnType, file, line);
+        else if (PtrnType == KIND_SYSTEM)
+            PtrnDispSysWnd("", file, line);
+        break;
+    case 1:
+    case 2:
+        if (CPtrnDisp*& slot = which == 1 ? ChildWnd1 : ChildWnd2) {
+            CPtrnDisp* child = slot;
+            child->PtrnExit();
+            slot = nullptr;
+            RetirePtrnWnd(child);
+            if (file)
+                LogfileWrite(kLog,
+                             which == 1 ? "子ウィンドウ（１）を閉じる。" : "子ウィンドウ（２）を閉じる。",
+                             file, line);
+        }
+        break;
+    case 3:
+        PtrnDispSysWnd("", nullptr, 0);
+        if (file)
+            LogfileWrite(kLog, "システムウィンドウを閉じる。", file, line);
+        break;
+    default:
+        break;
+    }
+}
+
+void CPtrnDisp::PtrnSendMessage(int target, int mesg, const char* file, int line)
+{
+    CPtrnDisp* receiver = nullptr;
+    if (target == 0)
+        receiver = this;
+    else if (target == 1) // child 2 is reached only through target 1, while slot 1 is empty
+        receiver = ChildWnd1 ? ChildWnd1 : ChildWnd2;
+    else if (target == 3)
+        receiver = ParentWnd;
+    if (receiver)
+        receiver->PtrnMesgFunc(mesg);
+
+    char name[SIZE_DTNONAME + 1];
+    if (file && ConvertDtno(mesg, name))
+        LogText(kLog, file, line, "メッセージ送信  [%d / %s]", target, name);
+}

@@ -1,0 +1,233 @@
+// Editing a field: start, end, store, draw.
+#include "base/EucText.h"
+#include "comndata/ComnData.h"
+#include "comndata/LimtData.h"
+#include "comndata/MesgData.h"
+#include "comndata/PtrnCode.h"
+#include "config/Profile.h"
+#include "draw/Resource.h"
+#include "pattern/ItemParm.h"
+#include "shell/LogText.h"
+#include "window/KeyText.h"
+#include "window/PtrnDisp.h"
+
+#include <cstdlib>
+
+namespace
+{
+
+constexpr char kLog[] = "PTRNDISP";
+
+// What KeyInputDisp draws.
+enum KeyDraw { DRAW_BACK = 1, DRAW_TEXT = 2, DRAW_CURSOR = 4, DRAW_NO_CURSOR = 8 };
+
+const char* NameOf(int dataNo)
+{
+    static char name[SIZE_DTNONAME + 1];
+    ConvertDtno(dataNo, name);
+    return name;
+}
+
+} // namespace
+
+void CPtrnDisp::KeyInputStart(int dataNo, const char* file, int line)
+{
+    PTRNDATA item;
+    if (!PtrnReadData(dataNo, PTRN_CHAR, &item) && !PtrnReadData(dataNo, PTRN_NUMR, &item)) {
+        LogText(kLog, file, line, "キー入力開始に失敗  [%s]", NameOf(dataNo));
+        return;
+    }
+    if (item.wData >= STATE_DISABLE || item.Parm[FIELD_KEYENTRY] != 1)
+        return;
+    if (file)
+        LogText(kLog, file, line, "キー入力開始  [%s]", NameOf(dataNo));
+    KeyInputStart(&item);
+}
+
+void CPtrnDisp::KeyInputStart(PTRNDATA* item)
+{
+    KeyInputStop(0, 0, nullptr, 0);
+    if (PtrnKeyStart(item) != 1)
+        return;
+
+    KeyInputMode = 1;
+    KeyInputPtrn = *item;
+    OR_wData(item->DataNo, STATE_FROZEN, nullptr, 0);
+    CopyText(KeyInputText, item->Type == PTRN_CHAR ? item->Text : ConvertNumrData(item));
+    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
+
+    KeyInputPost = item->Type == PTRN_NUMR ? KeyFieldWidth(*item) : 0;
+    KeyInputCode = 0;
+    KeyInputFlag = 0;
+    KeyInputTimr = KEYCURSOR_OFF; // the cursor appears at the next tick
+}
+
+int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int line)
+{
+    if (KeyInputMode != 1)
+        return 1;
+    ClearErrorMesg();
+    if (KeyInputCheck(static_cast<int>(key)) == 0)
+        return 0;
+    if (file)
+        LogText(kLog, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo));
+
+    PTRNDATA item = KeyInputPtrn;
+    if (Draw) {
+        KeyInputDisp(Draw.get(), DRAW_NO_CURSOR);
+        item.wData = Get_wData(item.DataNo, nullptr, 0);
+        item.fData = Get_fData(item.DataNo, nullptr, 0);
+        CopyText(item.sData, Get_sData(item.DataNo, nullptr, 0));
+        PtrnData->DispPtrnData(Draw.get(), &item, 1);
+    }
+    KeyInputMode = 0;
+    AND_wData(item.DataNo, static_cast<WORD>(~STATE_FROZEN), nullptr, 0);
+    if (key != 0)
+        PtrnKeyFunc(static_cast<int>(key), flags, &KeyInputPtrn);
+    return 1;
+}
+
+int CPtrnDisp::KeyInputCheck(int key)
+{
+    if (key == 0 || key == KEY_ESCAPE)
+        return 1;
+    const int no = KeyInputPtrn.DataNo;
+    if (KeyInputPtrn.Type == PTRN_NUMR) {
+        const float value = KeyInputPtrn.Parm[FIELD_HEX] ? static_cast<float>(atoh(KeyInputText))
+                                                         : static_cast<float>(std::atof(KeyInputText));
+        if (ChckLimtData(no, value, nullptr, 0) != 1)
+            return 0;
+        Set_fData(no, value, nullptr, 0);
+    } else {
+        DropTrailingBlank(KeyInputText, KeyFieldWidth(KeyInputPtrn));
+        Set_sData(no, KeyInputText, nullptr, 0);
+    }
+    return 1;
+}
+
+void CPtrnDisp::KeyEntry(unsigned int key, int flags)
+{
+    if (ChildWnd1)
+        ChildWnd1->KeyEntry(key, flags);
+    if (ChildWnd2)
+        ChildWnd2->KeyEntry(key, flags);
+    if (KeyInputMode != 1)
+        return;
+
+    const int nav = KeyInputPtrn.Parm[FIELD_NAVIGATION];
+    switch (key) {
+    case KEY_BACKSPACE:
+    case KEY_DELETE:
+        KeyInputDelete(key);
+        return;
+    case KEY_RETURN:
+    case KEY_ESCAPE:
+    case KEY_TAB:
+        KeyInputStop(key, flags, nullptr, 0);
+        return;
+    case KEY_LEFT:
+    case KEY_RIGHT:
+        KeyInputShift(key, flags, nav);
+        return;
+    case KEY_UP:
+        if (nav & NAV_UP)
+            KeyInputStop(key, flags, nullptr, 0);
+        return;
+    case KEY_DOWN:
+        if (nav & NAV_DOWN)
+            KeyInputStop(key, flags, nullptr, 0);
+        return;
+    default:
+        break;
+    }
+
+    const unsigned char byte = static_cast<unsigned char>(key & 0xFF);
+    if (KeyInputPtrn.Type == PTRN_NUMR) {
+        if (NumericKey(KeyInputPtrn, KeyInputText, KeyInputPost, byte))
+            KeyInputInsert(byte, 0);
+    } else if (IsEucHalf(byte)) {
+        if (KeyInputCode) {
+            KeyInputInsert(KeyInputCode, byte);
+            KeyInputCode = 0;
+        } else {
+            KeyInputCode = byte;
+        }
+    } else if (PrintableKey(byte)) {
+        KeyInputInsert(byte, 0);
+    }
+}
+
+void CPtrnDisp::KeyInputInsert(unsigned int c1, unsigned int c2)
+{
+    KeyInputPost = InsertKey(KeyInputPtrn, KeyInputText, KeyInputPost, c1, c2);
+    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
+    KeyInputFlag = 0;
+    KeyInputTimr = KEYCURSOR_OFF;
+}
+
+void CPtrnDisp::KeyInputDelete(unsigned int key)
+{
+    KeyInputPost = DeleteKey(KeyFieldWidth(KeyInputPtrn), KeyInputText, KeyInputPost, key);
+    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
+    KeyInputFlag = 0;
+    KeyInputTimr = KEYCURSOR_OFF;
+}
+
+void CPtrnDisp::KeyInputShift(unsigned int key, int flags, int nav)
+{
+    const int moved = ShiftKey(KeyInputPtrn, KeyInputText, KeyInputPost, key);
+    if (moved == KeyInputPost) {
+        if (nav & (key == KEY_LEFT ? NAV_LEFT : NAV_RIGHT))
+            KeyInputStop(key, flags, nullptr, 0);
+        return;
+    }
+    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT | DRAW_NO_CURSOR);
+    KeyInputPost = moved;
+    KeyInputFlag = 0;
+    KeyInputTimr = KEYCURSOR_OFF;
+}
+
+void CPtrnDisp::KeyTimer(CDraw* draw)
+{
+    if (KeyInputMode != 1)
+        return;
+    ++KeyInputTimr;
+    if (KeyInputTimr < (KeyInputFlag ? KEYCURSOR_ON : KEYCURSOR_OFF))
+        return;
+    KeyInputFlag = !KeyInputFlag;
+    KeyInputTimr = 0;
+    KeyInputDisp(draw, KeyInputFlag ? DRAW_CURSOR : DRAW_NO_CURSOR);
+}
+
+void CPtrnDisp::KeyReset()
+{
+    if (ChildWnd1)
+        ChildWnd1->KeyReset();
+    if (ChildWnd2)
+        ChildWnd2->KeyReset();
+    if (KeyInputMode == 1)
+        KeyInputStop(0, 0, nullptr, 0);
+}
+
+void CPtrnDisp::KeyInputDisp(CDraw* draw, int mode)
+{
+    if (!draw)
+        return;
+    const PTRNDATA& item = KeyInputPtrn;
+    const int font = item.Parm[TEXT_FONT];
+    const int color = Header(HEDR_EDIT_COLOR);
+    const int back = Header(HEDR_EDIT_BACK);
+    const SIZE cell = FontCell(font);
+    const int x = item.Parm[PARM_X1];
+    const int y = item.Parm[PARM_Y1];
+    const int cursor = x + cell.cx * KeyInputPost;
+
+    if (mode & DRAW_BACK)
+        draw->DrawRect(x, y, x + cell.cx * KeyFieldWidth(item), y + cell.cy, 0, 0, back, back);
+    if (mode & DRAW_TEXT)
+        draw->DrawText(x, y, font, color, back, KeyInputText);
+    if (mode & DRAW_CURSOR)
+        draw->DrawLine(cursor, y, cursor, y + cell.cy, 0, 1, 0, color);
+    if (mode & DRAW_NO_CURSOR)
+        draw->DrawLine(cursor, y, cursor, y + cell.cy, 0, 1, 0, back);
+}

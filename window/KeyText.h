@@ -1,0 +1,51 @@
+// How a key changes the text of a field in edit. Texts are EUC-JP in buffers of KEYTEXT_SIZE bytes; cursors
+// are byte indexes.
+#pragma once
+
+#include "pattern/PtrnData.h"
+
+constexpr int KEYTEXT_SIZE = 256;
+
+// Key values.
+enum KeyValue : unsigned int {
+    KEY_BACKSPACE = 0xFF08,
+    KEY_TAB = 0xFF09,
+    KEY_RETURN = 0xFF0D,
+    KEY_ESCAPE = 0xFF1B,
+    KEY_LEFT = 0xFF51,
+    KEY_UP = 0xFF52,
+    KEY_RIGHT = 0xFF53,
+    KEY_DOWN = 0xFF54,
+    KEY_DELETE = 0xFFFF,
+};
+
+// Navigation flags of a field: which keys end the input.
+enum Navigation {
+    NAV_UP = 1,
+    NAV_DOWN = 2,
+    NAV_LEFT = 4,  ///< Left at the start
+    NAV_RIGHT = 8, ///< Right at the end
+};
+
+/// Field length in bytes, held within what an edited text can be.
+int KeyFieldWidth(const PTRNDATA& item);
+
+/// True for a byte that stands for itself in a text field.
+bool PrintableKey(unsigned char byte);
+
+/// True when a numeric field takes the byte: digits; in a hexadecimal field also a-f and A-F; otherwise '-'
+/// at the start and '.' where the field has decimals, each once.
+bool NumericKey(const PTRNDATA& item, const char* text, int cursor, unsigned char byte);
+
+/// Inserts one or two bytes (c2 0: one). A numeric field keeps its length: its leftmost byte drops out and
+/// the cursor stays. A text field grows and the cursor moves on. @return the new cursor
+int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, unsigned int c2);
+
+/// BackSpace and Delete; the field is filled up with a blank. @return the new cursor
+int DeleteKey(int width, char* text, int cursor, unsigned int key);
+
+/// Left and Right. @return the new cursor; the old one where it can not move
+int ShiftKey(const PTRNDATA& item, const char* text, int cursor, unsigned int key);
+
+/// From the field's last position on, blanks end the text; blanks before that position stay.
+void DropTrailingBlank(char* text, int width);

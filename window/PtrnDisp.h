@@ -1,0 +1,235 @@
+// The window that shows one pattern. A screen class derives from it and overrides its hooks.
+#pragma once
+
+#include "base/Constants.h"
+#include "base/Types.h"
+#include "draw/DrawCntl.h"
+#include "pattern/PtrnData.h"
+
+#include <gtk/gtk.h>
+
+/// Key cursor: ticks shown and ticks hidden.
+constexpr int KEYCURSOR_ON = 5;
+constexpr int KEYCURSOR_OFF = 2;
+
+/// What a window is, CPtrnDisp::PtrnType.
+enum PtrnKind {
+    KIND_APPLICATION = 0,
+    KIND_CHILD1 = 1,
+    KIND_CHILD2 = 2,
+    KIND_SYSTEM = 3,
+};
+
+/// What an operated item does, PTRNDATA::ID_Type.
+enum ActionCode {
+    ACTION_NONE = 0,
+    ACTION_MESSAGE_SELF = 1,
+    ACTION_MESSAGE_CHILD1 = 2,
+    ACTION_MESSAGE_CHILD2 = 3,
+    ACTION_MESSAGE_PARENT = 4,
+    ACTION_OPEN_CHILD1 = 5,
+    ACTION_OPEN_CHILD2 = 6,
+    ACTION_OPEN_SYSTEM = 7,
+    ACTION_OPEN_TOP = 8,
+    ACTION_CLOSE_SELF = 9,
+    ACTION_CLOSE_CHILD1 = 10,
+    ACTION_CLOSE_CHILD2 = 11,
+    ACTION_CLOSE_SYSTEM = 12,
+    ACTION_VERSION = 13,
+    ACTION_MAINTENANCE = 14,
+    ACTION_HARDCOPY = 15,
+    ACTION_STOP = 16,
+};
+
+class CPtrnDisp
+{
+  public:
+    GtkWidget* Widget = nullptr;   ///< the top-level window; null before opening and after closing
+    GtkWidget* DrawArea = nullptr; ///< the drawing area inside it
+    GdkPixmap* Pixmap = nullptr;   ///< back buffer, pattern width x height; null until the first configure
+    char PtrnName[SIZE_PTRNNAME + 2] = "";
+    int PtrnNo = 0;                ///< ConvertPtrn(PtrnName); keys the remembered position
+    int PtrnType = 0;              ///< PtrnKind
+    CPtrnData* PtrnData = nullptr; ///< the loaded pattern; owned
+    CPtrnDisp* ParentWnd = nullptr;
+    CPtrnDisp* ChildWnd1 = nullptr;
+    CPtrnDisp* ChildWnd2 = nullptr;
+    RECT WindRect{};       ///< position on the screen and size
+    POINT Offset{};        ///< the pattern point shown at the window's top-left corner
+    int CursorType = 0;    ///< mouse cursor 0..7, applied again at every tick
+    BOOL MoveWnd = 0;      ///< a window drag is in progress
+    POINT MovePoint{};     ///< last drag point in screen coordinates
+    BOOL ScrollBar = 0;    ///< a thumb drag is in progress
+    PTRNDATA ScrollPtrn{}; ///< the scroll bar being dragged
+    int KeyInputMode = 0;  ///< 1 while a field is in edit
+    PTRNDATA KeyInputPtrn{};
+    char KeyInputText[256] = "";
+    UINT KeyInputCode = 0; ///< first byte of a two-byte character that waits for its second
+    int KeyInputPost = 0;  ///< cursor position, a byte index
+    int KeyInputFlag = 0;  ///< 1 while the key cursor is shown
+    int KeyInputTimr = 0;  ///< blink counter in ticks
+
+    CPtrnDisp();
+
+    // --- hooks -----------------------------------------------------------------------------------
+
+    /// Once, after the pattern is loaded and the widgets exist, before the window is shown.
+    virtual void PtrnInitFunc();
+    /// When the window is exited, before its toolkit window goes.
+    virtual void PtrnExitFunc();
+    /// @param mode  0 at the end of a full paint, 1 at every tick after the items
+    virtual void PtrnDispFunc(CDraw* draw, int mode);
+    /// Every tick, before any drawing of that tick.
+    virtual void PtrnTimrFunc();
+    /// A message; `mesg` is the sending item's data number.
+    virtual void PtrnMesgFunc(int mesg);
+    /// Right click on an item.
+    virtual void PtrnRbtnFunc(int dataNo);
+    /// First, for every press and motion off the title bar. @param button 1 left, 2 right, 0 motion
+    /// @return 1 to keep the event from the items
+    virtual int PtrnMouseFunc(POINT pt, int button, int flags);
+    /// Never called by the framework.
+    virtual int PtrnKeyInput(int key, int flags);
+    /// Before key input starts on an item. @return 1 to allow it
+    virtual int PtrnKeyStart(PTRNDATA* item);
+    /// After key input ended with a key.
+    virtual void PtrnKeyFunc(int key, int flags, PTRNDATA* item);
+
+    /// Last of the virtual functions, so that the hooks keep the first ten slots.
+    virtual ~CPtrnDisp();
+    CPtrnDisp(const CPtrnDisp&) = delete;
+    CPtrnDisp& operator=(const CPtrnDisp&) = delete;
+
+    // --- opening and closing ---------------------------------------------------------------------
+
+    /// Opens the window at the place that its pattern's header tells.
+    /// @param parent  null for the application window
+    /// @param name    pattern name
+    /// @param kind    PtrnKind
+    void PtrnDispInit(CPtrnDisp* parent, const char* name, int kind);
+    /// Opens it with its top-left corner at (x, y) of the screen.
+    void PtrnDispInit(CPtrnDisp* parent, const char* name, int kind, int x, int y);
+    /// Opens it in a rectangle of the screen, which may be smaller than the pattern.
+    void PtrnDispInit(CPtrnDisp* parent, const char* name, int kind, RECT rect);
+    /// Calls PtrnInitFunc and takes the cursor from the header.
+    void PtrnInit();
+    /// Exits the children, saves the position (not of the application window), calls PtrnExitFunc and
+    /// destroys the toolkit window. Does nothing for a window that is not open.
+    void PtrnExit();
+    /// Destroys the toolkit window alone: no hook, no saved position, children stay.
+    void DestroyWidget();
+
+    // --- painting and the tick -------------------------------------------------------------------
+
+    /// Makes the back buffer and draws everything into it.
+    void PaintEvent();
+    /// Copies the visible part of the back buffer to the window.
+    void UpdateEvent();
+    /// Asks the toolkit for an expose of the whole window.
+    void PtrnUpdate();
+    /// One tick of this window and its children.
+    void TimrEvent();
+    /// @param type  cursor 0..7; other numbers leave the pointer as it is
+    void PtrnSetCursor(int type, const char* file, int line);
+
+    // --- mouse; points in window coordinates, flags 1 Shift, else 2 Control, else 4 Alt, else 0 ------
+
+    void LButtonDown(POINT pt, int flags);
+    void RButtonDown(POINT pt, int flags);
+    void LButtonUp(POINT pt, int flags);
+    void RButtonUp(POINT pt, int flags);
+    void MouseMove(POINT pt, int flags);
+    /// @param direction  0 up, 1 down. @return 1 when a value changed
+    int MouseWheel(POINT pt, int direction);
+    void MouseLeave();
+    /// 1 when the items may be operated: no system window and no modal child is open.
+    int MouseEnable();
+    /// Carries out the item's action code.
+    void ExecMessage(PTRNDATA* item);
+
+    // --- window stack ----------------------------------------------------------------------------
+
+    /// Opens a pattern in child slot 1 (`which` 1) or 2 (any other value); an occupant is destroyed first.
+    void PtrnDispChild(int which, const char* name, const char* file, int line);
+    void PtrnDispChild(int which, const char* name, int x, int y, const char* file, int line);
+    void PtrnDispChild(int which, const char* name, RECT rect, const char* file, int line);
+    /// Opens a child beside a rectangle or point of the screen, so that it stays on the display.
+    void PtrnDispPopup(int which, const char* name, RECT rect, const char* file, int line);
+    void PtrnDispPopup(int which, const char* name, POINT pt, const char* file, int line);
+    /// @param which  0 this window, 1 and 2 the children, 3 the system window
+    void PtrnCloseWnd(int which, const char* file, int line);
+    /// @param target  0 this window, 1 child 1 or else child 2, 2 nobody, 3 the parent
+    void PtrnSendMessage(int target, int mesg, const char* file, int line);
+    /// Scrolls the view of this window (0), a child (1, 2) or the parent (3).
+    void PtrnSetOffset(int target, int x, int y, const char* file, int line);
+    /// Sizes the scroll bar bound to `dataNo` for a list of `total` rows whose first visible row is `pos`.
+    void PtrnSetScroll(int dataNo, int total, int pos, const char* file, int line);
+    /// Redraws the items of a data number, of one type or (type 0) of all.
+    void PtrnDispData(CDraw* draw, int dataNo, int type);
+    /// The item under a pattern point. @return 1 found, 0 none
+    int PtrnTestData(POINT pt, PTRNDATA* out);
+    /// 1 when an item of that type and data number that is not hidden lies under the point.
+    int PtrnTestData(POINT pt, int dataNo, int type);
+    RECT PtrnGetWindow() { return WindRect; }
+    POINT PtrnGetOffset() { return Offset; }
+    PTRNHEDR PtrnReadHedr();
+    /// Header of a pattern that need not be open. @return 1, or 0 when it can not be read
+    int PtrnReadHedr(const char* name, PTRNHEDR* out);
+    int PtrnReadData(int dataNo, int type, PTRNDATA* out);
+    void PtrnWriteData(PTRNDATA* item);
+
+    // --- dragging; points in pattern coordinates ---------------------------------------------------
+
+    void MoveWindow1(POINT pt);
+    void MoveWindow2(POINT pt);
+    void MoveWindow3();
+    void MoveScrollBar1(PTRNDATA* item);
+    void MoveScrollBar2(POINT pt);
+    void MoveScrollBar3();
+
+    // --- key input -------------------------------------------------------------------------------
+
+    /// Starts editing the field bound to a data number.
+    void KeyInputStart(int dataNo, const char* file, int line);
+    void KeyInputStart(PTRNDATA* item);
+    /// Ends the edit. @param key the ending key, 0 to cancel. @return 0 when the value was refused
+    int KeyInputStop(unsigned int key, int flags, const char* file, int line);
+    /// Checks and stores the edited value. @return 0 when it was refused
+    int KeyInputCheck(int key);
+    /// A key for this window's tree.
+    void KeyEntry(unsigned int key, int flags);
+    /// Blinks the key cursor; called every tick.
+    void KeyTimer(CDraw* draw);
+    /// Cancels key input in this window's tree.
+    void KeyReset();
+    void KeyInputInsert(unsigned int c1, unsigned int c2);
+    void KeyInputDelete(unsigned int key);
+    void KeyInputShift(unsigned int key, int flags, int nav);
+    /// @param mode  bits: 1 background, 2 text, 4 show the cursor, 8 hide it
+    void KeyInputDisp(CDraw* draw, int mode);
+
+  private:
+    friend int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);
+    /// The one drawing context of the back buffer; made and released with it.
+    PaintDrawPtr Draw;
+
+    void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
+    void PlaceWindow();
+    void ReleaseBuffer();
+    int Header(int parm) const { return PtrnData->PtrnHedr.Parm1[parm]; }
+    void SystemAction(const PTRNDATA& item);
+};
+
+/// Makes the toolkit window of `wnd`, connects its events, runs PtrnInit and shows it.
+/// @param parent  window that it stays above, or null
+/// @param rect    place and size on the screen in pixels
+void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
+
+// Toolkit handlers; each returns TRUE.
+int Configure_Event(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
+int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
+int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
+int Mouse_Release(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
+int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd);
+int Mouse_Leave(GtkWidget* widget, GdkEventCrossing* event, CPtrnDisp* wnd);
+int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);

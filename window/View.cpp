@@ -1,0 +1,125 @@
+// What a screen class reads and sets of its own pattern: view offset, scroll bars, items, headers.
+#include "base/EucText.h"
+#include "comndata/ComnData.h"
+#include "comndata/ItemState.h"
+#include "comndata/PtrnCode.h"
+#include "config/FileCntl.h"
+#include "config/Settings.h"
+#include "pattern/ItemParm.h"
+#include "pattern/PtrnHedr.h"
+#include "shell/LogText.h"
+#include "window/PtrnDisp.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+namespace
+{
+constexpr char kLog[] = "PTRNDISP";
+}
+
+void CPtrnDisp::PtrnSetOffset(int target, int x, int y, const char* file, int line)
+{
+    if (target != 0) {
+        CPtrnDisp* const targets[] = {ChildWnd1, ChildWnd2, ParentWnd};
+        if (target >= 1 && target <= 3 && targets[target - 1])
+            targets[target - 1]->PtrnSetOffset(0, x, y, nullptr, 0);
+        return;
+    }
+    Offset = {x, y};
+    PtrnUpdate();
+    if (file)
+        LogText(kLog, file, line, "表示開始位置設定  [%d / (%d,%d)]", target, x, y);
+}
+
+void CPtrnDisp::PtrnSetScroll(int dataNo, int total, int pos, const char* file, int line)
+{
+    char name[SIZE_DTNONAME + 1] = "";
+    const int named = ConvertDtno(dataNo, name);
+
+    PTRNDATA bar;
+    if (!PtrnReadData(dataNo, PTRN_SBAR, &bar)) {
+        LogText(kLog, file, line, "スクロールバー設定エラー  [%s]", name);
+        return;
+    }
+    bar.Parm[SBAR_TOTAL] = total;
+    PtrnWriteData(&bar);
+
+    const int visible = bar.Parm[SBAR_VISIBLE];
+    if (total > visible) {
+        Set_Disable(bar.DataNo, 0, 1, nullptr, 0);
+        // A position past the end snaps back to the top, not to the last page.
+        if (static_cast<std::int64_t>(pos) + visible > total)
+            pos = visible - total;
+        pos = std::max(pos, 0);
+        Set_iData(bar.DataNo, pos, nullptr, 0);
+    } else {
+        Set_Disable(bar.DataNo, 1, 1, nullptr, 0);
+    }
+    if (file && named)
+        LogText(kLog, file, line, "スクロールバー設定  [%s / (%d,%d)]", name, total, pos);
+}
+
+void CPtrnDisp::PtrnDispData(CDraw* draw, int dataNo, int type)
+{
+    for (int i = 0; i < PtrnData->PtrnCont; i++) {
+        PTRNDATA item = PtrnData->PtrnData[i];
+        if (item.DataNo != dataNo || (type != 0 && item.Type != type))
+            continue;
+        item.wData = Get_wData(dataNo, nullptr, 0);
+        item.fData = Get_fData(dataNo, nullptr, 0);
+        CopyText(item.sData, Get_sData(dataNo, nullptr, 0));
+        if (item.wData & STATE_HIDDEN)
+            PtrnData->ClerPtrnData(draw, &item);
+        else
+            PtrnData->DispPtrnData(draw, &item, 1);
+        PtrnData->WritePtrnData(&item);
+    }
+}
+
+int CPtrnDisp::PtrnTestData(POINT pt, PTRNDATA* out)
+{
+    const int index = PtrnData->TestPtrnData(pt);
+    if (index < 0)
+        return 0;
+    *out = PtrnData->PtrnData[index];
+    return 1;
+}
+
+int CPtrnDisp::PtrnTestData(POINT pt, int dataNo, int type)
+{
+    for (int i = 0; i < PtrnData->PtrnCont; i++) {
+        PTRNDATA& item = PtrnData->PtrnData[i];
+        if (item.Type == type && item.DataNo == dataNo && !(item.wData & STATE_HIDDEN) &&
+            PtrnData->TestPtrnData(pt, &item))
+            return 1;
+    }
+    return 0;
+}
+
+PTRNHEDR CPtrnDisp::PtrnReadHedr()
+{
+    return PtrnData->PtrnHedr;
+}
+
+int CPtrnDisp::PtrnReadHedr(const char* name, PTRNHEDR* out)
+{
+    const std::string fileName = std::string(name) + ".ptn";
+    if (FileSize(ProjPath, fileName.c_str()) < 1)
+        return 0;
+    HEDRFILE record;
+    FileRead(ProjPath, fileName.c_str(), &record, sizeof record, 0, nullptr, 0);
+    *out = ConvertHedr(record);
+    return 1;
+}
+
+int CPtrnDisp::PtrnReadData(int dataNo, int type, PTRNDATA* out)
+{
+    return PtrnData->ReadPtrnData(dataNo, type, out);
+}
+
+void CPtrnDisp::PtrnWriteData(PTRNDATA* item)
+{
+    PtrnData->WritePtrnData(item);
+}
