@@ -1,0 +1,66 @@
+#include "tools/ptn/Build.h"
+
+#include "tools/ptn/ProjectSource.h"
+#include "tools/ptn/ScreenSource.h"
+
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+// A folder as it stands in the profile: absolute, without a slash at its end.
+fs::path FolderPath(const fs::path& folder)
+{
+    const fs::path path = fs::absolute(folder).lexically_normal();
+    return path.has_filename() ? path : path.parent_path();
+}
+
+// The whole project directory, in memory.
+OutputFiles ProjectFiles(const ProjectSource& project, const std::vector<Pattern>& patterns)
+{
+    OutputFiles files;
+    files["PtrnCode"] = project.codes.bytes();
+    files["PtrnColr"] = project.resources.colorBytes();
+    files["PtrnMark"] = project.resources.markBytes();
+    for (const auto& bitmap : project.bitmaps)
+        files["Bitmap/" + bitmap.first] = ReadBytes(bitmap.second);
+    for (const Pattern& pattern : patterns)
+        files[pattern.name + ".ptn"] = PatternBytes(pattern);
+    return files;
+}
+
+} // namespace
+
+std::optional<OutputReport> Build(const fs::path& source, const fs::path& output, Diagnostics& diagnostics)
+{
+    const fs::path folder = FolderPath(output);
+    std::error_code missing;
+    if (fs::equivalent(source, folder, missing)) {
+        diagnostics.error({output.string(), 0},
+                          "this is the folder of the sources. Name another for the output.");
+        return std::nullopt;
+    }
+
+    const ProjectSource project = ReadProject(source, diagnostics);
+    std::vector<Pattern> patterns;
+    for (const std::string& file : YamlFiles(source / "screens"))
+        if (std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics))
+            patterns.push_back(std::move(*pattern));
+    project.profile.checkPatterns(CheckPatterns(patterns, diagnostics), diagnostics);
+
+    const fs::path profile = folder.parent_path() / (project.program + ".ini");
+    const std::string profileBytes =
+        project.profile.bytes(folder.parent_path().string(), folder.filename().string(), project.resources,
+                              ReadBytes(profile), diagnostics);
+    if (diagnostics.failed())
+        return std::nullopt;
+    try {
+        return WriteOutput(folder, ProjectFiles(project, patterns), profile, profileBytes);
+    } catch (const fs::filesystem_error& problem) {
+        diagnostics.error({problem.path1().string(), 0},
+                          problem.code().message() + ". Check the folder's rights and space.");
+        return std::nullopt;
+    }
+}

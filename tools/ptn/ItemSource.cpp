@@ -1,0 +1,287 @@
+#include "tools/ptn/ItemSource.h"
+
+#include "pattern/ItemParm.h"
+#include "tools/ptn/EucName.h"
+#include "tools/ptn/Placement.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace
+{
+
+const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   "size",  "text",
+                                           "action", "pattern", "data", "parm", "repeat"};
+
+/// Copies that "repeat" makes of an item.
+struct Repeat {
+    int count = 1;
+    int dx = 0;
+    int dy = 0;
+    int data = 1; ///< cells from one copy to the next
+};
+
+class ItemReader
+{
+  public:
+    ItemReader(const ItemContext& context, const ItemSchema& schema, std::string label, const Source& source)
+        : project_(context.project), styles_(context.styles), diagnostics_(context.diagnostics),
+          schema_(schema), label_(std::move(label)),
+          attributes_({schema.parms, CommonParms()}, item_.record.Parm, project_.resources, diagnostics_)
+    {
+        item_.record.Type = schema.type;
+        item_.place = source.place();
+    }
+
+    std::vector<PatternItem> read(const std::vector<Entry>& entries);
+
+  private:
+    std::string what(const char* key) const { return label_ + ": " + Quoted(key); }
+    void applyStyle(const std::string& name, bool named, const Place& place);
+    void applyStyles(const std::vector<Entry>& entries);
+    void applyOwn(const std::vector<Entry>& entries);
+    void readKey(const Entry& entry);
+    void readTexts(const Source& source, const Place& place);
+    void readAction(const Source& source);
+    void readRepeat(const Source& source);
+    bool checkAction() const;
+    std::vector<PatternItem> copies() const;
+
+    const ProjectSource& project_;
+    const Styles& styles_;
+    Diagnostics& diagnostics_;
+    const ItemSchema& schema_;
+    std::string label_;
+    PatternItem item_;
+    Attributes attributes_;
+    Placement placement_;
+    Repeat repeat_;
+    int cells_ = 0; ///< cells of the item's code
+};
+
+void ItemReader::applyStyle(const std::string& name, bool named, const Place& place)
+{
+    for (const Styles* styles : {&project_.styles, &styles_}) {
+        const Layer* style = styles->find(name);
+        if (!style)
+            continue;
+        for (const Entry& entry : style->entries) {
+            if (IsStyleKey(entry.name))
+                placement_.read(entry, style->label, diagnostics_);
+            else if (named && !attributes_.find(entry.name))
+                diagnostics_.error(place, label_ + ": " + style->label + " sets " + Quoted(entry.name) +
+                                              ", which a " + schema_.name +
+                                              " does not have. Use another style.");
+        }
+        attributes_.apply(*style);
+    }
+}
+
+void ItemReader::applyStyles(const std::vector<Entry>& entries)
+{
+    applyStyle("item", false, item_.place);
+    applyStyle(schema_.name, false, item_.place);
+    for (const Entry& entry : entries) {
+        if (entry.name != "style")
+            continue;
+        std::vector<Source> names = entry.value.members();
+        if (!entry.value.isList())
+            names = {entry.value};
+        for (const Source& name : names) {
+            if (project_.styles.find(name.text()) || styles_.find(name.text())) {
+                applyStyle(name.text(), true, entry.place);
+                continue;
+            }
+            std::vector<std::string> known = project_.styles.names();
+            for (const std::string& own : styles_.names())
+                known.push_back(own);
+            diagnostics_.error(entry.place, label_ + ": no style " + Quoted(name.text()) + "." +
+                                                Suggestion(name.text(), known) +
+                                                " Add it to 'styles' or use another.");
+        }
+    }
+}
+
+void ItemReader::applyOwn(const std::vector<Entry>& entries)
+{
+    Layer own{label_, {}};
+    for (const Entry& entry : entries) {
+        const bool corner =
+            entry.name == "x1" || entry.name == "y1" || entry.name == "x2" || entry.name == "y2";
+        if (corner) {
+            diagnostics_.error(entry.place, label_ +
+                                                ": write the corners as rect: [x1, y1, x2, y2], not as " +
+                                                Quoted(entry.name) + ".");
+        } else if (std::find(itemKeys.begin(), itemKeys.end(), entry.name) != itemKeys.end()) {
+            readKey(entry);
+        } else if (attributes_.find(entry.name)) {
+            own.entries.push_back(entry);
+        } else {
+            std::vector<std::string> names = attributes_.names();
+            names.insert(names.end(), itemKeys.begin(), itemKeys.end());
+            diagnostics_.error(entry.place, label_ + ": unknown attribute " + Quoted(entry.name) + "." +
+                                                Suggestion(entry.name, names) + " Correct or remove it.");
+        }
+    }
+    attributes_.apply(own);
+    // Last, because nothing else can say what these mean.
+    for (const Entry& entry : entries)
+        if (entry.name == "parm")
+            attributes_.applyRaw(entry.value, label_);
+}
+
+void ItemReader::readKey(const Entry& entry)
+{
+    if (entry.name == "text") {
+        readTexts(entry.value, entry.place);
+    } else if (entry.name == "action") {
+        readAction(entry.value);
+    } else if (entry.name == "pattern") {
+        const auto name = Text(entry.value, what("pattern"), diagnostics_);
+        const auto euc =
+            name ? ToEuc(*name, SIZE_ID_NAME, what("pattern"), entry.place, diagnostics_) : std::nullopt;
+        item_.name = euc.value_or("");
+    } else if (entry.name == "data") {
+        if (const auto cell = project_.codes.find(entry.value, what("data"), diagnostics_)) {
+            item_.code = cell->code;
+            item_.record.ID_No = cell->offset;
+            cells_ = cell->count;
+        }
+    } else if (entry.name == "repeat") {
+        readRepeat(entry.value);
+    } else if (entry.name == "rect" || entry.name == "at" || entry.name == "size") {
+        placement_.read(entry, label_, diagnostics_);
+    }
+}
+
+void ItemReader::readTexts(const Source& source, const Place& place)
+{
+    if (schema_.text == ItemText::None) {
+        diagnostics_.error(place, label_ + ": a " + schema_.name + " has no text of its own. Remove 'text'.");
+        return;
+    }
+    const auto texts = Texts(source, what("text"), diagnostics_);
+    for (std::size_t language = 0; texts && language < item_.texts.size(); ++language) {
+        const auto euc = ToEuc((*texts)[language], SIZE_PTRNTEXT, what("text"), place, diagnostics_);
+        item_.texts.at(language) = euc.value_or("");
+        if (schema_.text == ItemText::BitmapName && euc && !euc->empty() && !project_.bitmaps.count(*euc))
+            diagnostics_.error(place, label_ + ": no file " + Quoted((*texts)[language]) +
+                                          " in 'bitmaps'. Put it there or correct the name.");
+    }
+}
+
+void ItemReader::readAction(const Source& source)
+{
+    const std::string name = source.text();
+    const std::optional<int> code = ParseInteger(name);
+    if (const ActionSchema* action = FindAction(name.c_str()); action && source.isText()) {
+        item_.record.ID_Type = action->code;
+    } else if (code) {
+        item_.record.ID_Type = *code;
+    } else {
+        std::vector<std::string> names;
+        for (const ActionSchema& known : Actions())
+            names.push_back(known.name);
+        diagnostics_.error(source.place(),
+                           label_ + ": no action " + Quoted(name) + "." + Suggestion(name, names) +
+                               " Write an action such as close, message or open-application.");
+    }
+}
+
+void ItemReader::readRepeat(const Source& source)
+{
+    const std::string label = what("repeat");
+    for (const Entry& entry : Entries(source, label, diagnostics_)) {
+        if (entry.name == "count") {
+            repeat_.count = Integer(entry.value, 1, 1000, label + " 'count'", diagnostics_).value_or(1);
+        } else if (entry.name == "step") {
+            if (const auto step = Integers(entry.value, 2, label + " 'step'", diagnostics_)) {
+                repeat_.dx = (*step)[0];
+                repeat_.dy = (*step)[1];
+            }
+        } else if (entry.name == "data") {
+            repeat_.data = Integer(entry.value, 0, 1000, label + " 'data'", diagnostics_).value_or(1);
+        } else {
+            diagnostics_.error(entry.place, label + ": unknown " + Quoted(entry.name) + "." +
+                                                Suggestion(entry.name, {"count", "step", "data"}) +
+                                                " Write 'count', 'step' and 'data'.");
+        }
+    }
+}
+
+bool ItemReader::checkAction() const
+{
+    const ActionSchema* action = FindAction(item_.record.ID_Type);
+    if (!action || !action->opens || !item_.name.empty())
+        return true;
+    diagnostics_.error(item_.place, label_ + ": the action " + Quoted(action->name) +
+                                        " opens a pattern. Name it with 'pattern'.");
+    return false;
+}
+
+std::vector<PatternItem> ItemReader::copies() const
+{
+    const int last = item_.record.ID_No + (repeat_.count - 1) * repeat_.data;
+    if (!item_.code.empty() && last >= cells_) {
+        diagnostics_.error(item_.place, what("repeat") + " ends with cell +" + std::to_string(last) +
+                                            " of a code of " + std::to_string(cells_) +
+                                            " cells. Repeat less, or extend the code.");
+        return {};
+    }
+    std::vector<PatternItem> items(static_cast<std::size_t>(repeat_.count), item_);
+    for (int copy = 0; copy < repeat_.count; ++copy) {
+        PTRNFILE& record = items[static_cast<std::size_t>(copy)].record;
+        record.Parm[PARM_X1] += copy * repeat_.dx;
+        record.Parm[PARM_Y1] += copy * repeat_.dy;
+        record.Parm[PARM_X2] += copy * repeat_.dx;
+        record.Parm[PARM_Y2] += copy * repeat_.dy;
+        if (!item_.code.empty())
+            record.ID_No += copy * repeat_.data;
+    }
+    return items;
+}
+
+std::vector<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
+{
+    applyStyles(entries);
+    applyOwn(entries);
+    const bool placed = placement_.finish(item_, schema_, project_.resources, label_, diagnostics_);
+    if (!checkAction() || !placed)
+        return {};
+    return copies();
+}
+
+} // namespace
+
+std::vector<PatternItem> ReadItem(const Source& source, int number, const ItemContext& context)
+{
+    std::string label = "item " + std::to_string(number);
+    const std::vector<Entry> entries = Entries(source, label, context.diagnostics);
+    if (source.isEmpty()) {
+        context.diagnostics.error(source.place(),
+                                  label + " is empty. Write its type and attributes, or remove it.");
+        return {};
+    }
+    const auto type =
+        std::find_if(entries.begin(), entries.end(), [](const Entry& entry) { return entry.name == "type"; });
+    std::vector<std::string> names;
+    std::string list;
+    for (const ItemSchema& schema : ItemSchemas()) {
+        names.push_back(schema.name);
+        list += (list.empty() ? "" : ", ") + names.back();
+    }
+    if (type == entries.end()) {
+        if (!entries.empty())
+            context.diagnostics.error(source.place(), label + " has no 'type'. Write one of: " + list + ".");
+        return {};
+    }
+    const ItemSchema* schema = FindItemSchema(type->value.text().c_str());
+    if (!schema) {
+        context.diagnostics.error(type->place, label + ": no type " + Quoted(type->value.text()) + "." +
+                                                   Suggestion(type->value.text(), names) +
+                                                   " Write one of: " + list + ".");
+        return {};
+    }
+    label += " (" + std::string(schema->name) + ")";
+    return ItemReader(context, *schema, label, source).read(entries);
+}

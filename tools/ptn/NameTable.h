@@ -1,0 +1,50 @@
+// Numbers that have names: colours, fonts, marks.
+#pragma once
+
+#include "tools/ptn/Diagnostics.h"
+#include "tools/ptn/Source.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+class NameTable
+{
+  public:
+    /// @param what   how messages call one of them, such as "color"
+    /// @param limit  numbers run from 0 to limit - 1
+    NameTable(const char* what, int limit) : what_(what), limit_(limit) {}
+
+    void add(const std::string& name, int number);
+
+    /// The number that a source names, by name or by number; anything that is not defined is reported.
+    std::optional<int> find(const Source& source, const std::string& attribute,
+                            Diagnostics& diagnostics) const;
+
+    const char* what() const { return what_; }
+    int limit() const { return limit_; }
+    bool has(const std::string& name) const { return numbers_.count(name) > 0; }
+    /// The name of a number; empty when it is not defined.
+    std::string nameOf(int number) const;
+
+  private:
+    const char* what_;
+    int limit_;
+    std::map<std::string, int> numbers_;
+    std::map<int, std::string> names_;
+};
+
+/// One entry of a section such as "colors".
+struct NumberedEntry {
+    std::string name;
+    int number = 0;
+    Place place;
+    Source value;
+};
+
+/// Reads a section whose entries are "name: value" or "name: {no: number, <key>: value}" and adds their
+/// names to the table. Without "no", numbers follow the entry before, beginning with 0.
+/// Reported and left out: numbers out of range or used twice, names that could be taken for a number.
+std::vector<NumberedEntry> NumberedEntries(const Source& section, const std::string& key, NameTable& table,
+                                           Diagnostics& diagnostics);

@@ -1,0 +1,120 @@
+#include "tools/ptn/Output.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+/// Lists what the build has written, one path per line, so that the next one can tell its own old files
+/// from those of others.
+const char* const listName = ".ptn-files";
+
+fs::filesystem_error Failed(const char* what, const fs::path& path)
+{
+    return {what, path, std::error_code(errno, std::generic_category())};
+}
+
+void WriteBytes(const fs::path& file, const std::string& bytes)
+{
+    std::ofstream out(file, std::ios::binary | std::ios::trunc);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    if (!out)
+        throw Failed("can not be written", file);
+}
+
+// A list that was tampered with must not lead out of the folder.
+bool StaysInside(const fs::path& name)
+{
+    return name.is_relative() && std::find(name.begin(), name.end(), "..") == name.end();
+}
+
+// Removes what the build before has made and this one does not.
+int RemoveOld(const fs::path& folder, const std::string& before, const OutputFiles& files)
+{
+    int removed = 0;
+    std::istringstream names(before);
+    for (std::string name; std::getline(names, name);) {
+        std::error_code gone;
+        if (!files.count(name) && StaysInside(name) && fs::is_regular_file(folder / name, gone))
+            removed += fs::remove(folder / name, gone) ? 1 : 0;
+    }
+    return removed;
+}
+
+} // namespace
+
+Staging::Staging(const fs::path& folder) : folder_(folder)
+{
+    std::string name = folder.string() + ".ptn-XXXXXX";
+    if (!mkdtemp(name.data()))
+        throw Failed("can not be made", name);
+    temporary_ = name;
+}
+
+Staging::~Staging()
+{
+    std::error_code ignored;
+    fs::remove_all(temporary_, ignored);
+}
+
+void Staging::add(const std::string& name, const std::string& bytes)
+{
+    std::error_code missing;
+    if (fs::is_regular_file(folder_ / name, missing) && ReadBytes(folder_ / name) == bytes)
+        return;
+    // Found out before anything is moved.
+    if (fs::is_directory(folder_ / name, missing))
+        throw fs::filesystem_error("is a folder", folder_ / name,
+                                   std::make_error_code(std::errc::is_a_directory));
+    WriteBytes(temporary_ / std::to_string(names_.size()), bytes);
+    names_.push_back(name);
+}
+
+int Staging::moveIn()
+{
+    for (std::size_t i = 0; i < names_.size(); ++i) {
+        const fs::path target = folder_ / names_[i];
+        fs::create_directories(target.parent_path());
+        fs::rename(temporary_ / std::to_string(i), target);
+    }
+    return static_cast<int>(names_.size());
+}
+
+std::string ReadBytes(const fs::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const fs::path& profile,
+                         const std::string& profileBytes)
+{
+    // The folder itself may be a link to another file system; files can only be moved within one.
+    const fs::path place = fs::weakly_canonical(folder);
+    fs::create_directories(place.parent_path());
+    Staging project(place);
+    Staging beside(profile.parent_path());
+
+    std::string list;
+    for (const auto& file : files) {
+        list += file.first + "\n";
+        project.add(file.first, file.second);
+    }
+    project.add(listName, list);
+    beside.add(profile.filename().string(), profileBytes);
+
+    const std::string before = ReadBytes(place / listName);
+    OutputReport report;
+    report.files = static_cast<int>(files.size()) + 2; // and the list, and the profile
+    report.written = project.moveIn() + beside.moveIn();
+    report.removed = RemoveOld(place, before, files);
+    return report;
+}

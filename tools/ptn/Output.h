@@ -1,0 +1,49 @@
+// Putting the files of a build in place, all or none.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+/// Bytes by path, which is relative to the project directory.
+using OutputFiles = std::map<std::string, std::string>;
+
+/// New files, written beside their folder first and moved in when everything is complete. What is not
+/// moved in is removed again.
+class Staging
+{
+  public:
+    /// @param folder  where the files will go; it need not exist, its parent must
+    explicit Staging(const std::filesystem::path& folder);
+    ~Staging();
+    Staging(const Staging&) = delete;
+    Staging& operator=(const Staging&) = delete;
+
+    /// Writes a file unless the folder has it with the same bytes already.
+    void add(const std::string& name, const std::string& bytes);
+
+    /// Moves the files in. @return how many there were
+    int moveIn();
+
+  private:
+    std::filesystem::path folder_;
+    std::filesystem::path temporary_;
+    std::vector<std::string> names_;
+};
+
+/// What a build has changed.
+struct OutputReport {
+    int files = 0; ///< that the build consists of
+    int written = 0;
+    int removed = 0;
+};
+
+/// Brings a project directory and the profile up to date. Files of the build before that are not made any
+/// more are removed; everything else there (flags, tables and whatever the program writes) stays.
+/// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
+OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
+                         const std::filesystem::path& profile, const std::string& profileBytes);
+
+/// A whole file; empty when there is none.
+std::string ReadBytes(const std::filesystem::path& file);

@@ -1,0 +1,31 @@
+// Where an item lies: its corners, given by rectangle, by position and size, or by what it shows.
+#pragma once
+
+#include "pattern/ItemSchema.h"
+#include "tools/ptn/Pattern.h"
+#include "tools/ptn/Resources.h"
+#include "tools/ptn/Source.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class Placement
+{
+  public:
+    /// Takes up "rect: [x1, y1, x2, y2]", "at: [x, y]" or "size: [width, height]". A later one replaces an
+    /// earlier one of the same name; "rect" has the last word.
+    void read(const Entry& entry, const std::string& label, Diagnostics& diagnostics);
+
+    /// Writes the corners, when the item's other parameters and its texts are known. Without a size, texts,
+    /// fields, radio buttons, check boxes and marks are as large as what they show.
+    /// @return false, with an error reported, when the place is missing or can not be drawn
+    bool finish(PatternItem& item, const ItemSchema& schema, const Resources& resources,
+                const std::string& label, Diagnostics& diagnostics);
+
+  private:
+    std::optional<std::vector<int>> rect_;
+    std::optional<std::vector<int>> at_;
+    std::optional<std::vector<int>> size_;
+    bool broken_ = false; ///< something was given that could not be read
+};

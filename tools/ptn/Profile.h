@@ -1,0 +1,45 @@
+// The profile file, panel.ini.
+#pragma once
+
+#include "tools/ptn/Resources.h"
+#include "tools/ptn/Source.h"
+
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+class ProfileSource
+{
+  public:
+    /// Reads the section "profile": sections of keys. A value is a text or a number; a list gives the fields
+    /// of one key. "@DIR@/" at the start of a value stands for the folder that the profile lies in.
+    void read(const Source& section, Diagnostics& diagnostics);
+
+    /// Checks that the patterns which the program opens by itself exist.
+    /// @param patterns  names of the project's patterns in EUC-JP
+    void checkPatterns(const std::set<std::string>& patterns, Diagnostics& diagnostics) const;
+
+    /// The file's bytes.
+    /// @param folder   absolute path of the folder that the profile lies in
+    /// @param project  name in it of the project directory, the default of key "PROJECT"
+    /// @param before   the profile of the build before, or empty: its remembered window positions are kept
+    std::string bytes(const std::string& folder, const std::string& project, const Resources& resources,
+                      const std::string& before, Diagnostics& diagnostics) const;
+
+  private:
+    struct Key {
+        std::string section;
+        std::string name;
+        std::string value; ///< EUC-JP
+        Place place;
+    };
+
+    void readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics);
+    const Key* find(const std::string& section, const std::string& name) const;
+
+    std::vector<std::string> sections_;
+    std::vector<Key> keys_;
+};

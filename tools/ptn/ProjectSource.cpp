@@ -1,0 +1,99 @@
+#include "tools/ptn/ProjectSource.h"
+
+#include "base/Constants.h"
+#include "tools/ptn/EucName.h"
+
+#include <algorithm>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+const std::vector<std::string> sectionNames = {"program", "codes",  "colors", "fonts",
+                                               "marks",   "styles", "profile"};
+
+// Every section of the project's files, wherever it stands.
+std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagnostics)
+{
+    std::map<std::string, Entry> sections;
+    const std::vector<std::string> files = YamlFiles(folder);
+    if (files.empty())
+        diagnostics.error({folder.string(), 0},
+                          "this folder has no *.yaml file. Name the folder of the sources.");
+    for (const std::string& file : files) {
+        const std::optional<Source> source = ReadYaml(file, diagnostics);
+        if (!source)
+            continue;
+        for (const Entry& entry : Entries(*source, "the file", diagnostics)) {
+            if (std::find(sectionNames.begin(), sectionNames.end(), entry.name) == sectionNames.end()) {
+                diagnostics.error(entry.place, "unknown section " + Quoted(entry.name) + "." +
+                                                   Suggestion(entry.name, sectionNames) +
+                                                   " Screens go into the folder 'screens'.");
+                continue;
+            }
+            const auto added = sections.emplace(entry.name, entry);
+            if (!added.second) {
+                const Place& first = added.first->second.place;
+                diagnostics.error(entry.place, "section " + Quoted(entry.name) + " is already in " +
+                                                   first.file + ":" + std::to_string(first.line) +
+                                                   ". Join the two.");
+            }
+        }
+    }
+    return sections;
+}
+
+std::map<std::string, fs::path> Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
+{
+    std::map<std::string, fs::path> bitmaps;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing)) {
+        const std::string name = entry.path().filename().string();
+        if (name[0] == '.')
+            continue;
+        const Place place{entry.path().string(), 0};
+        if (!entry.is_regular_file()) {
+            diagnostics.error(place, "only files can be bitmaps. Move it out of the folder.");
+            continue;
+        }
+        if (const auto euc = ToEucFileName(name, SIZE_PTRNTEXT, "the file's name", place, diagnostics))
+            bitmaps.emplace(*euc, entry.path());
+    }
+    return bitmaps;
+}
+
+} // namespace
+
+std::vector<std::string> YamlFiles(const fs::path& folder)
+{
+    std::vector<std::string> files;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing))
+        if (entry.path().extension() == ".yaml" && entry.path().filename().string()[0] != '.')
+            files.push_back(entry.path().string());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+ProjectSource ReadProject(const fs::path& folder, Diagnostics& diagnostics)
+{
+    ProjectSource project;
+    std::map<std::string, Entry> sections = Sections(folder, diagnostics);
+    const auto section = [&](const char* name) { return sections[name].value; };
+
+    if (sections.count("program")) {
+        const Entry& entry = sections["program"];
+        const auto name = Text(entry.value, "'program'", diagnostics);
+        if (name && ToEucFileName(*name, SIZE_PTRNNAME, "program", entry.place, diagnostics))
+            project.program = *name;
+    }
+    project.codes.read(section("codes"), diagnostics);
+    project.resources.readColors(section("colors"), diagnostics);
+    project.resources.readFonts(section("fonts"), diagnostics);
+    project.resources.readMarks(section("marks"), diagnostics);
+    project.styles.read(section("styles"), diagnostics);
+    project.profile.read(section("profile"), diagnostics);
+    project.bitmaps = Bitmaps(folder / "bitmaps", diagnostics);
+    return project;
+}

@@ -1,0 +1,199 @@
+#include "tools/ptn/ScreenSource.h"
+
+#include "base/EucText.h"
+#include "pattern/ItemParm.h"
+#include "tools/ptn/EucName.h"
+#include "tools/ptn/ItemSource.h"
+
+#include <algorithm>
+#include <map>
+
+namespace
+{
+
+/// Nothing interprets it when a pattern is loaded; it tells which tool wrote the file.
+constexpr int PATTERN_VERSION = 1;
+
+const std::vector<std::string> screenKeys = {"name",   "title",  "logo", "background",
+                                             "window", "styles", "items"};
+
+class ScreenReader
+{
+  public:
+    ScreenReader(const ProjectSource& project, Diagnostics& diagnostics)
+        : project_(project), diagnostics_(diagnostics),
+          window_({HeaderParms()}, pattern_.header.Parm1, project.resources, diagnostics)
+    {
+        pattern_.header.Version = PATTERN_VERSION;
+    }
+
+    std::optional<Pattern> read(const Source& source);
+
+  private:
+    void readName(const Source& source, const Place& place);
+    void readTitle(const Source& source, const Place& place);
+    template <std::size_t N> void readBitmap(char (&field)[N], const Entry& entry);
+    void readWindow(const Source& source);
+    void readParm2(const Source& source);
+    void readItems(const Source& source);
+
+    const ProjectSource& project_;
+    Diagnostics& diagnostics_;
+    Pattern pattern_;
+    Attributes window_;
+    Styles styles_;
+};
+
+std::optional<Pattern> ScreenReader::read(const Source& source)
+{
+    std::map<std::string, Entry> parts;
+    for (const Entry& entry : Entries(source, "the screen", diagnostics_)) {
+        if (std::find(screenKeys.begin(), screenKeys.end(), entry.name) == screenKeys.end())
+            diagnostics_.error(entry.place,
+                               "unknown " + Quoted(entry.name) + "." + Suggestion(entry.name, screenKeys) +
+                                   " A screen has name, title, logo, background, window, styles, items.");
+        parts.emplace(entry.name, entry);
+    }
+    const auto part = [&](const char* name) { return parts[name].value; };
+
+    if (!parts.count("name")) {
+        diagnostics_.error({source.place().file, 0},
+                           "the screen has no 'name'. Write the name of its pattern.");
+        return std::nullopt;
+    }
+    pattern_.place = parts["name"].place;
+    readName(part("name"), pattern_.place);
+    readTitle(parts.count("title") ? part("title") : part("name"), pattern_.place);
+    if (parts.count("logo"))
+        readBitmap(pattern_.header.LogoName, parts["logo"]);
+    if (parts.count("background"))
+        readBitmap(pattern_.header.BmapName, parts["background"]);
+    styles_.read(part("styles"), diagnostics_);
+    readWindow(part("window"));
+    readItems(part("items"));
+    return pattern_;
+}
+
+void ScreenReader::readName(const Source& source, const Place& place)
+{
+    const auto name = Text(source, "'name'", diagnostics_);
+    const auto euc =
+        name ? ToEucFileName(*name, SIZE_PTRNNAME, "the name", place, diagnostics_) : std::nullopt;
+    // The program takes a pattern's name up to the first dot, and profile keys up to these two.
+    if (euc && euc->find_first_of(".,;") != std::string::npos)
+        diagnostics_.error(place,
+                           "the name " + Quoted(*name) + " has '.', ',' or ';' in it. Write it without.");
+    pattern_.name = euc.value_or("");
+}
+
+void ScreenReader::readTitle(const Source& source, const Place& place)
+{
+    const auto titles = Texts(source, "'title'", diagnostics_);
+    if (!titles)
+        return;
+    HEDRFILE& header = pattern_.header;
+    std::size_t language = 0;
+    for (auto* field : {&header.PtrnName1, &header.PtrnName2, &header.PtrnName3})
+        if (const auto euc = ToEuc((*titles)[language++], SIZE_PTRNNAME, "'title'", place, diagnostics_))
+            CopyText(*field, euc->c_str());
+}
+
+template <std::size_t N> void ScreenReader::readBitmap(char (&field)[N], const Entry& entry)
+{
+    const auto name = Text(entry.value, Quoted(entry.name), diagnostics_);
+    const auto euc = name ? ToEuc(*name, N - 2, Quoted(entry.name), entry.place, diagnostics_) : std::nullopt;
+    if (!euc)
+        return;
+    CopyText(field, euc->c_str());
+    if (!euc->empty() && !project_.bitmaps.count(*euc))
+        diagnostics_.error(entry.place, Quoted(entry.name) + ": no file " + Quoted(*name) +
+                                            " in 'bitmaps'. Put it there or correct the name.");
+}
+
+void ScreenReader::readWindow(const Source& source)
+{
+    for (const Styles* styles : {&project_.styles, static_cast<const Styles*>(&styles_)})
+        if (const Layer* style = styles->find("window"))
+            window_.apply(*style);
+
+    const std::string label = "'window'";
+    Layer own{label, {}};
+    for (const Entry& entry : Entries(source, label, diagnostics_)) {
+        if (entry.name == "size" || entry.name == "at") {
+            const auto numbers = Integers(entry.value, 2, label + ": " + Quoted(entry.name), diagnostics_);
+            if (numbers) {
+                const int first = entry.name == "size" ? HEDR_WIDTH : HEDR_LEFT;
+                std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm1 + first);
+            }
+        } else if (entry.name == "parm") {
+            window_.applyRaw(entry.value, label);
+        } else if (entry.name == "parm2") {
+            readParm2(entry.value);
+        } else if (window_.find(entry.name)) {
+            own.entries.push_back(entry);
+        } else {
+            std::vector<std::string> names = window_.names();
+            names.insert(names.end(), {"size", "at", "parm", "parm2"});
+            diagnostics_.error(entry.place, label + ": unknown attribute " + Quoted(entry.name) + "." +
+                                                Suggestion(entry.name, names) + " Correct or remove it.");
+        }
+    }
+    window_.apply(own);
+    for (const int side : {HEDR_WIDTH, HEDR_HEIGHT})
+        if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > 32767)
+            diagnostics_.error(source.place(), label + " has a side of " +
+                                                   std::to_string(pattern_.header.Parm1[side]) +
+                                                   " pixels. Write a 'size' from 1 to 32767.");
+}
+
+void ScreenReader::readParm2(const Source& source)
+{
+    const auto numbers = Integers(source, CONT_PARM2, "'window': 'parm2'", diagnostics_);
+    if (numbers)
+        std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm2);
+}
+
+void ScreenReader::readItems(const Source& source)
+{
+    if (!source.isEmpty() && !source.isList()) {
+        diagnostics_.error(source.place(), "'items' must be a list. Begin each item with '-'.");
+        return;
+    }
+    int number = 0;
+    for (const Source& member : source.members())
+        for (PatternItem& item : ReadItem(member, ++number, {project_, styles_, diagnostics_}))
+            pattern_.items.push_back(std::move(item));
+}
+
+} // namespace
+
+std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
+                                  Diagnostics& diagnostics)
+{
+    const std::optional<Source> source = ReadYaml(file, diagnostics);
+    return source ? ScreenReader(project, diagnostics).read(*source) : std::nullopt;
+}
+
+std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagnostics& diagnostics)
+{
+    std::map<std::string, Place> places;
+    for (const Pattern& pattern : patterns) {
+        const auto added = places.emplace(pattern.name, pattern.place);
+        if (!added.second)
+            diagnostics.error(pattern.place, "this name is also that of " + added.first->second.file +
+                                                 ". Give one of them another.");
+    }
+    std::set<std::string> names;
+    for (const auto& place : places)
+        names.insert(place.first);
+    for (const Pattern& pattern : patterns) {
+        for (const PatternItem& item : pattern.items) {
+            const ActionSchema* action = FindAction(item.record.ID_Type);
+            if (action && action->opens && !names.count(item.name))
+                diagnostics.error(item.place,
+                                  "no screen is named " + Quoted(EucToUtf8(item.name)) +
+                                      ", which this item opens. Correct 'pattern' or add the screen.");
+        }
+    }
+    return names;
+}

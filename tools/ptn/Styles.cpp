@@ -1,0 +1,79 @@
+#include "tools/ptn/Styles.h"
+
+#include <cstring>
+#include <set>
+
+namespace
+{
+
+using Tables = std::vector<SchemaTable<ParmSchema>>;
+
+// The tables whose attributes a style of that name may set.
+Tables TablesOf(const std::string& style)
+{
+    if (style == "window")
+        return {HeaderParms()};
+    if (style == "item")
+        return {CommonParms()};
+    if (const ItemSchema* type = FindItemSchema(style.c_str()))
+        return {type->parms, CommonParms()};
+    Tables all = {CommonParms()};
+    for (const ItemSchema& type : ItemSchemas())
+        all.push_back(type.parms);
+    return all;
+}
+
+bool Knows(const Tables& tables, const std::string& name)
+{
+    for (const auto& table : tables)
+        if (FindParm(table, name.c_str()))
+            return true;
+    return false;
+}
+
+std::vector<std::string> Names(const Tables& tables)
+{
+    std::set<std::string> names = {"size"};
+    for (const auto& table : tables)
+        for (const ParmSchema& parm : table)
+            names.insert(parm.name);
+    return {names.begin(), names.end()};
+}
+
+} // namespace
+
+bool IsStyleKey(const std::string& name)
+{
+    return name == "size";
+}
+
+void Styles::read(const Source& section, Diagnostics& diagnostics)
+{
+    for (const Entry& style : Entries(section, "'styles'", diagnostics)) {
+        Layer layer{"style " + Quoted(style.name), {}};
+        const Tables tables = TablesOf(style.name);
+        for (const Entry& entry : Entries(style.value, layer.label, diagnostics)) {
+            if (IsStyleKey(entry.name) || Knows(tables, entry.name))
+                layer.entries.push_back(entry);
+            else
+                diagnostics.error(entry.place, layer.label + ": unknown attribute " + Quoted(entry.name) +
+                                                   "." + Suggestion(entry.name, Names(tables)) +
+                                                   " Correct or remove it.");
+        }
+        styles_[style.name] = layer;
+    }
+}
+
+const Layer* Styles::find(const std::string& name) const
+{
+    const auto place = styles_.find(name);
+    return place == styles_.end() ? nullptr : &place->second;
+}
+
+std::vector<std::string> Styles::names() const
+{
+    std::vector<std::string> names;
+    for (const auto& style : styles_)
+        names.push_back(style.first);
+    return names;
+}
