@@ -6,7 +6,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <gdk/gdk.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -95,11 +94,9 @@ std::string title(Display* display, Window window)
 
 std::string pictureOfFailure()
 {
-    const char* folder = std::getenv("TESSARY_BUILD");
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     const std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "screen";
-    return (folder ? std::string(folder) : std::filesystem::temp_directory_path().string()) + "/" + name +
-           ".png";
+    return std::string(TESSARY_BUILD "/") + name + ".png";
 }
 
 } // namespace
