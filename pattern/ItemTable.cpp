@@ -39,26 +39,33 @@ using P = CPtrnData;
 
 // clang-format off
 constexpr ItemOps TypeTabl[] = {
-    Row(PTRN_GBOX).disp(&P::DispPtrnData01).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01).press(PressShape),
-    Row(PTRN_RECT).disp(&P::DispPtrnData03).cler(&P::ClerPtrnData03).test(&P::TestPtrnData01).press(PressShape),
-    Row(PTRN_CRCL).disp(&P::DispPtrnData04).cler(&P::ClerPtrnData04).test(&P::TestPtrnData01).press(PressShape),
+    Row(PTRN_GBOX).disp(&P::DispPtrnData01).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
+        .press(PressShape),
+    Row(PTRN_RECT).disp(&P::DispPtrnData03).cler(&P::ClerPtrnData03).test(&P::TestPtrnData01)
+        .press(PressShape),
+    Row(PTRN_CRCL).disp(&P::DispPtrnData04).cler(&P::ClerPtrnData04).test(&P::TestPtrnData01)
+        .press(PressShape),
     Row(PTRN_BARG).disp(&P::DispPtrnData05).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01),
     Row(PTRN_LINE).disp(&P::DispPtrnData02).cler(&P::ClerPtrnData02).test(&P::TestPtrnData02),
     Row(PTRN_BMAP).disp(&P::DispPtrnData12).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01),
-    Row(PTRN_MARK).dispUpdt(&P::DispPtrnData13).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01).flik(&P::FlikPtrnData13),
-    Row(PTRN_SBAR).dispUpdt(&P::DispPtrnData14).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01).press(PressScrollBar)
-        .held(&P::TestScrollBar, StepScrollBar),
-    Row(PTRN_SPIN).disp(&P::DispPtrnData15).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01).press(PressSpinButn)
-        .held(&P::TestSpinButn, StepSpinButn),
-    Row(PTRN_BUTN).disp(&P::DispPtrnData09).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01).press(PressControl),
-    Row(PTRN_RDIO).dispUpdt(&P::DispPtrnData10).cler(&P::ClerPtrnData10).test(&P::TestPtrnData10).press(PressControl),
-    Row(PTRN_CHCK).dispUpdt(&P::DispPtrnData11).cler(&P::ClerPtrnData10).test(&P::TestPtrnData10).press(PressControl),
-    Row(PTRN_FCHR).dispUpdt(&P::DispPtrnData06).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06).press(PressLabel)
-        .flik(&P::FlikPtrnData06),
-    Row(PTRN_CHAR).dispUpdt(&P::DispPtrnData07).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06).press(PressField)
-        .flik(&P::FlikPtrnData06),
-    Row(PTRN_NUMR).dispUpdt(&P::DispPtrnData08).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06).press(PressField)
-        .flik(&P::FlikPtrnData06),
+    Row(PTRN_MARK).dispUpdt(&P::DispPtrnData13).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
+        .flik(&P::FlikPtrnData13),
+    Row(PTRN_SBAR).dispUpdt(&P::DispPtrnData14).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
+        .press(PressScrollBar).held(&P::TestScrollBar, StepScrollBar),
+    Row(PTRN_SPIN).disp(&P::DispPtrnData15).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
+        .press(PressSpinButn).held(&P::TestSpinButn, StepSpinButn),
+    Row(PTRN_BUTN).disp(&P::DispPtrnData09).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
+        .press(PressControl),
+    Row(PTRN_RDIO).dispUpdt(&P::DispPtrnData10).cler(&P::ClerPtrnData10).test(&P::TestPtrnData10)
+        .press(PressControl),
+    Row(PTRN_CHCK).dispUpdt(&P::DispPtrnData11).cler(&P::ClerPtrnData10).test(&P::TestPtrnData10)
+        .press(PressControl),
+    Row(PTRN_FCHR).dispUpdt(&P::DispPtrnData06).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06)
+        .press(PressLabel).flik(&P::FlikPtrnData06),
+    Row(PTRN_CHAR).dispUpdt(&P::DispPtrnData07).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06)
+        .press(PressField).flik(&P::FlikPtrnData06),
+    Row(PTRN_NUMR).dispUpdt(&P::DispPtrnData08).cler(&P::ClerPtrnData06).test(&P::TestPtrnData06)
+        .press(PressField).flik(&P::FlikPtrnData06),
 };
 // clang-format on
 

@@ -33,9 +33,11 @@ struct PTRNHEDR {
     char LogoName[SIZE_LOGONAME + 2];
     char BmapName[SIZE_BMAPNAME + 2];
 };
+static_assert(sizeof(PTRNHEDR) == 286);
 
-/// One item. Copied whole; changed on a copy and written back with WritePtrnData.
-struct PTRNDATA {
+/// One item. Copied whole; changed on a copy and written back with WritePtrnData. A record begins on a
+/// four-byte boundary, so that Parm may be pointed at; members behind Text lie as packing puts them.
+struct alignas(std::int32_t) PTRNDATA {
     std::int32_t Type;            ///< PtrnType
     std::int32_t Parm[CONT_PARM]; ///< ItemParm
     char Text[SIZE_PTRNTEXT + 2]; ///< text in the current language
@@ -50,6 +52,7 @@ struct PTRNDATA {
     std::int32_t Recd;   ///< index in the item array
     RECT Rect;           ///< SetRect(Parm[0..3])
 };
+static_assert(sizeof(PTRNDATA) == 632);
 
 #pragma pack(pop)
 
