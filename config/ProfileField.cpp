@@ -1,0 +1,117 @@
+#include "config/ProfileField.h"
+
+#include "base/EucText.h"
+#include "config/Profile.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+namespace
+{
+
+constexpr const char* decimalDigits = "0123456789";
+constexpr const char* hexadecimalDigits = "0123456789ABCDEFabcdef";
+
+bool HoldsOnly(const char* text, const char* allowed)
+{
+    return text[std::strspn(text, allowed)] == '\0';
+}
+
+bool IsDecimalNumber(const char* text)
+{
+    return HoldsOnly(text, "0123456789.") && std::count(text, text + std::strlen(text), '.') <= 1;
+}
+
+// The number a hexadecimal digit stands for, or -1.
+int DigitValue(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    if (digit >= 'A' && digit <= 'F')
+        return digit - 'A' + 10;
+    if (digit >= 'a' && digit <= 'f')
+        return digit - 'a' + 10;
+    return -1;
+}
+
+} // namespace
+
+void GetString(int i, char (&field)[SIZE_FIELD], const char* value)
+{
+    for (; i > 0 && *value; i--) {
+        value += std::strcspn(value, ",");
+        if (*value)
+            value++;
+    }
+    CopyText(field, value);
+    field[std::strcspn(field, ",")] = '\0';
+}
+
+int GetFormat(int i, const char* format)
+{
+    if (BoundedLength(format, static_cast<std::size_t>(i) + 1) <= static_cast<std::size_t>(i))
+        return FIELD_NONE;
+    switch (format[i]) {
+    case 's':
+    case 'S':
+        return FIELD_STRING;
+    case 'i':
+    case 'I':
+        return FIELD_INTEGER;
+    case 'h':
+    case 'H':
+    case 'f': // not a float: limits and tables keep 16-bit numbers here
+    case 'F':
+        return FIELD_HEXA;
+    default:
+        return FIELD_NONE;
+    }
+}
+
+void CheckBuffer(int kind, char (&field)[SIZE_FIELD])
+{
+    bool accepted = true;
+    switch (kind) {
+    case FIELD_STRING:
+        field[SIZE_FIELDTEXT] = '\0';
+        break;
+    case FIELD_INTEGER:
+        accepted = HoldsOnly(field, decimalDigits);
+        break;
+    case FIELD_HEXA:
+        accepted = HoldsOnly(field, hexadecimalDigits);
+        break;
+    case FIELD_FLOAT:
+        accepted = IsDecimalNumber(field);
+        break;
+    default:
+        accepted = false;
+        break;
+    }
+    if (!accepted)
+        field[0] = '\0';
+}
+
+void itoa(int value, char (&text)[SIZE_FIELD])
+{
+    std::snprintf(text, sizeof text, "%d", value);
+}
+
+void htoa(WORD value, char (&text)[SIZE_FIELD])
+{
+    std::snprintf(text, sizeof text, "%4X", static_cast<unsigned>(value));
+}
+
+void ftoa(float value, char (&text)[SIZE_FIELD])
+{
+    std::snprintf(text, sizeof text, "%.4f", static_cast<double>(value));
+}
+
+unsigned short atoh(const char* text)
+{
+    unsigned value = 0;
+    for (int i = 0; text && i < 4 && DigitValue(text[i]) >= 0; i++)
+        value = value * 16 + static_cast<unsigned>(DigitValue(text[i]));
+    return static_cast<unsigned short>(value);
+}

@@ -1,0 +1,213 @@
+#include "config/ProfileImage.h"
+
+#include "base/EucText.h"
+#include "config/FileCntl.h"
+#include "config/FileReport.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <string>
+
+namespace
+{
+
+constexpr FileEvent LOAD_PROFILE = {nullptr, "プロファイルが大きすぎる"};
+
+std::unique_ptr<char[]> ProfBuff; // the whole file, not terminated; null when it is missing or empty
+int ProfSize = 0;                 // bytes in ProfBuff
+int ProfPont = 0;                 // offset of the current line
+int ProfLeng = 0;                 // bytes of the current line, its line feed included
+
+bool IsBlank(char byte)
+{
+    return byte == ' ' || byte == '\t';
+}
+
+bool BeginsWith(const char* line, const std::string& text)
+{
+    return std::strncmp(line, text.c_str(), text.size()) == 0;
+}
+
+std::string HeaderText(const char* section)
+{
+    return std::string("[") + section + "]";
+}
+
+std::string KeyText(const char* key)
+{
+    return std::string(key) + "=";
+}
+
+std::string KeyLine(const char* key, const char* value)
+{
+    return KeyText(key) + value + "\n";
+}
+
+// Makes a new image in which `text` stands in place of `removed` bytes at `from`.
+void ReplaceBytes(int from, int removed, const std::string& text)
+{
+    const int rest = ProfSize - from - removed;
+    const int size = from + static_cast<int>(text.size()) + rest;
+    auto image = std::make_unique<char[]>(static_cast<std::size_t>(size));
+    char* place = std::copy_n(ProfBuff.get(), from, image.get());
+    place = std::copy(text.begin(), text.end(), place);
+    std::copy_n(ProfBuff.get() + from + removed, rest, place);
+    ProfBuff = std::move(image);
+    ProfSize = size;
+}
+
+} // namespace
+
+int ProfileInit(const char* file)
+{
+    ProfBuff.reset();
+    ProfSize = ProfPont = ProfLeng = 0;
+
+    const int size = FileSize(file, "");
+    const bool beyondCounting = size < 0 && FileExist(file, "");
+    if (size > SIZE_PROFILE || beyondCounting) {
+        FileReport(nullptr, 0).failure(LOAD_PROFILE, file);
+        return 0;
+    }
+    if (size < 1)
+        return 1;
+
+    ProfBuff = std::make_unique<char[]>(static_cast<std::size_t>(size));
+    if (FileRead(file, "", ProfBuff.get(), size, 0, nullptr, 0) != 1) {
+        ProfBuff.reset();
+        return 0;
+    }
+    ProfSize = size;
+    return 1;
+}
+
+void ProfileExit(const char* file, int write)
+{
+    if (write)
+        FileWrite(file, "", ProfBuff ? ProfBuff.get() : "", ProfSize, 0, nullptr, 0);
+    ProfBuff.reset();
+    ProfSize = 0;
+}
+
+void ReadProfile(const char* section, const char* key, char (&value)[SIZE_FIELD])
+{
+    value[0] = '\0';
+    if (ProfBuff)
+        ProfileSearch(section, key, value);
+}
+
+int WriteProfile(const char* section, const char* key, const char* value)
+{
+    const std::size_t added = HeaderText(section).size() + 1 + KeyLine(key, value).size();
+    if (added > static_cast<std::size_t>(SIZE_PROFILE - ProfSize))
+        return 0;
+
+    if (ProfBuff && ProfileSearch(section, key, nullptr)) {
+        ProfileReplace(key, value);
+        return 1;
+    }
+    if (!ProfBuff || !SectionSearch(section))
+        SectionInsert(section);
+    ProfileInsert(key, value);
+    return 1;
+}
+
+int ProfileSearch(const char* section, const char* key, char* value)
+{
+    if (value)
+        value[0] = '\0';
+    return SectionSearch(section) && KeynameSearch(key, value);
+}
+
+int SectionSearch(const char* section)
+{
+    ProfileReadInit();
+    if (!*section)
+        return 0;
+    const std::string header = HeaderText(section);
+    char line[SIZE_PROFLINE + 1];
+    while (ProfileReadLine(line))
+        if (BeginsWith(line, header))
+            return 1;
+    return 0;
+}
+
+int KeynameSearch(const char* key, char* value)
+{
+    if (value)
+        value[0] = '\0';
+    if (!*key)
+        return 0;
+    const std::string name = KeyText(key);
+    char line[SIZE_PROFLINE + 1];
+    while (ProfileReadLine(line)) {
+        if (BeginsWith(line, name)) {
+            if (value)
+                CopyText(value, SIZE_FIELD, line + name.size());
+            return 1;
+        }
+        if (line[0] == '[')
+            break;
+    }
+    return 0;
+}
+
+void SectionInsert(const char* section)
+{
+    ProfileReadInit();
+    if (!*section)
+        return;
+    const std::string header = HeaderText(section) + "\n";
+    ProfPont = ProfSize;
+    ProfLeng = static_cast<int>(header.size());
+    ReplaceBytes(ProfPont, 0, header);
+}
+
+void ProfileInsert(const char* key, const char* value)
+{
+    if (*key)
+        ReplaceBytes(ProfPont + ProfLeng, 0, KeyLine(key, value));
+}
+
+void ProfileReplace(const char* key, const char* value)
+{
+    if (*key)
+        ReplaceBytes(ProfPont, ProfLeng, KeyLine(key, value));
+}
+
+void ProfileRemove()
+{
+    ReplaceBytes(ProfPont, ProfLeng, "");
+}
+
+int ProfileReadInit()
+{
+    ProfPont = ProfLeng = 0;
+    return ProfBuff ? 1 : 0;
+}
+
+int ProfileReadLine(char (&line)[SIZE_PROFLINE + 1])
+{
+    line[0] = '\0';
+    if (!ProfBuff)
+        return 0;
+    ProfPont += ProfLeng;
+    ProfLeng = 0;
+    if (ProfPont >= ProfSize)
+        return 0;
+
+    int length = 0;
+    const int most = std::min(ProfSize - ProfPont, SIZE_PROFLINE);
+    while (ProfLeng < most) {
+        const char byte = ProfBuff[static_cast<std::size_t>(ProfPont + ProfLeng++)];
+        if (byte == '\0' || byte == '\n')
+            break;
+        // The rest of the line is consumed behind this terminator, where it can not be seen.
+        line[length++] = byte == ';' ? '\0' : byte;
+    }
+    line[length] = '\0';
+    for (std::size_t last = std::strlen(line); last-- > 1 && IsBlank(line[last]);)
+        line[last] = '\0';
+    return 1;
+}
