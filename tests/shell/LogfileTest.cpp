@@ -431,6 +431,15 @@ TEST_F(Log, knows_a_new_day_by_its_day_of_month)
     EXPECT_THAT(LogName, EndsWith("20260209.log"));
 }
 
+TEST_F(Log, changes_its_file_at_the_end_of_a_month)
+{
+    setClock(2026, 1, 31);
+    LogfileTimr();
+    setClock(2026, 2, 1);
+    LogfileTimr();
+    EXPECT_THAT(LogName, EndsWith("20260201.log"));
+}
+
 TEST_F(Log, saves_at_its_end)
 {
     project.set("LOG", "LOGSIZE", "100");
@@ -480,6 +489,18 @@ TEST_F(LogPruning, deletes_a_file_on_the_eighth_day_after_its_date)
     changeTo(2026, 1, 8);
     EXPECT_THAT(files(), ElementsAre("20260101.LOG"));
     changeTo(2026, 1, 9);
+    EXPECT_THAT(files(), IsEmpty());
+}
+
+TEST_F(LogPruning, counts_the_days_across_months_and_years)
+{
+    put("20251231.LOG");
+    put("20260301.LOG");
+    changeTo(2026, 1, 7);
+    EXPECT_THAT(files(), UnorderedElementsAre("20251231.LOG", "20260301.LOG"));
+    changeTo(2026, 3, 8);
+    EXPECT_THAT(files(), ElementsAre("20260301.LOG"));
+    changeTo(2026, 3, 9);
     EXPECT_THAT(files(), IsEmpty());
 }
 
