@@ -25,13 +25,6 @@ void KeepLocale()
         gtk_disable_setlocale();
 }
 
-bool Fail(const char* logText, const char* userText)
-{
-    problem = logText;
-    std::fprintf(stderr, "%s\n", userText);
-    return false;
-}
-
 } // namespace
 
 bool UseEucLocale()
@@ -40,21 +33,19 @@ bool UseEucLocale()
     KeepLocale();
     std::setlocale(LC_NUMERIC, "C");
 
-    if (!IsEuc()) {
+    if (!IsEuc())
         std::setlocale(LC_CTYPE, "ja_JP.eucJP");
-        if (!IsEuc())
-            return Fail("日本語を表示できない: ロケール ja_JP.eucJP がない。パッケージ locales を導入して "
-                        "localedef -i ja_JP -f EUC-JP ja_JP.eucJP を実行すること",
-                        "The locale ja_JP.eucJP is not installed, so Japanese text can not be shown.\n"
-                        "Install the package \"locales\", then run as root:\n"
-                        "    localedef -i ja_JP -f EUC-JP ja_JP.eucJP");
+    if (!IsEuc()) {
+        problem = "日本語を表示できない: ロケール ja_JP.eucJP がない。パッケージ locales を導入して "
+                  "localedef -i ja_JP -f EUC-JP ja_JP.eucJP を実行すること";
+        std::fputs("The locale ja_JP.eucJP is not installed, so Japanese text can not be shown.\n"
+                   "Install the package \"locales\", then run as root:\n"
+                   "    localedef -i ja_JP -f EUC-JP ja_JP.eucJP\n",
+                   stderr);
+        return false;
     }
 
-    if (!XSupportsLocale())
-        return Fail("日本語を表示できない: Xライブラリがロケール ja_JP.eucJP を知らない。"
-                    "パッケージ libx11-data を導入すること",
-                    "The X library does not know the locale ja_JP.eucJP, so Japanese text can not be shown.\n"
-                    "Install the package \"libx11-data\".");
+    // The X library keeps these per locale; gtk_set_locale() has set them for the environment's only.
     XSetLocaleModifiers("");
     return true;
 }

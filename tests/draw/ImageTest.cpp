@@ -1,6 +1,8 @@
 // Built-in pictures: that they are what they claim to be, and their colours from the profile file.
+#include "draw/DrawCntl.h"
 #include "tests/draw/ResourceFixture.h"
 
+#include <cstdlib>
 #include <set>
 
 using testing::ElementsAre;
@@ -152,6 +154,73 @@ TEST(Images, are_all_read_by_the_toolkit)
 {
     for (char** xpm : {XPM_Printer, XPM_SpinButn, XPM_DownArrow2, XPM_Cursor1, XPM_Check_ON})
         EXPECT_TRUE(image(xpm));
+}
+
+/// A mark as radio buttons and check boxes draw it: scaled to the height of a font, without a background.
+class ScaledMark : public Resources
+{
+  protected:
+    ScaledMark()
+    {
+        colors({{1, {65535, 65535, 65535}}});
+        DrawCntlInit();
+    }
+
+    /// Rows of "X" for pixels of the mark.
+    static Lines draw(int mark, int size)
+    {
+        const PixmapPtr pixmap(gdk_pixmap_new(nullptr, size, size, gdk_visual_get_system()->depth));
+        gdk_drawable_set_colormap(pixmap.get(), gdk_colormap_get_system());
+        CPaintDraw context(pixmap.get());
+        context.ClearScreen(0);
+        context.DrawMark(0, 0, size, size, 1, -1, mark);
+        const PixbufPtr picture(
+            gdk_pixbuf_get_from_drawable(nullptr, pixmap.get(), nullptr, 0, 0, 0, 0, size, size));
+        Lines lines(static_cast<std::size_t>(size));
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x)
+                lines[static_cast<std::size_t>(y)] += color(picture, x, y) == 0xFFFFFF ? 'X' : '.';
+        return lines;
+    }
+
+    /// True when no path between the pixels leads from the corner to a place within three pixels of the
+    /// middle.
+    static bool closed(Lines lines)
+    {
+        const int size = static_cast<int>(lines.size());
+        std::vector<std::pair<int, int>> open{{0, 0}};
+        while (!open.empty()) {
+            const auto [x, y] = open.back();
+            open.pop_back();
+            if (x < 0 || y < 0 || x >= size || y >= size ||
+                lines[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] != '.')
+                continue;
+            if (std::abs(x - size / 2) < 3 && std::abs(y - size / 2) < 3)
+                return false;
+            lines[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] = 'o';
+            for (const auto& [dx, dy] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}})
+                open.emplace_back(x + dx, y + dy);
+        }
+        return true;
+    }
+
+    static long pixels(const Lines& lines)
+    {
+        long count = 0;
+        for (const std::string& line : lines)
+            count += std::count(line.begin(), line.end(), 'X');
+        return count;
+    }
+};
+
+TEST_F(ScaledMark, keeps_its_outline_and_its_content_at_the_heights_of_fonts)
+{
+    for (const int size : {14, 15, 16, 17, 18, 20, 22, 24, 28, 32}) {
+        for (int mark = 350; mark < 354; ++mark)
+            EXPECT_TRUE(closed(draw(mark, size))) << mark << " at " << size;
+        EXPECT_GE(pixels(draw(351, size)), pixels(draw(350, size)) + 4) << size;
+        EXPECT_GE(pixels(draw(353, size)), pixels(draw(352, size)) + 6) << size;
+    }
 }
 
 class ImageColors : public Resources
