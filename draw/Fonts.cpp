@@ -4,8 +4,8 @@
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
 #include "shell/Logfile.h"
+#include "shell/LogText.h"
 
-#include <cstdio>
 #include <cstring>
 #include <gdk/gdkx.h>
 #include <string>
@@ -16,27 +16,12 @@ SIZE FontSize[CONT_FONT];
 namespace
 {
 
+constexpr char kLog[] = "SYSTEM";
+
 /// Name of the profile key; 64 bits, because a language number may be as large as the profile can write it.
 std::string FontKey(int no)
 {
     return "FONTNAME" + std::to_string(std::int64_t{Language} * CONT_FONT + no);
-}
-
-/// The fonts of a list are fields of the profile line; they are joined again.
-std::string FontName(const std::string& key)
-{
-    char part[8][100];
-    ProfileRead(ProfName, "FONT", key.c_str(), "ssssssss", part[0], part[1], part[2], part[3], part[4],
-                part[5], part[6], part[7]);
-    std::string name;
-    for (const char* text : part) {
-        if (!text[0])
-            continue;
-        if (!name.empty())
-            name += ',';
-        name += text;
-    }
-    return name;
 }
 
 /// Character sets that the locale needs and the font set lacks, separated by blanks.
@@ -55,31 +40,19 @@ std::string MissingCharsets(GdkFont* font)
     return names;
 }
 
-void Report(const char* text)
-{
-    LogfileWrite("SYSTEM", text, __FILE__, __LINE__);
-}
-
-void Report(const char* format, const std::string& key, const std::string& what)
-{
-    char text[SIZE_LOGMESG2 + 1];
-    std::snprintf(text, sizeof text, format, key.c_str(), what.c_str());
-    Report(text);
-}
-
 /// @return false when something of the font is missing
 bool LoadFont(int no, const std::string& key, const std::string& name)
 {
     DrawFont[no] = gdk_fontset_load(name.c_str());
     FontDataInit(no, name.c_str());
     if (!DrawFont[no]) {
-        Report("フォントの読込みに失敗 [%s=%s]", key, name);
+        LogText(kLog, __FILE__, __LINE__, "フォントの読込みに失敗 [%s=%s]", key.c_str(), name.c_str());
         return false;
     }
     const std::string missing = MissingCharsets(DrawFont[no]);
     if (missing.empty())
         return true;
-    Report("フォントに文字集合がない [%s: %s]", key, missing);
+    LogText(kLog, __FILE__, __LINE__, "フォントに文字集合がない [%s: %s]", key.c_str(), missing.c_str());
     return false;
 }
 
@@ -91,7 +64,7 @@ void FontInit()
     bool complete = true;
     for (int no = 0; no < CONT_FONT; ++no) {
         const std::string key = FontKey(no);
-        const std::string name = FontName(key);
+        const std::string name = ProfileReadAsc(ProfName, "FONT", key.c_str());
         if (name.empty())
             continue;
         ++named;
@@ -99,11 +72,15 @@ void FontInit()
     }
 
     if (!named)
-        Report("文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない", FontKey(0),
-               FontKey(CONT_FONT - 1));
+        LogText(kLog, __FILE__, __LINE__,
+                "文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない",
+                FontKey(0).c_str(), FontKey(CONT_FONT - 1).c_str());
     if (!complete)
-        Report("フォントのパッケージ xfonts-base, xfonts-intl-japanese を導入してXサーバーを再起動するか、"
-               "[FONT] のフォント名を直すこと");
+        LogfileWrite(
+            kLog,
+            "xfonts-base, xfonts-intl-japanese を導入してXサーバーを再起動するか、[FONT] の名前を直すこと "
+            "(名前はコンマで終わる。一つの名前が * で全文字集合に合うこと)",
+            __FILE__, __LINE__);
 }
 
 void FontExit()

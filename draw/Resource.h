@@ -90,7 +90,7 @@ void DrawCntlExit();
 /// Derives `FontSize[no]` from an X logical font description: pixel size, or when that is "*" the point
 /// size in tenths. (0, 0) when the name has no such field.
 /// @param no    font number; out of range does nothing
-/// @param name  font name, or a list of which the first counts; null counts as empty
+/// @param name  font name; null counts as empty
 void FontDataInit(int no, const char* name);
 
 /// Turns the bits of `MarkData` into the header line and the pixel rows of `Mark_XPM` 0..349; the colour

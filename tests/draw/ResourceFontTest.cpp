@@ -79,9 +79,9 @@ TEST_F(Fonts, draw_two_byte_characters_twice_as_wide_as_single_ones)
     EXPECT_EQ(width("A漢"), 7 + 14);
 }
 
-TEST_F(Fonts, may_be_lists_whose_first_name_gives_the_size)
+TEST_F(Fonts, have_one_name_which_a_comma_ends)
 {
-    // The first has no kanji, the second only kanji.
+    // The first name has no kanji; the second, which has nothing else, is not read.
     project.set("FONT", "FONTNAME0",
                 "-sony-fixed-medium-r-normal--24-*-*-*-*-*-*-*,-jis-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
     DrawCntlInit();
@@ -89,9 +89,10 @@ TEST_F(Fonts, may_be_lists_whose_first_name_gives_the_size)
     ASSERT_NE(DrawFont[0], nullptr);
     EXPECT_EQ(FontSize[0].cx, 12);
     EXPECT_EQ(FontSize[0].cy, 24);
-    EXPECT_THAT(reports(), IsEmpty());
-    EXPECT_EQ(gdk_text_width(DrawFont[0], "漢", 2), 16);
     EXPECT_EQ(gdk_text_width(DrawFont[0], "A", 1), 12);
+    EXPECT_NE(gdk_text_width(DrawFont[0], "漢", 2), 16);
+    EXPECT_THAT(reports(), Contains(AllOf(HasSubstr("FONTNAME0: "), HasSubstr("JISX0208"))));
+    EXPECT_THAT(reports(), Contains(HasSubstr("コンマ")));
 }
 
 TEST_F(Fonts, that_match_nothing_keep_their_size_and_are_reported)
@@ -106,7 +107,7 @@ TEST_F(Fonts, that_match_nothing_keep_their_size_and_are_reported)
     EXPECT_THAT(
         reports(),
         ElementsAre("フォントの読込みに失敗 [FONTNAME23=-nobody-nothing-medium-r-normal--18-*-*-*-*-*-*-*]",
-                    AllOf(HasSubstr("xfonts-base"), HasSubstr("xfonts-intl-japanese"))));
+                    AllOf(HasSubstr("xfonts-base"), HasSubstr("xfonts-intl-japanese"), HasSubstr("コンマ"))));
 }
 
 TEST_F(Fonts, that_lack_a_character_set_are_used_and_reported)
