@@ -66,8 +66,10 @@ void ItemReader::applyStyle(const std::string& name, bool named, const Place& pl
         if (!style)
             continue;
         for (const Entry& entry : style->entries) {
-            if (IsStyleKey(entry.name))
+            if (entry.name == "size")
                 placement_.read(entry, style->label, diagnostics_);
+            else if (entry.name == "action")
+                readAction(entry.value);
             else if (named && !attributes_.find(entry.name))
                 diagnostics_.error(place, label_ + ": " + style->label + " sets " + Quoted(entry.name) +
                                               ", which a " + schema_.name +

@@ -33,7 +33,7 @@ bool Knows(const Tables& tables, const std::string& name)
 
 std::vector<std::string> Names(const Tables& tables)
 {
-    std::set<std::string> names = {"size"};
+    std::set<std::string> names = {"size", "action"};
     for (const auto& table : tables)
         for (const ParmSchema& parm : table)
             names.insert(parm.name);
@@ -44,7 +44,7 @@ std::vector<std::string> Names(const Tables& tables)
 
 bool IsStyleKey(const std::string& name)
 {
-    return name == "size";
+    return name == "size" || name == "action";
 }
 
 void Styles::read(const Source& section, Diagnostics& diagnostics)
