@@ -15,6 +15,7 @@
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "dialogs/MessageBox.h"
+#include "dialogs/PtrnMente.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"

@@ -3,6 +3,7 @@
 #include "config/FileCntl.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "dialogs/PtrnMente.h"
 #include "shell/Logfile.h"
 #include "shell/LogText.h"
 #include "window/PtrnDisp.h"
@@ -94,7 +95,7 @@ void PtrnDispVersnWnd()
 
 void PtrnDispMenteWnd()
 {
-    OpenBuiltInWnd("メンテナンス", [] { return new CPtrnDisp; });
+    OpenBuiltInWnd("メンテナンス", [] { return new CPtrnMente; });
 }
 
 void ReqSystemStop(const char* file, int line)

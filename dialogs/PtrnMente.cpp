@@ -1,0 +1,190 @@
+#include "dialogs/PtrnMente.h"
+
+#include "base/EucText.h"
+#include "comndata/ComnData.h"
+#include "comndata/ItemState.h"
+#include "comndata/PtrnCode.h"
+#include "config/FileCntl.h"
+#include "config/Settings.h"
+#include "window/KeyText.h"
+
+#include <limits>
+#include <string>
+
+std::int32_t SlctCode;
+std::int32_t LineNo1;
+std::int32_t LineNo2;
+
+namespace
+{
+
+constexpr int kLines = 10; ///< of each list
+
+// First cell of each column.
+constexpr int kCodeCell = DTNO_MENTE;
+constexpr int kOffsetCell = DTNO_MENTE + 10;
+constexpr int kFlagCell = DTNO_MENTE + 20;
+constexpr int kWordCell = DTNO_MENTE + 30;
+constexpr int kValueCell = DTNO_MENTE + 40;
+constexpr int kTextCell = DTNO_MENTE + 50;
+constexpr int kCodeBar = DTNO_MENTE + 60;
+constexpr int kDataBar = DTNO_MENTE + 61;
+constexpr int kDataColumns[] = {kOffsetCell, kFlagCell, kWordCell, kValueCell, kTextCell};
+
+bool IsInColumn(int no, int column)
+{
+    return no >= column && no < column + kLines;
+}
+
+/// The line of a list that a cell belongs to.
+int LineOf(int no)
+{
+    return no % kLines;
+}
+
+/// Place `line` lines behind `first`, whatever `first` is.
+int LineAt(int first, int line)
+{
+    return first > std::numeric_limits<int>::max() - 2 * kLines ? first : first + line;
+}
+
+/// Row 0 is the framework's own and not listed.
+bool IsListed(int row)
+{
+    return row >= 1 && row < PtrnRecd;
+}
+
+/// A code may fill its field to the last byte.
+std::string CodeText(const PTRNCODE& row)
+{
+    return std::string(row.ID_Code, BoundedLength(row.ID_Code, sizeof row.ID_Code));
+}
+
+PTRNCODE* SelectedCode()
+{
+    return IsListed(SlctCode) ? &PtrnCode[SlctCode] : nullptr;
+}
+
+/// Data number at an offset of the selected code; -1 when there is none.
+int NumberAt(int offset)
+{
+    const PTRNCODE* code = SelectedCode();
+    if (!code || offset < 0 || offset >= code->DataCount)
+        return -1;
+    const std::int64_t no = std::int64_t{code->DataNo} + offset;
+    return no >= 0 && no < PtrnDataNo ? static_cast<int>(no) : -1;
+}
+
+/// Data number shown in a line.
+int NumberInLine(int line)
+{
+    return NumberAt(LineAt(LineNo2, line));
+}
+
+void ShowNumber(int line, int offset, int no)
+{
+    Set_iData(kOffsetCell + line, offset, nullptr, 0);
+    Set_iData(kFlagCell + line, PtrnFlag[no], nullptr, 0);
+    Set_iData(kWordCell + line, Get_wData(no, nullptr, 0), nullptr, 0);
+    Set_fData(kValueCell + line, Get_fData(no, nullptr, 0), nullptr, 0);
+    Set_sData(kTextCell + line, Get_sData(no, nullptr, 0), nullptr, 0);
+}
+
+void ChangeFlag(int cell)
+{
+    const int no = NumberInLine(LineOf(cell));
+    if (no < 0)
+        return;
+    PtrnFlag[no] = static_cast<BYTE>(Get_iData(cell, nullptr, 0));
+    FileWrite(ProjPath, "PtrnFlag", PtrnFlag, PtrnDataNo, 0, nullptr, 0);
+}
+
+} // namespace
+
+void CPtrnMente::PtrnInitFunc()
+{
+    SlctDispData(SlctCode);
+}
+
+void CPtrnMente::PtrnTimrFunc()
+{
+    SetDispData2(LineNo2);
+}
+
+void CPtrnMente::PtrnMesgFunc(int no)
+{
+    if (IsInColumn(no, kCodeCell)) {
+        const int row = LineAt(LineNo1, LineOf(no) + 1);
+        if (IsListed(row))
+            SlctDispData(row);
+    } else if (IsInColumn(no, kFlagCell)) {
+        ChangeFlag(no);
+    } else if (no == kCodeBar) {
+        SetDispData1(Get_iData(kCodeBar, nullptr, 0));
+    } else if (no == kDataBar) {
+        SetDispData2(Get_iData(kDataBar, nullptr, 0));
+    }
+}
+
+void CPtrnMente::PtrnKeyFunc(int key, int, PTRNDATA* item)
+{
+    if (key != KEY_RETURN)
+        return;
+    const int cell = item->DataNo;
+    const int no = NumberInLine(LineOf(cell));
+    if (no < 0)
+        return;
+    // A change by hand is recorded like any other access to a number whose log flag is set.
+    if (IsInColumn(cell, kWordCell))
+        Set_wData(no, static_cast<WORD>(Get_iData(cell, nullptr, 0)), __FILE__, __LINE__);
+    else if (IsInColumn(cell, kValueCell))
+        Set_fData(no, Get_fData(cell, nullptr, 0), __FILE__, __LINE__);
+    else if (IsInColumn(cell, kTextCell))
+        Set_sData(no, Get_sData(cell, nullptr, 0), __FILE__, __LINE__);
+}
+
+void CPtrnMente::SlctDispData(int row)
+{
+    if (PTRNCODE* left = SelectedCode())
+        left->DispNo = LineNo2;
+    SlctCode = IsListed(row) ? row : 1;
+
+    const PTRNCODE* code = SelectedCode();
+    SetDispData1(LineNo1);
+    SetDispData2(code && NumberAt(code->DispNo) >= 0 ? code->DispNo : 0);
+}
+
+void CPtrnMente::SetDispData1(int first)
+{
+    LineNo1 = first;
+    PtrnSetScroll(kCodeBar, PtrnRecd - 1, first, nullptr, 0);
+    Clear_AllData(kCodeCell, kLines, nullptr, 0);
+    for (int line = 0; line < kLines; line++) {
+        const int row = LineAt(first, line + 1);
+        if (!IsListed(row))
+            continue;
+        Set_sData(kCodeCell + line, CodeText(PtrnCode[row]).c_str(), nullptr, 0);
+        Set_wData(kCodeCell + line, row == SlctCode ? 1 : 0, nullptr, 0);
+    }
+}
+
+void CPtrnMente::SetDispData2(int first)
+{
+    const PTRNCODE* code = SelectedCode();
+    if (code)
+        LineNo2 = first;
+    PtrnSetScroll(kDataBar, code ? code->DataCount : 0, code ? first : 0, nullptr, 0);
+
+    for (const int column : kDataColumns)
+        Clear_AllData(column, kLines, nullptr, 0);
+    for (int line = 0; line < kLines; line++) {
+        const int offset = LineAt(first, line);
+        const int no = NumberAt(offset);
+        if (no >= 0) {
+            ShowNumber(line, offset, no);
+            continue;
+        }
+        for (const int column : kDataColumns)
+            Set_Disable(column + line, 1, 0, nullptr, 0);
+    }
+}
