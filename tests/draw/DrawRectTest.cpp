@@ -229,6 +229,33 @@ TEST(PaintDraw, has_a_context_of_its_own_and_keeps_it_when_destroyed)
     g_object_unref(gc);
 }
 
+TEST(ClientDraw, draws_on_a_window)
+{
+    usePalette();
+    GdkWindowAttr attributes{};
+    attributes.window_type = GDK_WINDOW_TEMP;
+    attributes.wclass = GDK_INPUT_OUTPUT;
+    attributes.width = 40;
+    attributes.height = 30;
+    GdkWindow* const window = gdk_window_new(nullptr, &attributes, 0);
+    gdk_window_show(window);
+    CClientDraw draw(window);
+    draw.ClearScreen(3);
+    draw.DrawRect(10, 9, 30, 21, 2, INSIDE, 5, 8);
+
+    GdkImage* const image = gdk_drawable_get_image(window, 0, 0, 40, 30);
+    Picture drawn(40, 30, 0);
+    for (int y = 0; y < 30; y++)
+        for (int x = 0; x < 40; x++)
+            drawn.set(x, y, gdk_image_get_pixel(image, x, y));
+    Picture expected(40, 30, color(3));
+    expected.fill(10, 9, 30, 21, color(8)).frame(10, 9, 30, 21, color(5)).frame(11, 10, 29, 20, color(5));
+    EXPECT_TRUE(same(drawn, expected));
+    g_object_unref(image);
+    g_object_unref(draw.gc);
+    gdk_window_destroy(window);
+}
+
 TEST(PaintDraw, is_released_with_its_context_by_its_pointer)
 {
     Canvas canvas(4, 4);
