@@ -1,49 +1,10 @@
-// A pixmap to draw on, read back as pixels, and pictures that a test builds from the rules to compare with.
+// A pixmap to draw on, read back as pixels to compare with those that a test builds from the rules.
 #pragma once
 
 #include "draw/DrawCntl.h"
+#include "tests/support/Picture.h"
 
 #include <cstdint>
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
-/// Pixels as 0xRRGGBB.
-class Picture
-{
-  public:
-    Picture(int width, int height, std::uint32_t ground);
-
-    int width() const { return width_; }
-    int height() const { return height_; }
-    std::uint32_t at(int x, int y) const;
-
-    /// One pixel; outside the picture nothing happens.
-    Picture& set(int x, int y, std::uint32_t rgb);
-    /// Box without its right column and bottom row.
-    Picture& fill(int x1, int y1, int x2, int y2, std::uint32_t rgb);
-    /// One-pixel outline with both corners.
-    Picture& frame(int x1, int y1, int x2, int y2, std::uint32_t rgb);
-    /// Columns x1..x2 - 1 of a row, rows y1..y2 - 1 of a column.
-    Picture& row(int x1, int x2, int y, std::uint32_t rgb);
-    Picture& column(int x, int y1, int y2, std::uint32_t rgb);
-    /// The pixels of `part` that are not `transparent`, with its corner at (x, y).
-    Picture& paste(int x, int y, const Picture& part, std::int64_t transparent = -1);
-
-    /// Number of pixels of a colour.
-    int count(std::uint32_t rgb) const;
-    /// "x1,y1-x2,y2" of the smallest box, both corners included, of all pixels that are not `ground`; "" for
-    /// none.
-    std::string bounds(std::uint32_t ground) const;
-
-  private:
-    int width_;
-    int height_;
-    std::vector<std::uint32_t> pixels_;
-};
-
-/// True when both are alike; tells the first pixel that differs, and how many do.
-testing::AssertionResult same(const Picture& drawn, const Picture& expected);
 
 /// Fills the colour tables with 100 different colours and empties the font table.
 /// Colour number n is 0xRRGGBB = color(n); all are different from Canvas::ground.

@@ -24,7 +24,6 @@ constexpr guint pollMilliseconds = 5;
 struct Release {
     void operator()(void* memory) const { XFree(memory); }
     void operator()(XImage* image) const { XDestroyImage(image); }
-    void operator()(GdkPixbuf* pixbuf) const { g_object_unref(pixbuf); }
 };
 
 /// Other programs' windows may go away between two requests about them.
@@ -247,7 +246,7 @@ Picture XDriver::picture(int x, int y, int width, int height)
 {
     if (GdkDisplay* own = gdk_display_get_default())
         gdk_display_sync(own); // what this process has drawn is on the screen now
-    Picture result{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height)};
+    Picture result(width, height, 0);
     const ErrorTrap trap(display_);
     const std::unique_ptr<XImage, Release> image(
         XGetImage(display_, DefaultRootWindow(display_), x, y, static_cast<unsigned>(width),
@@ -272,17 +271,7 @@ Picture XDriver::screen()
 
 void XDriver::save(const std::string& path)
 {
-    const Picture shown = screen();
-    const std::unique_ptr<GdkPixbuf, Release> pixbuf(
-        gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, shown.width, shown.height));
-    for (int y = 0; y < shown.height; y++) {
-        guchar* row = gdk_pixbuf_get_pixels(pixbuf.get()) + y * gdk_pixbuf_get_rowstride(pixbuf.get());
-        for (int x = 0; x < shown.width; x++) {
-            for (int shift = 16; shift >= 0; shift -= 8)
-                *row++ = static_cast<guchar>(shown.at(x, y) >> shift);
-        }
-    }
-    if (!gdk_pixbuf_save(pixbuf.get(), path.c_str(), "png", nullptr, nullptr))
+    if (!screen().save(path))
         ADD_FAILURE() << "can not write " << path;
 }
 

@@ -4,6 +4,8 @@
 // events are handled while a call of waitFor() or settle() runs, and a program started beside it.
 #pragma once
 
+#include "tests/support/Picture.h"
+
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -11,14 +13,6 @@
 #include <vector>
 
 struct _XDisplay;
-
-/// Part of the screen. Pixels are 0xRRGGBB.
-struct Picture {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint32_t> pixels; ///< row by row
-    std::uint32_t at(int x, int y) const { return pixels.at(static_cast<std::size_t>(y) * width + x); }
-};
 
 /// A mapped top-level window; the position is that of its contents on the screen, without a frame.
 struct ScreenWindow {
