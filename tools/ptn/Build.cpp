@@ -1,5 +1,6 @@
 #include "tools/ptn/Build.h"
 
+#include "tools/ptn/Files.h"
 #include "tools/ptn/ProjectSource.h"
 #include "tools/ptn/ScreenSource.h"
 
@@ -25,7 +26,7 @@ OutputFiles ProjectFiles(const ProjectSource& project, const std::vector<Pattern
     files["PtrnColr"] = project.resources.colorBytes();
     files["PtrnMark"] = project.resources.markBytes();
     for (const auto& bitmap : project.bitmaps)
-        files["Bitmap/" + bitmap.first] = ReadBytes(bitmap.second);
+        files["Bitmap/" + bitmap.first] = bitmap.second;
     for (const Pattern& pattern : patterns)
         files[pattern.name + ".ptn"] = PatternBytes(pattern);
     return files;
@@ -53,7 +54,7 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     const fs::path profile = folder.parent_path() / (project.program + ".ini");
     const std::string profileBytes =
         project.profile.bytes(folder.parent_path().string(), folder.filename().string(), project.resources,
-                              ReadBytes(profile), diagnostics);
+                              ReadBytes(profile).value_or(""), diagnostics);
     if (diagnostics.failed())
         return std::nullopt;
     try {

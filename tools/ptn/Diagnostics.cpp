@@ -1,7 +1,6 @@
 #include "tools/ptn/Diagnostics.h"
 
 #include <algorithm>
-#include <numeric>
 #include <ostream>
 
 void Diagnostics::add(const Place& place, const std::string& what, const char* kind, int& count)
@@ -27,21 +26,23 @@ void Diagnostics::print(std::ostream& out) const
 namespace
 {
 
-// Bytes to insert, remove or replace to get from one name to the other.
+// Bytes to insert, remove, replace or swap with their neighbour to get from one name to the other.
 std::size_t EditDistance(const std::string& a, const std::string& b)
 {
-    std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i;
-        for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({row[j] + 1, row[j - 1] + 1, replaced});
+    std::vector<std::vector<std::size_t>> rows(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
+    for (std::size_t i = 0; i <= a.size(); ++i) {
+        for (std::size_t j = 0; j <= b.size(); ++j) {
+            if (i == 0 || j == 0) {
+                rows[i][j] = i + j;
+                continue;
+            }
+            const std::size_t replaced = rows[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            rows[i][j] = std::min({rows[i - 1][j] + 1, rows[i][j - 1] + 1, replaced});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                rows[i][j] = std::min(rows[i][j], rows[i - 2][j - 2] + 1);
         }
     }
-    return row[b.size()];
+    return rows[a.size()][b.size()];
 }
 
 } // namespace

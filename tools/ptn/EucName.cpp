@@ -37,7 +37,8 @@ std::string Shown(const std::string& character)
     const long code = CodePoint(character);
     char number[32];
     if (code < 0) {
-        std::snprintf(number, sizeof number, "the byte %02X", static_cast<unsigned char>(character[0]));
+        std::snprintf(number, sizeof number, "character for the byte %02X",
+                      static_cast<unsigned char>(character[0]));
         return number;
     }
     std::snprintf(number, sizeof number, "U+%04lX", code);

@@ -230,6 +230,13 @@ std::vector<PatternItem> ItemReader::copies() const
                                             " cells. Repeat less, or extend the code.");
         return {};
     }
+    const std::int32_t* parm = item_.record.Parm;
+    if (!Placement::reaches(parm, (repeat_.count - 1LL) * repeat_.dx, (repeat_.count - 1LL) * repeat_.dy)) {
+        diagnostics_.error(item_.place,
+                           label_ + " with its repetitions reaches beyond the coordinates, which go from "
+                                    "-32768 to 32767. Repeat less or in smaller steps.");
+        return {};
+    }
     std::vector<PatternItem> items(static_cast<std::size_t>(repeat_.count), item_);
     for (int copy = 0; copy < repeat_.count; ++copy) {
         PTRNFILE& record = items[static_cast<std::size_t>(copy)].record;
@@ -273,7 +280,7 @@ std::vector<PatternItem> ReadItem(const Source& source, int number, const ItemCo
         list += (list.empty() ? "" : ", ") + names.back();
     }
     if (type == entries.end()) {
-        if (!entries.empty())
+        if (source.isMap())
             context.diagnostics.error(source.place(), label + " has no 'type'. Write one of: " + list + ".");
         return {};
     }

@@ -1,10 +1,10 @@
 #include "tools/ptn/Output.h"
 
+#include "tools/ptn/Files.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -15,20 +15,6 @@ namespace
 /// Lists what the build has written, one path per line, so that the next one can tell its own old files
 /// from those of others.
 const char* const listName = ".ptn-files";
-
-fs::filesystem_error Failed(const char* what, const fs::path& path)
-{
-    return {what, path, std::error_code(errno, std::generic_category())};
-}
-
-void WriteBytes(const fs::path& file, const std::string& bytes)
-{
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out)
-        throw Failed("can not be written", file);
-}
 
 // A list that was tampered with must not lead out of the folder.
 bool StaysInside(const fs::path& name)
@@ -55,7 +41,7 @@ Staging::Staging(const fs::path& folder) : folder_(folder)
 {
     std::string name = folder.string() + ".ptn-XXXXXX";
     if (!mkdtemp(name.data()))
-        throw Failed("can not be made", name);
+        throw fs::filesystem_error("can not be made", name, std::error_code(errno, std::generic_category()));
     temporary_ = name;
 }
 
@@ -67,10 +53,10 @@ Staging::~Staging()
 
 void Staging::add(const std::string& name, const std::string& bytes)
 {
-    std::error_code missing;
-    if (fs::is_regular_file(folder_ / name, missing) && ReadBytes(folder_ / name) == bytes)
+    if (ReadBytes(folder_ / name) == bytes)
         return;
     // Found out before anything is moved.
+    std::error_code missing;
     if (fs::is_directory(folder_ / name, missing))
         throw fs::filesystem_error("is a folder", folder_ / name,
                                    std::make_error_code(std::errc::is_a_directory));
@@ -86,12 +72,6 @@ int Staging::moveIn()
         fs::rename(temporary_ / std::to_string(i), target);
     }
     return static_cast<int>(names_.size());
-}
-
-std::string ReadBytes(const fs::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const fs::path& profile,
@@ -111,7 +91,7 @@ OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const
     project.add(listName, list);
     beside.add(profile.filename().string(), profileBytes);
 
-    const std::string before = ReadBytes(place / listName);
+    const std::string before = ReadBytes(place / listName).value_or("");
     OutputReport report;
     report.files = static_cast<int>(files.size()) + 2; // and the list, and the profile
     report.written = project.moveIn() + beside.moveIn();

@@ -44,6 +44,3 @@ struct OutputReport {
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
 OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
                          const std::filesystem::path& profile, const std::string& profileBytes);
-
-/// A whole file; empty when there is none.
-std::string ReadBytes(const std::filesystem::path& file);

@@ -66,6 +66,13 @@ void Placement::read(const Entry& entry, const std::string& label, Diagnostics& 
         (rect ? rect_ : entry.name == "at" ? at_ : size_) = numbers;
 }
 
+bool Placement::reaches(const std::int32_t* parm, long long dx, long long dy)
+{
+    const auto inside = [](long long value) { return value >= MIN_COORDINATE && value <= MAX_COORDINATE; };
+    return inside(parm[PARM_X1] + dx) && inside(parm[PARM_Y1] + dy) && inside(parm[PARM_X2] + dx) &&
+           inside(parm[PARM_Y2] + dy);
+}
+
 bool Placement::finish(PatternItem& item, const ItemSchema& schema, const Resources& resources,
                        const std::string& label, Diagnostics& diagnostics)
 {

@@ -23,6 +23,9 @@ class Placement
     bool finish(PatternItem& item, const ItemSchema& schema, const Resources& resources,
                 const std::string& label, Diagnostics& diagnostics);
 
+    /// Whether corners that are moved that far are still coordinates.
+    static bool reaches(const std::int32_t* parm, long long dx, long long dy);
+
   private:
     std::optional<std::vector<int>> rect_;
     std::optional<std::vector<int>> at_;

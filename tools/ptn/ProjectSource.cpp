@@ -2,6 +2,7 @@
 
 #include "base/Constants.h"
 #include "tools/ptn/EucName.h"
+#include "tools/ptn/Files.h"
 
 #include <algorithm>
 
@@ -44,21 +45,20 @@ std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagn
     return sections;
 }
 
-std::map<std::string, fs::path> Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
+std::map<std::string, std::string> Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
 {
-    std::map<std::string, fs::path> bitmaps;
+    std::map<std::string, std::string> bitmaps;
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(folder, missing)) {
         const std::string name = entry.path().filename().string();
         if (name[0] == '.')
             continue;
         const Place place{entry.path().string(), 0};
-        if (!entry.is_regular_file()) {
-            diagnostics.error(place, "only files can be bitmaps. Move it out of the folder.");
-            continue;
-        }
-        if (const auto euc = ToEucFileName(name, SIZE_PTRNTEXT, "the file's name", place, diagnostics))
-            bitmaps.emplace(*euc, entry.path());
+        const std::optional<std::string> bytes = ReadBytes(entry.path());
+        if (!bytes)
+            diagnostics.error(place, "not a file that can be read. Move it out of the folder.");
+        else if (const auto euc = ToEucFileName(name, SIZE_PTRNTEXT, "the file's name", place, diagnostics))
+            bitmaps.emplace(*euc, *bytes);
     }
     return bitmaps;
 }
@@ -70,7 +70,8 @@ std::vector<std::string> YamlFiles(const fs::path& folder)
     std::vector<std::string> files;
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(folder, missing))
-        if (entry.path().extension() == ".yaml" && entry.path().filename().string()[0] != '.')
+        if (entry.path().extension() == ".yaml" && entry.path().filename().string()[0] != '.' &&
+            !entry.is_directory())
             files.push_back(entry.path().string());
     std::sort(files.begin(), files.end());
     return files;

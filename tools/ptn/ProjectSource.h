@@ -16,11 +16,11 @@ struct ProjectSource {
     Resources resources;
     Styles styles;
     ProfileSource profile;
-    std::map<std::string, std::filesystem::path> bitmaps; ///< EUC-JP name to source file
+    std::map<std::string, std::string> bitmaps; ///< bytes by EUC-JP name
 };
 
 /// Reads the folder: its *.yaml files, whose sections may be spread over the files as one likes, and the
-/// names of the files in "bitmaps".
+/// files in "bitmaps".
 ProjectSource ReadProject(const std::filesystem::path& folder, Diagnostics& diagnostics);
 
 /// The *.yaml files of a folder in the order of their names; none when there is no such folder.

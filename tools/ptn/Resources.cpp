@@ -80,7 +80,7 @@ void Resources::readMarks(const Source& section, Diagnostics& diagnostics)
     for (const NumberedEntry& entry : NumberedEntries(section, "art", marks_, diagnostics)) {
         const std::string what = "mark " + Quoted(entry.name) + " (" + std::to_string(entry.number) + ")";
         if (const auto art = Text(entry.value, what, diagnostics))
-            ReadMarkArt(*art, markSize(entry.number), what, entry.place, markData_.at(entry.number),
+            ReadMarkArt(*art, markSize(entry.number), what, entry.value.place(), markData_.at(entry.number),
                         diagnostics);
     }
 }

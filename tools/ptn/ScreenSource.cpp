@@ -31,7 +31,7 @@ class ScreenReader
 
   private:
     void readName(const Source& source, const Place& place);
-    void readTitle(const Source& source, const Place& place);
+    void readTitle(const Entry& entry);
     template <std::size_t N> void readBitmap(char (&field)[N], const Entry& entry);
     void readWindow(const Source& source);
     void readParm2(const Source& source);
@@ -63,7 +63,7 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
     }
     pattern_.place = parts["name"].place;
     readName(part("name"), pattern_.place);
-    readTitle(parts.count("title") ? part("title") : part("name"), pattern_.place);
+    readTitle(parts[parts.count("title") ? "title" : "name"]);
     if (parts.count("logo"))
         readBitmap(pattern_.header.LogoName, parts["logo"]);
     if (parts.count("background"))
@@ -86,15 +86,16 @@ void ScreenReader::readName(const Source& source, const Place& place)
     pattern_.name = euc.value_or("");
 }
 
-void ScreenReader::readTitle(const Source& source, const Place& place)
+void ScreenReader::readTitle(const Entry& entry)
 {
-    const auto titles = Texts(source, "'title'", diagnostics_);
+    const auto titles = Texts(entry.value, "'title'", diagnostics_);
     if (!titles)
         return;
     HEDRFILE& header = pattern_.header;
     std::size_t language = 0;
     for (auto* field : {&header.PtrnName1, &header.PtrnName2, &header.PtrnName3})
-        if (const auto euc = ToEuc((*titles)[language++], SIZE_PTRNNAME, "'title'", place, diagnostics_))
+        if (const auto euc =
+                ToEuc((*titles)[language++], SIZE_PTRNNAME, "'title'", entry.place, diagnostics_))
             CopyText(*field, euc->c_str());
 }
 

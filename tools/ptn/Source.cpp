@@ -1,9 +1,10 @@
 #include "tools/ptn/Source.h"
 
+#include "tools/ptn/Files.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
 #include <limits>
 #include <set>
 
@@ -47,13 +48,13 @@ std::vector<Source> Source::members() const
 
 std::optional<Source> ReadYaml(const std::string& file, Diagnostics& diagnostics)
 {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
+    const std::optional<std::string> bytes = ReadBytes(file);
+    if (!bytes) {
         diagnostics.error({file, 0}, "can not be read. Check that the file is there and readable.");
         return std::nullopt;
     }
     try {
-        return Source(std::make_shared<const std::string>(file), YAML::Load(in));
+        return Source(std::make_shared<const std::string>(file), YAML::Load(*bytes));
     } catch (const YAML::Exception& problem) {
         // Without a position the mark's line is -1.
         diagnostics.error({file, problem.mark.line + 1}, "not valid YAML: " + problem.msg + ".");

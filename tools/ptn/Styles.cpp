@@ -1,6 +1,5 @@
 #include "tools/ptn/Styles.h"
 
-#include <cstring>
 #include <set>
 
 namespace
@@ -23,6 +22,9 @@ Tables TablesOf(const std::string& style)
     return all;
 }
 
+// What a style of items may say beside parameters.
+const std::set<std::string> itemKeys = {"size", "action"};
+
 bool Knows(const Tables& tables, const std::string& name)
 {
     for (const auto& table : tables)
@@ -33,7 +35,7 @@ bool Knows(const Tables& tables, const std::string& name)
 
 std::vector<std::string> Names(const Tables& tables)
 {
-    std::set<std::string> names = {"size", "action"};
+    std::set<std::string> names = itemKeys;
     for (const auto& table : tables)
         for (const ParmSchema& parm : table)
             names.insert(parm.name);
@@ -42,18 +44,13 @@ std::vector<std::string> Names(const Tables& tables)
 
 } // namespace
 
-bool IsStyleKey(const std::string& name)
-{
-    return name == "size" || name == "action";
-}
-
 void Styles::read(const Source& section, Diagnostics& diagnostics)
 {
     for (const Entry& style : Entries(section, "'styles'", diagnostics)) {
         Layer layer{"style " + Quoted(style.name), {}};
         const Tables tables = TablesOf(style.name);
         for (const Entry& entry : Entries(style.value, layer.label, diagnostics)) {
-            if (IsStyleKey(entry.name) || Knows(tables, entry.name))
+            if (Knows(tables, entry.name) || (style.name != "window" && itemKeys.count(entry.name)))
                 layer.entries.push_back(entry);
             else
                 diagnostics.error(entry.place, layer.label + ": unknown attribute " + Quoted(entry.name) +

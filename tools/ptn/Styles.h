@@ -7,14 +7,12 @@
 #include <string>
 #include <vector>
 
-/// Attributes of an item that are no parameters but may stand in a style.
-bool IsStyleKey(const std::string& name);
-
 class Styles
 {
   public:
     /// Reads a section "styles". A style named "item" holds defaults of all items, one named after an item
-    /// type those of the type, "window" those of windows; others are asked for with "style: name".
+    /// type those of the type, "window" those of windows; others are asked for with "style: name". Beside
+    /// parameters, styles of items may have "size" and "action".
     void read(const Source& section, Diagnostics& diagnostics);
 
     /// The style, or null.

@@ -1,0 +1,240 @@
+// The sample project of this source tree: it builds, and its screens are laid out so that all of them can be
+// seen and operated.
+#include "config/Profile.h"
+#include "pattern/ItemParm.h"
+#include "pattern/PtrnFile.h"
+#include "tests/ptn/Sources.h"
+#include "tests/support/Program.h"
+#include "tests/support/Project.h"
+
+#include <cstring>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+/// What a finger hits without aiming.
+constexpr int FINGER = 40;
+
+struct Item {
+    PTRNFILE record;
+    std::vector<std::string> texts; ///< three languages, ID_Name, ID_Code
+};
+
+struct Screen {
+    HEDRFILE header;
+    std::vector<Item> items;
+};
+
+Screen Parse(const std::string& bytes)
+{
+    Screen screen{};
+    std::memcpy(&screen.header, bytes.data(), sizeof screen.header);
+    std::size_t at = sizeof screen.header;
+    for (int i = 0; i < screen.header.DataCount; ++i, at += sizeof(PTRNFILE)) {
+        Item item{};
+        std::memcpy(&item.record, bytes.data() + at, sizeof item.record);
+        screen.items.push_back(item);
+    }
+    EXPECT_EQ(at + static_cast<std::size_t>(screen.header.TextSize), bytes.size());
+    for (Item& item : screen.items) {
+        for (int i = 0; i < 5; ++i) {
+            item.texts.emplace_back(bytes.c_str() + at);
+            at += item.texts.back().size() + 1;
+        }
+    }
+    EXPECT_EQ(at, bytes.size());
+    return screen;
+}
+
+RECT Corners(const Item& item)
+{
+    const std::int32_t* parm = item.record.Parm;
+    return SetRect(parm[PARM_X1], parm[PARM_Y1], parm[PARM_X2], parm[PARM_Y2]);
+}
+
+class Sample : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        const PtnResult result = sources.run("build " + Program::sourceFolder() + "/project out/ProjPath");
+        ASSERT_EQ(result.status, 0) << result.err;
+        ASSERT_EQ(result.err, "");
+        for (const auto& entry : fs::directory_iterator(sources.output()))
+            if (entry.path().extension() == ".ptn")
+                screens[entry.path().stem().string()] = Parse(readFile(entry.path().string()));
+    }
+
+    std::string profile(const char* section, const char* key)
+    {
+        return ProfileReadAsc(sources.profile().c_str(), section, key);
+    }
+
+    Sources sources;
+    std::map<std::string, Screen> screens;
+};
+
+TEST_F(Sample, has_the_screens_that_start_stop_and_version_need)
+{
+    for (const char* name :
+         {"テスト  ［メニュー選択］", "テスト  （図形）", "システム終了", "バージョン情報"})
+        EXPECT_TRUE(screens.count(name)) << name;
+}
+
+TEST_F(Sample, has_a_profile_that_the_program_reads)
+{
+    EXPECT_EQ(profile("TESSARY", "PROJECT"), sources.output());
+    EXPECT_EQ(profile("PTRN", "PTRNSTART"), "テスト  ［メニュー選択］");
+    EXPECT_EQ(profile("PTRN", "PTRNSTOP"), "システム終了");
+    EXPECT_EQ(profile("LOG", "LOGFILE"), sources.root() + "/out/log");
+    EXPECT_EQ(ProfileReadInt(sources.profile().c_str(), "TESSARY", "WAITTIMER"), 3);
+    int width = 0;
+    int height = 0;
+    EXPECT_EQ(ProfileRead(sources.profile().c_str(), "TESSARY", "DISPSIZE", "ii", &width, &height), 2);
+    EXPECT_EQ(width, 1024);
+    EXPECT_EQ(height, 768);
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    for (const char* key : {"CURSOR_FG", "CURSOR_BG"})
+        EXPECT_EQ(ProfileRead(sources.profile().c_str(), "COLOR", key, "iii", &red, &green, &blue), 3) << key;
+    for (const char* font : {"FONTNAME0", "FONTNAME1", "FONTNAME2", "FONTNAME20", "FONTNAME42"})
+        EXPECT_NE(profile("FONT", font), "") << font;
+}
+
+TEST_F(Sample, has_codes_for_the_cells_1_to_1571)
+{
+    const std::string table = sources.built("PtrnCode");
+    ASSERT_EQ(table.size() % 34, 0u);
+    std::set<int> cells;
+    std::map<std::string, int> firsts;
+    for (std::size_t row = 0; row < table.size(); row += 34) {
+        int count = 0;
+        int first = 0;
+        std::memcpy(&count, table.data() + row + 22, 4);
+        std::memcpy(&first, table.data() + row + 26, 4);
+        firsts[table.c_str() + row] = first;
+        for (int cell = first; cell < first + count; ++cell)
+            EXPECT_TRUE(cells.insert(cell).second) << cell;
+    }
+    EXPECT_EQ(cells.size(), 1571u);
+    EXPECT_EQ(*cells.begin(), 1);
+    EXPECT_EQ(*cells.rbegin(), 1571);
+    const std::map<std::string, int> fixed = {
+        {"CLOCK", 1},       {"ERROR", 11},        {"MENTE_CODE", 20},     {"MENTE_SCROLL", 80},
+        {"COUNTER", 111},   {"TABLE", 117},       {"COLOR_STEP2", 437},   {"MARK", 454},
+        {"COUNTER2", 1549}, {"TABLE_SORT", 1555}, {"TABLE_VSCROLL", 1571}};
+    for (const auto& code : fixed)
+        EXPECT_EQ(firsts[code.first], code.second) << code.first;
+}
+
+TEST_F(Sample, has_tables_of_the_right_size)
+{
+    EXPECT_EQ(sources.built("PtrnColr").size(), 1200u);
+    EXPECT_EQ(sources.built("PtrnMark").size(), 179200u);
+    EXPECT_NE(sources.built("Bitmap/logo.png"), "");
+}
+
+TEST_F(Sample, opens_only_patterns_that_it_has)
+{
+    int opened = 0;
+    for (const auto& screen : screens) {
+        for (const Item& item : screen.second.items) {
+            if (item.record.ID_Type < 5 || item.record.ID_Type > 8)
+                continue;
+            ++opened;
+            EXPECT_TRUE(screens.count(item.texts[3])) << screen.first << ": " << item.texts[0];
+        }
+    }
+    EXPECT_GE(opened, 2);
+}
+
+TEST_F(Sample, can_be_stopped_from_the_menu_and_left_from_every_other_screen)
+{
+    for (const auto& screen : screens) {
+        std::set<int> actions;
+        for (const Item& item : screen.second.items)
+            actions.insert(item.record.ID_Type);
+        const bool left = actions.count(8) || actions.count(9) || actions.count(12);
+        if (screen.first == "テスト  ［メニュー選択］") {
+            EXPECT_TRUE(actions.count(16));
+        } else if (screen.first != "システム終了") {
+            EXPECT_TRUE(left) << screen.first;
+        }
+    }
+}
+
+TEST_F(Sample, keeps_every_item_within_its_screen_and_below_the_title_bar)
+{
+    for (const auto& screen : screens) {
+        const std::int32_t* window = screen.second.header.Parm1;
+        for (std::size_t i = 0; i < screen.second.items.size(); ++i) {
+            const RECT rect = Corners(screen.second.items[i]);
+            EXPECT_GE(rect.left, 0) << screen.first << ", item " << i + 1;
+            EXPECT_GE(rect.top, window[HEDR_TITLE_HEIGHT]) << screen.first << ", item " << i + 1;
+            EXPECT_LE(rect.right, window[HEDR_WIDTH]) << screen.first << ", item " << i + 1;
+            EXPECT_LE(rect.bottom, window[HEDR_HEIGHT]) << screen.first << ", item " << i + 1;
+        }
+    }
+}
+
+TEST_F(Sample, lets_no_text_field_or_control_overlap_another)
+{
+    const std::set<int> solid = {PTRN_BUTN, PTRN_RDIO, PTRN_CHCK, PTRN_SBAR,
+                                 PTRN_SPIN, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR};
+    for (const auto& screen : screens) {
+        const auto& items = screen.second.items;
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            for (std::size_t j = i + 1; j < items.size(); ++j) {
+                if (!solid.count(items[i].record.Type) || !solid.count(items[j].record.Type))
+                    continue;
+                const RECT a = Corners(items[i]);
+                const RECT b = Corners(items[j]);
+                const bool apart =
+                    a.right <= b.left || b.right <= a.left || a.bottom <= b.top || b.bottom <= a.top;
+                EXPECT_TRUE(apart) << screen.first << ", items " << i + 1 << " and " << j + 1;
+            }
+        }
+    }
+}
+
+TEST_F(Sample, has_buttons_that_a_finger_can_press_with_captions_that_fit)
+{
+    int buttons = 0;
+    for (const auto& screen : screens) {
+        for (const Item& item : screen.second.items) {
+            if (item.record.Type != PTRN_BUTN)
+                continue;
+            ++buttons;
+            const RECT rect = Corners(item);
+            EXPECT_GE(rect.width, FINGER) << screen.first << ": " << item.texts[0];
+            EXPECT_GE(rect.height, FINGER) << screen.first << ": " << item.texts[0];
+            const int indent = item.record.Parm[BUTN_POST_ON] ? item.record.Parm[BUTN_POST] : 0;
+            // All buttons have the font of 16 pixels, whose half-width characters are 8 wide.
+            ASSERT_EQ(item.record.Parm[BUTN_FONT], 1);
+            for (int language = 0; language < 3; ++language)
+                EXPECT_LE(indent + 8 * static_cast<int>(item.texts[language].size()), rect.width)
+                    << screen.first << ": " << item.texts[language];
+        }
+    }
+    EXPECT_GE(buttons, 6);
+}
+
+TEST_F(Sample, shows_every_type_of_item)
+{
+    std::set<int> types;
+    for (const auto& screen : screens)
+        for (const Item& item : screen.second.items)
+            types.insert(item.record.Type);
+    EXPECT_EQ(types.size(), static_cast<std::size_t>(CONT_PTRN));
+}
+
+} // namespace

@@ -1,0 +1,63 @@
+#include "tests/ptn/Sources.h"
+
+#include "tests/support/Program.h"
+#include "tests/support/Project.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <sys/wait.h>
+
+namespace fs = std::filesystem;
+
+Sources::Sources() : before_(fs::current_path().string())
+{
+    std::string name = (fs::temp_directory_path() / "ptn-XXXXXX").string();
+    root_ = mkdtemp(name.data());
+    fs::create_directories(root_ + "/src/screens");
+    fs::create_directories(root_ + "/src/bitmaps");
+    fs::current_path(root_);
+}
+
+Sources::~Sources()
+{
+    std::error_code ignored;
+    fs::current_path(before_, ignored);
+    fs::remove_all(root_, ignored);
+}
+
+Sources& Sources::write(const std::string& name, const std::string& text)
+{
+    writeFile(root_ + "/src/" + name, text);
+    return *this;
+}
+
+Sources& Sources::base()
+{
+    return write("project.yaml",
+                 "codes: { A: 5, B: 3 }\n"
+                 "colors: { black: '#000000', white: '#FFFFFF', hot: { no: 50, rgb: '#FF8000' } }\n"
+                 "fonts:\n"
+                 "  small: '-*-fixed-medium-r-normal--14-*'\n"
+                 "  normal: '-*-fixed-medium-r-normal--16-*'\n"
+                 "marks: { dot: { no: 100, art: 'X' } }\n"
+                 "styles: { shape: { fill: white } }\n");
+}
+
+PtnResult Sources::build() const
+{
+    return run("build src out/ProjPath");
+}
+
+PtnResult Sources::run(const std::string& arguments) const
+{
+    const std::string out = root_ + "/stdout";
+    const std::string err = root_ + "/stderr";
+    const std::string command = Program::buildFolder() + "/ptn " + arguments + " >" + out + " 2>" + err;
+    const int status = std::system(command.c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(out), readFile(err)};
+}
+
+std::string Sources::built(const std::string& name) const
+{
+    return readFile(output() + "/" + name);
+}
