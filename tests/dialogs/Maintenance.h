@@ -1,0 +1,176 @@
+// The maintenance screen with all its items, for tests.
+#pragma once
+
+#include "comndata/ComnData.h"
+#include "comndata/PtrnCode.h"
+#include "dialogs/PtrnMente.h"
+#include "shell/Request.h"
+#include "tests/support/Screen.h"
+
+#include <algorithm>
+#include <X11/keysym.h>
+
+inline constexpr int lines = 10;
+inline constexpr int top = 20;     ///< of the first line
+inline constexpr int spacing = 24; ///< from line to line
+inline constexpr int codeX = 10;   ///< left edges of the columns
+inline constexpr int offsetX = 180;
+inline constexpr int flagX = 240;
+inline constexpr int wordX = 280;
+inline constexpr int valueX = 360;
+inline constexpr int textX = 460;
+inline constexpr int codeBarX = 150;
+inline constexpr int dataBarX = 600;
+inline constexpr int bottom = top + lines * spacing;
+inline constexpr int barWidth = 20;
+
+/// A pattern with all items that the screen serves. The cells 1 to 99 are those of the code "SYSTEM".
+inline Pattern maintenance()
+{
+    Pattern pattern("メンテナンス");
+    pattern.size(640, 300);
+    const auto cell = [](int no) { return no - 1; }; // offset within "SYSTEM"
+    for (int i = 0; i < lines; i++) {
+        const int y = top + i * spacing;
+        pattern.item(PTRN_CHAR, codeX, y, codeX + 128, y + 16)
+            .parm(FIELD_WIDTH, 16)
+            .parm(TEXT_BACKED, 1)
+            .code("SYSTEM", cell(20 + i))
+            .action(ACTION_MESSAGE_SELF);
+        pattern.item(PTRN_NUMR, offsetX, y, offsetX + 40, y + 16)
+            .code("SYSTEM", cell(30 + i))
+            .parm(TEXT_BACKED, 1);
+        pattern.item(PTRN_CHCK, flagX, y, flagX + 16, y + 16)
+            .parm(CHECK_BACKED, 1)
+            .code("SYSTEM", cell(40 + i))
+            .action(ACTION_MESSAGE_SELF);
+        pattern.item(PTRN_NUMR, wordX, y, wordX + 56, y + 16)
+            .parm(FIELD_WIDTH, 7)
+            .parm(FIELD_DECIMALS, 1)
+            .parm(FIELD_KEYENTRY, 1)
+            .parm(TEXT_BACKED, 1)
+            .code("SYSTEM", cell(50 + i));
+        pattern.item(PTRN_NUMR, valueX, y, valueX + 80, y + 16)
+            .parm(FIELD_WIDTH, 10)
+            .parm(FIELD_DECIMALS, 2)
+            .parm(FIELD_KEYENTRY, 1)
+            .parm(TEXT_BACKED, 1)
+            .code("SYSTEM", cell(60 + i));
+        pattern.item(PTRN_CHAR, textX, y, textX + 120, y + 16)
+            .parm(FIELD_WIDTH, 15)
+            .parm(FIELD_KEYENTRY, 1)
+            .parm(TEXT_BACKED, 1)
+            .code("SYSTEM", cell(70 + i));
+    }
+    for (const auto& [x, no] : {std::pair(codeBarX, 80), std::pair(dataBarX, 81)})
+        pattern.item(PTRN_SBAR, x, top, x + barWidth, bottom)
+            .parm(SBAR_VERTICAL, 1)
+            .parm(SBAR_VISIBLE, lines)
+            .code("SYSTEM", cell(no))
+            .action(ACTION_MESSAGE_SELF);
+    return pattern;
+}
+
+class Maintenance : public Screen
+{
+  protected:
+    Maintenance()
+    {
+        SlctCode = 0;
+        LineNo1 = 0;
+        LineNo2 = 0;
+        project.code("SYSTEM", 99);
+    }
+
+    /// Codes "CODE01" ... of 30 data numbers each, from data number 100 on.
+    void addCodes(int count)
+    {
+        for (int i = 1; i <= count; i++)
+            project.code((i < 10 ? "CODE0" : "CODE") + std::to_string(i), 30);
+    }
+
+    void open()
+    {
+        maintenance().save(project);
+        start();
+        reopen();
+    }
+
+    void reopen()
+    {
+        PtrnDispMenteWnd();
+        ASSERT_TRUE(SystmWnd);
+        waitShown(SystmWnd);
+    }
+
+    CPtrnMente& screen() { return dynamic_cast<CPtrnMente&>(*SystmWnd); }
+
+    static int number(int no) { return Get_iData(no, nullptr, 0); }
+    static float value(int no) { return Get_fData(no, nullptr, 0); }
+    static WORD word(int no) { return Get_wData(no, nullptr, 0); }
+    static std::string text(int no) { return Get_sData(no, nullptr, 0); }
+    static bool disabled(int no) { return (word(no) & STATE_DISABLE) != 0; }
+    static int first(int row) { return PtrnCode[row].DataNo; }
+
+    /// The texts of the list of codes.
+    static std::vector<std::string> codes()
+    {
+        std::vector<std::string> list;
+        for (int i = 0; i < lines; i++)
+            list.push_back(text(20 + i));
+        return list;
+    }
+    /// Lines of the list of codes that are shown as selected.
+    static std::vector<int> selected()
+    {
+        std::vector<int> list;
+        for (int i = 0; i < lines; i++)
+            if (word(20 + i) == 1)
+                list.push_back(i);
+        return list;
+    }
+    /// Lines of the list of data numbers that show one.
+    static int usableLines()
+    {
+        int count = 0;
+        for (int i = 0; i < lines; i++) {
+            int usable = 0;
+            for (const int column : {30, 40, 50, 60, 70})
+                usable += !disabled(column + i);
+            EXPECT_TRUE(usable == 0 || usable == 5) << "line " << i;
+            if (usable) {
+                EXPECT_EQ(count, i) << "a gap in the list";
+                count++;
+            }
+        }
+        return count;
+    }
+    /// True when a line shows something in the column at x: pixels in the colour of texts and marks.
+    bool hasInk(int x, int line)
+    {
+        static_assert(TEXT_COLOR4 == CHECK_COLOR); // which is the colour that a Pattern draws them in
+        const RECT& place = SystmWnd->WindRect;
+        const Picture part = user.picture(place.left + x, place.top + top + line * spacing, 38, 16);
+        return std::count(part.pixels.begin(), part.pixels.end(), color(TEXT_COLOR4)) > 0;
+    }
+
+    void clickInWindow(int x, int y, unsigned button = 1)
+    {
+        user.clickAt(SystmWnd->WindRect.left + x, SystmWnd->WindRect.top + y, button);
+        user.settle();
+    }
+    /// A click into a column of a line.
+    void clickLine(int x, int line) { clickInWindow(x + 4, top + line * spacing + 8); }
+    /// Erases the last `erased` bytes of the field of a line, types and ends with Return.
+    void enter(int x, int line, int erased, const std::string& typed)
+    {
+        clickLine(x, line);
+        ASSERT_EQ(SystmWnd->KeyInputMode, 1);
+        for (int i = 0; i < erased; i++)
+            user.key(XK_BackSpace);
+        user.type(typed);
+        user.key(XK_Return);
+        user.settle();
+        EXPECT_EQ(SystmWnd->KeyInputMode, 0);
+    }
+};
