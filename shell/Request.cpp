@@ -4,6 +4,7 @@
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "dialogs/PtrnMente.h"
+#include "draw/Coord.h"
 #include "shell/Logfile.h"
 #include "shell/LogText.h"
 #include "window/PtrnDisp.h"
@@ -23,21 +24,40 @@ namespace
 
 constexpr char kLog[] = "SYSTEM";
 
+/// Takes a window out of the slot of the system window. Another one that a hook has opened in the meantime
+/// stays there.
+void EmptySystemSlot(CPtrnDisp* wnd)
+{
+    if (SystmWnd == wnd) {
+        SystmWnd = nullptr;
+        SystemWnd = 0;
+    }
+    RetirePtrnWnd(wnd);
+}
+
 void CloseSystemWnd()
 {
     if (CPtrnDisp* old = SystmWnd) {
         old->PtrnExit();
-        SystmWnd = nullptr;
-        SystemWnd = 0;
-        RetirePtrnWnd(old);
+        EmptySystemSlot(old);
+    }
+}
+
+/// Takes the system window down at once: neither its exit hook runs nor its position is saved.
+void DropSystemWnd()
+{
+    if (CPtrnDisp* old = SystmWnd) {
+        EmptySystemSlot(old);
+        old->DestroyWidget();
     }
 }
 
 void OpenSystemWnd(CPtrnDisp* wnd, const char* name)
 {
+    DropSystemWnd(); // one that the exit hook of the one before has opened
     SystmWnd = wnd;
     SystemWnd = 1;
-    wnd->PtrnDispInit(AppliWnd, name, 3);
+    wnd->PtrnDispInit(AppliWnd, name, KIND_SYSTEM);
 }
 
 /// One of the framework's own patterns; `make` is called only when its file is there.
@@ -48,44 +68,59 @@ template <class Make> void OpenBuiltInWnd(const char* name, Make make)
         OpenSystemWnd(make(), name);
 }
 
+/// The system window lies over the application window, also over one that was opened later.
+void RaiseSystemWnd()
+{
+    const auto open = [](const CPtrnDisp* wnd) {
+        return wnd && wnd->Widget && GTK_WIDGET_REALIZED(wnd->Widget);
+    };
+    if (!open(SystmWnd) || !open(AppliWnd))
+        return;
+    gtk_window_set_transient_for(GTK_WINDOW(SystmWnd->Widget), GTK_WINDOW(AppliWnd->Widget));
+    gdk_window_raise(SystmWnd->Widget->window);
+}
+
 } // namespace
 
 void PtrnDispTopWnd(const char* name, const char* file, int line)
 {
-    CPtrnDisp* wnd = GetPtrnWnd(name);
+    const std::string pattern(name ? name : ""); // the registry may use the buffer that it lies in
+    CPtrnDisp* wnd = GetPtrnWnd(pattern.c_str());
     if (!wnd) {
-        LogText(kLog, file, line, "最上位ウィンドウ表示に失敗  [%s]", name);
+        LogText(kLog, file, line, "最上位ウィンドウ表示に失敗  [%s]", pattern.c_str());
         return;
     }
     if (file)
-        LogText(kLog, file, line, "最上位ウィンドウ表示  [%s]", name);
+        LogText(kLog, file, line, "最上位ウィンドウ表示  [%s]", pattern.c_str());
 
     CPtrnDisp* old = AppliWnd;
     AppliWnd = wnd;
-    wnd->PtrnDispInit(nullptr, name, 0);
+    wnd->PtrnDispInit(nullptr, pattern.c_str(), KIND_APPLICATION);
     if (old) {
         old->PtrnExit();
         RetirePtrnWnd(old);
     }
+    RaiseSystemWnd();
 }
 
 void PtrnDispSysWnd(const char* name, const char* file, int line)
 {
+    const std::string pattern(name ? name : "");
     CloseSystemWnd();
-    if (!name[0]) {
+    if (pattern.empty()) {
         if (file)
             LogfileWrite(kLog, "システムウィンドウを閉じる。", file, line);
         return;
     }
 
-    CPtrnDisp* wnd = GetPtrnWnd(name);
+    CPtrnDisp* wnd = GetPtrnWnd(pattern.c_str());
     if (!wnd) {
-        LogText(kLog, file, line, "システムウィンドウ表示に失敗  [%s]", name);
+        LogText(kLog, file, line, "システムウィンドウ表示に失敗  [%s]", pattern.c_str());
         return;
     }
     if (file)
-        LogText(kLog, file, line, "システムウィンドウ表示  [%s]", name);
-    OpenSystemWnd(wnd, name);
+        LogText(kLog, file, line, "システムウィンドウ表示  [%s]", pattern.c_str());
+    OpenSystemWnd(wnd, pattern.c_str());
 }
 
 void PtrnDispVersnWnd()
@@ -105,17 +140,10 @@ void ReqSystemStop(const char* file, int line)
         LogfileWrite(kLog, "システム停止要求", file, line);
 
     // The setting is in seconds, the countdown in ticks.
-    const unsigned seconds = static_cast<unsigned>(ProfileReadInt(ProfName, "TESSARY", "WAITTIMER"));
-    WaitTimer = seconds ? static_cast<int>(seconds * 10u) : 10;
+    const int seconds = ProfileReadInt(ProfName, "TESSARY", "WAITTIMER");
+    WaitTimer = seconds ? Saturate(std::int64_t{seconds} * 10) : 10;
 
-    // Taken down at once: neither its exit hook runs nor its position is saved.
-    if (CPtrnDisp* old = SystmWnd) {
-        SystmWnd = nullptr;
-        SystemWnd = 0;
-        old->DestroyWidget();
-        RetirePtrnWnd(old);
-    }
-
+    DropSystemWnd();
     const std::string notice = ProfileReadAsc(ProfName, "PTRN", "PTRNSTOP");
     if (!notice.empty())
         PtrnDispSysWnd(notice.c_str(), nullptr, 0);

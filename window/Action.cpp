@@ -57,10 +57,10 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
         break;
     case 1:
     case 2:
-        if (CPtrnDisp*& slot = which == 1 ? ChildWnd1 : ChildWnd2) {
-            CPtrnDisp* child = slot;
+        if (CPtrnDisp* child = Slot(which)) {
             child->PtrnExit();
-            slot = nullptr;
+            if (Slot(which) == child) // its exit hook may have opened another window here
+                Slot(which) = nullptr;
             RetirePtrnWnd(child);
             if (file)
                 LogfileWrite(kLog,

@@ -1,22 +1,14 @@
-// The toolkit's side of a pattern window: making it, and turning its events into the window's calls.
-#include "base/EucText.h"
+// The toolkit's events turned into the window's calls.
 #include "shell/Request.h"
+#include "window/InputMethod.h"
+#include "window/Keyboard.h"
 #include "window/PtrnDisp.h"
 #include "window/Retire.h"
 
-#include <algorithm>
 #include <gdk/gdkkeysyms.h>
 
 namespace
 {
-
-/// X allows no larger window or pixmap.
-constexpr int kLargest = 32767;
-
-template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
-{
-    gtk_signal_connect(GTK_OBJECT(widget), signal, GTK_SIGNAL_FUNC(handler), wnd);
-}
 
 /// One value for the modifiers: Shift first.
 int Modifiers(guint state)
@@ -59,90 +51,7 @@ guint TranslateKeypad(guint key)
     }
 }
 
-/// Wheel clicks come as scroll events: up is button 4, down is button 5.
-int Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
-{
-    const HandlerScope scope;
-    if (event->direction == GDK_SCROLL_UP)
-        wnd->MouseWheel(PointOf(event->x, event->y), 0);
-    else if (event->direction == GDK_SCROLL_DOWN)
-        wnd->MouseWheel(PointOf(event->x, event->y), 1);
-    return TRUE;
-}
-
-/// A window manager may not close a panel's window: windows close by their items' actions.
-int Refuse_Delete(GtkWidget*, GdkEvent*, CPtrnDisp*)
-{
-    return TRUE;
-}
-
-void ShowTitle(GtkWidget* widget, const char* name)
-{
-    gtk_window_set_title(GTK_WINDOW(widget), EucToUtf8(name).c_str());
-}
-
 } // namespace
-
-/// However the toolkit window went, nothing may draw on it or destroy it again.
-int Widget_Destroy(GtkWidget*, CPtrnDisp* wnd)
-{
-    wnd->Widget = nullptr;
-    wnd->DrawArea = nullptr;
-    wnd->MoveWnd = 0;
-    wnd->ScrollBar = 0;
-    wnd->ReleaseBuffer();
-    return TRUE;
-}
-
-void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
-{
-    const int width = std::clamp(rect.width, 1, kLargest);
-    const int height = std::clamp(rect.height, 1, kLargest);
-
-    GtkWidget* top = gtk_window_new(GTK_WINDOW_TOPLEVEL);
-    wnd->Widget = top;
-    ShowTitle(top, wnd->PtrnName);
-    gtk_window_set_decorated(GTK_WINDOW(top), FALSE);
-    gtk_window_set_resizable(GTK_WINDOW(top), FALSE);
-    gtk_window_set_gravity(GTK_WINDOW(top), GDK_GRAVITY_STATIC);
-    gtk_window_move(GTK_WINDOW(top), rect.left, rect.top);
-    if (parent)
-        gtk_window_set_transient_for(GTK_WINDOW(top), GTK_WINDOW(parent));
-
-    GtkWidget* area = gtk_drawing_area_new();
-    wnd->DrawArea = area;
-    gtk_widget_set_size_request(area, width, height);
-    // The back buffer is this window's own; the toolkit's would only cost a copy.
-    gtk_widget_set_double_buffered(area, FALSE);
-    gtk_widget_set_app_paintable(area, TRUE);
-    gtk_container_add(GTK_CONTAINER(top), area);
-    gtk_widget_show(area);
-    gtk_widget_set_events(area, GDK_POINTER_MOTION_MASK | GDK_POINTER_MOTION_HINT_MASK |
-                                    GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_KEY_PRESS_MASK |
-                                    GDK_LEAVE_NOTIFY_MASK | GDK_EXPOSURE_MASK | GDK_SCROLL_MASK);
-
-    Connect(area, "configure_event", Configure_Event, wnd);
-    Connect(area, "expose_event", Expose_Event, wnd);
-    Connect(area, "button_press_event", Mouse_Press, wnd);
-    Connect(area, "button_release_event", Mouse_Release, wnd);
-    Connect(area, "motion_notify_event", Mouse_Motion, wnd);
-    Connect(area, "leave_notify_event", Mouse_Leave, wnd);
-    Connect(area, "scroll_event", Mouse_Wheel, wnd);
-    Connect(top, "key_press_event", Key_Press, wnd);
-    Connect(top, "delete_event", Refuse_Delete, wnd);
-    Connect(top, "destroy", Widget_Destroy, wnd);
-
-    wnd->PtrnInit();
-    if (wnd->Widget != top) // the hook has closed the window
-        return;
-
-    gtk_widget_realize(top);
-    gtk_widget_realize(area);
-    // No background: the server would clear each newly exposed part before the back buffer is copied.
-    gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
-    gtk_widget_show(top);
-    gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
-}
 
 int Configure_Event(GtkWidget*, GdkEventConfigure*, CPtrnDisp* wnd)
 {
@@ -158,13 +67,14 @@ int Expose_Event(GtkWidget*, GdkEventExpose*, CPtrnDisp* wnd)
     return TRUE;
 }
 
-int Mouse_Press(GtkWidget*, GdkEventButton* event, CPtrnDisp* wnd)
+int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd)
 {
     // The toolkit adds an event of its own for a second and a third click; each real press counts once.
     if (event->type != GDK_BUTTON_PRESS)
         return TRUE;
 
     const HandlerScope scope;
+    FreeKeyboard(gtk_widget_get_toplevel(widget), true);
     const POINT pt = PointOf(event->x, event->y);
     const int flags = Modifiers(event->state);
     switch (event->button) {
@@ -198,12 +108,30 @@ int Mouse_Release(GtkWidget*, GdkEventButton* event, CPtrnDisp* wnd)
     return TRUE;
 }
 
+int Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
+{
+    const HandlerScope scope;
+    if (event->direction == GDK_SCROLL_UP)
+        wnd->MouseWheel(PointOf(event->x, event->y), 0);
+    else if (event->direction == GDK_SCROLL_DOWN)
+        wnd->MouseWheel(PointOf(event->x, event->y), 1);
+    return TRUE;
+}
+
 int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
     POINT pt = PointOf(event->x, event->y);
-    if (event->is_hint)
+    if (wnd->MoveWnd == 1) {
+        // A window manager lags behind the drag: where the window is on the screen is not yet where it is to
+        // be, and only the pointer's place on the screen is certain.
+        pt = PointOf(event->x_root, event->y_root);
+        if (event->is_hint)
+            gdk_window_get_pointer(gdk_get_default_root_window(), &pt.x, &pt.y, nullptr);
+        pt = {pt.x - wnd->WindRect.left, pt.y - wnd->WindRect.top};
+    } else if (event->is_hint) {
         gdk_window_get_pointer(widget->window, &pt.x, &pt.y, nullptr);
+    }
     wnd->MouseMove(pt, Modifiers(event->state));
     return TRUE;
 }
@@ -215,12 +143,21 @@ int Mouse_Leave(GtkWidget*, GdkEventCrossing*, CPtrnDisp* wnd)
     return TRUE;
 }
 
-int Key_Press(GtkWidget*, GdkEventKey* event, CPtrnDisp*)
+int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 {
+    const HandlerScope scope;
+    if (InputMethodFilter(widget, event))
+        return TRUE;
     // A modifier key types nothing; its effect comes with the key it modifies.
     if (event->is_modifier)
         return TRUE;
-    const HandlerScope scope;
     ReqKeyEntry(TranslateKeypad(event->keyval), static_cast<unsigned>(Modifiers(event->state)));
+    return TRUE;
+}
+
+int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
+{
+    const HandlerScope scope;
+    InputMethodFilter(widget, event);
     return TRUE;
 }

@@ -5,9 +5,10 @@
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
 #include "config/Profile.h"
-#include "draw/Resource.h"
+#include "draw/Coord.h"
 #include "pattern/ItemParm.h"
 #include "shell/LogText.h"
+#include "window/InputMethod.h"
 #include "window/KeyText.h"
 #include "window/PtrnDisp.h"
 
@@ -47,19 +48,19 @@ void CPtrnDisp::KeyInputStart(int dataNo, const char* file, int line)
 void CPtrnDisp::KeyInputStart(PTRNDATA* item)
 {
     KeyInputStop(0, 0, nullptr, 0);
-    if (PtrnKeyStart(item) != 1)
+    if (PtrnKeyStart(item) != 1 || Exited)
         return;
+    KeyInputStop(0, 0, nullptr, 0); // what the hook may have started itself
 
     KeyInputMode = 1;
     KeyInputPtrn = *item;
     OR_wData(item->DataNo, STATE_FROZEN, nullptr, 0);
     CopyText(KeyInputText, item->Type == PTRN_CHAR ? item->Text : ConvertNumrData(item));
-    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
+    ShowKeyInput();
 
     KeyInputPost = item->Type == PTRN_NUMR ? KeyFieldWidth(*item) : 0;
     KeyInputCode = 0;
-    KeyInputFlag = 0;
-    KeyInputTimr = KEYCURSOR_OFF; // the cursor appears at the next tick
+    InputMethodStart(this);
 }
 
 int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int line)
@@ -80,11 +81,19 @@ int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int l
         CopyText(item.sData, Get_sData(item.DataNo, nullptr, 0));
         PtrnData->DispPtrnData(Draw.get(), &item, 1);
     }
-    KeyInputMode = 0;
-    AND_wData(item.DataNo, static_cast<WORD>(~STATE_FROZEN), nullptr, 0);
+    DropKeyInput();
     if (key != 0)
         PtrnKeyFunc(static_cast<int>(key), flags, &KeyInputPtrn);
     return 1;
+}
+
+void CPtrnDisp::DropKeyInput()
+{
+    if (KeyInputMode != 1)
+        return;
+    KeyInputMode = 0;
+    AND_wData(KeyInputPtrn.DataNo, static_cast<WORD>(~STATE_FROZEN), nullptr, 0);
+    InputMethodStop(this);
 }
 
 int CPtrnDisp::KeyInputCheck(int key)
@@ -160,17 +169,13 @@ void CPtrnDisp::KeyEntry(unsigned int key, int flags)
 void CPtrnDisp::KeyInputInsert(unsigned int c1, unsigned int c2)
 {
     KeyInputPost = InsertKey(KeyInputPtrn, KeyInputText, KeyInputPost, c1, c2);
-    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
-    KeyInputFlag = 0;
-    KeyInputTimr = KEYCURSOR_OFF;
+    ShowKeyInput();
 }
 
 void CPtrnDisp::KeyInputDelete(unsigned int key)
 {
     KeyInputPost = DeleteKey(KeyFieldWidth(KeyInputPtrn), KeyInputText, KeyInputPost, key);
-    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
-    KeyInputFlag = 0;
-    KeyInputTimr = KEYCURSOR_OFF;
+    ShowKeyInput();
 }
 
 void CPtrnDisp::KeyInputShift(unsigned int key, int flags, int nav)
@@ -183,8 +188,21 @@ void CPtrnDisp::KeyInputShift(unsigned int key, int flags, int nav)
     }
     KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT | DRAW_NO_CURSOR);
     KeyInputPost = moved;
+    HideKeyCursor();
+}
+
+void CPtrnDisp::ShowKeyInput()
+{
+    KeyInputDisp(Draw.get(), DRAW_BACK | DRAW_TEXT);
+    HideKeyCursor();
+}
+
+/// The text has been drawn without the cursor, which appears at the next tick.
+void CPtrnDisp::HideKeyCursor()
+{
     KeyInputFlag = 0;
     KeyInputTimr = KEYCURSOR_OFF;
+    InputMethodMove(this);
 }
 
 void CPtrnDisp::KeyTimer(CDraw* draw)
@@ -220,14 +238,15 @@ void CPtrnDisp::KeyInputDisp(CDraw* draw, int mode)
     const SIZE cell = FontCell(font);
     const int x = item.Parm[PARM_X1];
     const int y = item.Parm[PARM_Y1];
-    const int cursor = x + cell.cx * KeyInputPost;
+    const int bottom = Shift(y, cell.cy);
+    const int cursor = Shift(x, cell.cx * KeyInputPost);
 
     if (mode & DRAW_BACK)
-        draw->DrawRect(x, y, x + cell.cx * KeyFieldWidth(item), y + cell.cy, 0, 0, back, back);
+        draw->DrawRect(x, y, Shift(x, cell.cx * KeyFieldWidth(item)), bottom, 0, 0, back, back);
     if (mode & DRAW_TEXT)
         draw->DrawText(x, y, font, color, back, KeyInputText);
     if (mode & DRAW_CURSOR)
-        draw->DrawLine(cursor, y, cursor, y + cell.cy, 0, 1, 0, color);
+        draw->DrawLine(cursor, y, cursor, bottom, 0, 1, 0, color);
     if (mode & DRAW_NO_CURSOR)
-        draw->DrawLine(cursor, y, cursor, y + cell.cy, 0, 1, 0, back);
+        draw->DrawLine(cursor, y, cursor, bottom, 0, 1, 0, back);
 }

@@ -70,18 +70,19 @@ bool NumericKey(const PTRNDATA& item, const char* text, int cursor, unsigned cha
 int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, unsigned int c2)
 {
     const int width = KeyFieldWidth(item);
-    cursor = std::clamp(cursor, 0, width);
+    const int added = c2 ? 2 : 1;
+    if (cursor + added >= KEYTEXT_SIZE) // the cursor has followed a text that has outgrown its field
+        return cursor;
     Pad(text, cursor);
 
-    char work[KEYTEXT_SIZE];
-    int used = cursor;
+    char work[2 * KEYTEXT_SIZE];
     std::memcpy(work, text, static_cast<std::size_t>(cursor));
-    work[used++] = static_cast<char>(c1);
+    work[cursor] = static_cast<char>(c1);
     if (c2)
-        work[used++] = static_cast<char>(c2);
+        work[cursor + 1] = static_cast<char>(c2);
     const int rest = std::max(std::min(Length(text), width) - cursor, 0);
-    std::memcpy(work + used, text + cursor, static_cast<std::size_t>(rest));
-    work[used + rest] = '\0';
+    std::memcpy(work + cursor + added, text + cursor, static_cast<std::size_t>(rest));
+    work[cursor + added + rest] = '\0';
 
     if (item.Type == PTRN_NUMR) {
         work[width + 1] = '\0'; // the first byte is not taken over
@@ -89,7 +90,7 @@ int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, uns
         return cursor;
     }
     CopyText(text, KEYTEXT_SIZE, work);
-    return std::min(cursor + (c2 ? 2 : 1), width);
+    return std::min(cursor + added, width);
 }
 
 int DeleteKey(int width, char* text, int cursor, unsigned int key)
@@ -128,6 +129,6 @@ int ShiftKey(const PTRNDATA& item, const char* text, int cursor, unsigned int ke
 
 void DropTrailingBlank(char* text, int width)
 {
-    for (int i = std::max(width - 1, 0); i < KEYTEXT_SIZE && text[i] == ' '; i++)
+    for (int i = width - 1; i >= 0 && i < KEYTEXT_SIZE && text[i] == ' '; i++)
         text[i] = '\0';
 }

@@ -1,6 +1,7 @@
 // What the pointer does in a pattern window. Every handler turns window coordinates into pattern coordinates
 // before anything else.
 #include "comndata/MesgData.h"
+#include "draw/Coord.h"
 #include "pattern/ItemParm.h"
 #include "shell/Request.h"
 #include "window/PtrnDisp.h"
@@ -10,14 +11,13 @@ namespace
 
 POINT Shifted(POINT pt, POINT offset)
 {
-    pt.x += offset.x;
-    pt.y += offset.y;
-    return pt;
+    return {Shift(pt.x, offset.x), Shift(pt.y, offset.y)};
 }
 
+/// True for a modal child that is open.
 bool Blocks(const CPtrnDisp* child)
 {
-    return child && child->PtrnData->PtrnHedr.Parm1[HEDR_MODELESS] == 0;
+    return child && child->Widget && child->PtrnData->PtrnHedr.Parm1[HEDR_MODELESS] == 0;
 }
 
 } // namespace
@@ -57,6 +57,8 @@ void CPtrnDisp::LButtonDown(POINT pt, int flags)
     ClearErrorMesg();
     ReqKeyReset();
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 1, flags) == 1)
+        return;
+    if (Exited) // the hook has closed this window
         return;
 
     const int index = PtrnData->TestPtrnData(pt);
@@ -105,6 +107,8 @@ void CPtrnDisp::RButtonDown(POINT pt, int flags)
     ReqKeyReset();
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 2, flags) == 1)
         return;
+    if (Exited)
+        return;
 
     const int index = PtrnData->TestPtrnData(pt);
     if (index < 0) {
@@ -143,6 +147,8 @@ void CPtrnDisp::MouseMove(POINT pt, int flags)
 {
     pt = Shifted(pt, Offset);
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 0, flags) == 1)
+        return;
+    if (Exited)
         return;
     PtrnData->MouseMove(pt);
     if (MoveWnd == 1)

@@ -3,41 +3,39 @@
 #include "comndata/PtrnCode.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "draw/Coord.h"
 #include "draw/Resource.h"
 #include "pattern/ItemParm.h"
 #include "shell/LogText.h"
+#include "window/Buffer.h"
 #include "window/PtrnDisp.h"
+#include "window/Retire.h"
 
-#include <algorithm>
 #include <cstdio>
+#include <string>
 
 namespace
 {
 
+/// Without SetRect, which would turn a pattern of negative size around.
 RECT RectAt(int x, int y, int width, int height)
 {
-    const auto edge = [](int from, int extent) {
-        return static_cast<int>(static_cast<unsigned>(from) + static_cast<unsigned>(extent));
-    };
-    RECT rect{};
-    rect.left = x;
-    rect.top = y;
-    rect.right = edge(x, width);
-    rect.bottom = edge(y, height);
-    rect.width = width;
-    rect.height = height;
-    return rect;
+    return {x, y, Shift(x, width), Shift(y, height), width, height};
 }
 
 } // namespace
 
-CPtrnDisp::CPtrnDisp() = default;
+CPtrnDisp::CPtrnDisp()
+{
+    RegisterPtrnWnd(this);
+}
 
 CPtrnDisp::~CPtrnDisp()
 {
     DestroyWidget();
     ReleaseBuffer();
     delete PtrnData;
+    ForgetPtrnWnd(this);
 }
 
 void CPtrnDisp::PtrnInitFunc() {}
@@ -62,15 +60,25 @@ void CPtrnDisp::PtrnKeyFunc(int, int, PTRNDATA*) {}
 
 void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
 {
+    const std::string pattern(name ? name : ""); // what it points to may be replaced here
+    DestroyWidget();
+    Exited = false;
     ParentWnd = parent;
-    PtrnNo = ConvertPtrn(name);
+    PtrnNo = ConvertPtrn(pattern.c_str());
     PtrnType = kind;
-    CopyText(PtrnName, name);
+    CopyText(PtrnName, pattern.c_str());
 
     delete PtrnData;
-    PtrnData = new CPtrnData(PtrnName);
-    if (Header(HEDR_WIDTH) < 1 || Header(HEDR_HEIGHT) < 1)
+    PtrnData = nullptr;
+    PtrnData = new CPtrnData(pattern.c_str());
+
+    const int width = Header(HEDR_WIDTH);
+    const int height = Header(HEDR_HEIGHT);
+    const SIZE shown = BoundedBuffer(width, height);
+    if (width < 1 || height < 1)
         LogText("PTRNDISP", nullptr, 0, "パターンを表示できない  [%s]", PtrnName);
+    else if (shown.cx < width || shown.cy < height)
+        LogText("PTRNDISP", nullptr, 0, "パターンが大きすぎる  [%s / %d x %d]", PtrnName, width, height);
 }
 
 void CPtrnDisp::PlaceWindow()
@@ -123,12 +131,11 @@ void CPtrnDisp::PtrnInit()
 
 void CPtrnDisp::PtrnExit()
 {
-    if (!Widget)
+    if (Exited)
         return;
-    if (ChildWnd1)
-        ChildWnd1->PtrnExit();
-    if (ChildWnd2)
-        ChildWnd2->PtrnExit();
+    Exited = true; // the exit hook may close the window again
+    const HandlerScope scope;
+    ExitChildren();
 
     if (PtrnType > KIND_APPLICATION) {
         char key[32];
@@ -136,19 +143,21 @@ void CPtrnDisp::PtrnExit()
         ProfileWrite(ProfName, "WINDOW", key, "ii", &WindRect.left, &WindRect.top);
     }
     PtrnExitFunc();
+    ExitChildren(); // what the hook has opened
     DestroyWidget();
+}
+
+void CPtrnDisp::ExitChildren()
+{
+    if (ChildWnd1)
+        ChildWnd1->PtrnExit();
+    if (ChildWnd2)
+        ChildWnd2->PtrnExit();
 }
 
 void CPtrnDisp::DestroyWidget()
 {
+    Exited = true;
     if (Widget)
         gtk_widget_destroy(Widget); // Widget_Destroy clears the members
-}
-
-void CPtrnDisp::ReleaseBuffer()
-{
-    Draw.reset();
-    if (Pixmap)
-        g_object_unref(Pixmap);
-    Pixmap = nullptr;
 }

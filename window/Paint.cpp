@@ -1,7 +1,9 @@
 // The back buffer, its copy to the screen, and the tick.
+#include "draw/Coord.h"
 #include "draw/Resource.h"
 #include "pattern/ItemParm.h"
 #include "shell/LogText.h"
+#include "window/Buffer.h"
 #include "window/PtrnDisp.h"
 
 #include <algorithm>
@@ -11,22 +13,65 @@ void CPtrnDisp::PaintEvent()
     if (!DrawArea || !DrawArea->window)
         return;
     ReleaseBuffer();
-    // A pattern that could not be loaded has no size; X allows no pixmap beyond 32767.
-    const auto pixels = [](int size) { return std::clamp(size, 1, 32767); };
-    Pixmap = gdk_pixmap_new(DrawArea->window, pixels(Header(HEDR_WIDTH)), pixels(Header(HEDR_HEIGHT)), -1);
-    Draw.reset(new CPaintDraw(Pixmap));
+    const SIZE size = BoundedBuffer(Header(HEDR_WIDTH), Header(HEDR_HEIGHT));
+    const std::shared_ptr<CPaintDraw> draw = NewBuffer(DrawArea->window, size);
+    Draw = draw;
+    Pixmap = draw->window;
 
-    PtrnData->DispTitle(Draw.get());
-    PtrnData->DispPtrnData(Draw.get());
-    PtrnDispFunc(Draw.get(), 0);
+    PtrnData->DispTitle(draw.get());
+    PtrnData->DispPtrnData(draw.get());
+    if (KeyInputMode == 1)
+        ShowKeyInput();
+    PtrnDispFunc(draw.get(), 0);
+}
+
+void CPtrnDisp::ReleaseBuffer()
+{
+    Draw.reset();
+    Pixmap = nullptr;
 }
 
 void CPtrnDisp::UpdateEvent()
 {
     if (!DrawArea || !DrawArea->window || !Pixmap)
         return;
-    gdk_draw_drawable(DrawArea->window, DrawArea->style->black_gc, Pixmap, Offset.x, Offset.y, 0, 0,
-                      WindRect.width, WindRect.height);
+    // What of the pattern is in view. The whole of it is copied, whatever part was exposed.
+    SIZE buffer{};
+    gdk_drawable_get_size(Pixmap, &buffer.cx, &buffer.cy);
+    const int left = std::clamp(Offset.x, 0, buffer.cx);
+    const int top = std::clamp(Offset.y, 0, buffer.cy);
+    const int right = std::clamp(Shift(Offset.x, WindRect.width), left, buffer.cx);
+    const int bottom = std::clamp(Shift(Offset.y, WindRect.height), top, buffer.cy);
+    const RECT view = SetRect(left, top, right, bottom);
+    if (view.width > 0 && view.height > 0)
+        gdk_draw_drawable(DrawArea->window, DrawArea->style->black_gc, Pixmap, left, top, left - Offset.x,
+                          top - Offset.y, view.width, view.height);
+    if (view.width < WindRect.width || view.height < WindRect.height)
+        ClearUncovered(view);
+}
+
+/// The window has no background of its own: where it shows more than the pattern something must be drawn.
+void CPtrnDisp::ClearUncovered(RECT view)
+{
+    int width = 0;
+    int height = 0;
+    gdk_drawable_get_size(DrawArea->window, &width, &height);
+    const GdkRectangle window = {0, 0, width, height};
+    const bool any = view.width > 0 && view.height > 0;
+    const GdkRectangle covered = {any ? view.left - Offset.x : 0, any ? view.top - Offset.y : 0, view.width,
+                                  view.height};
+    GdkRegion* region = gdk_region_rectangle(&window);
+    GdkRegion* taken = gdk_region_rectangle(&covered);
+    gdk_region_subtract(region, taken);
+    GdkRectangle* parts = nullptr;
+    int count = 0;
+    gdk_region_get_rectangles(region, &parts, &count);
+    for (int i = 0; i < count; i++)
+        gdk_draw_rectangle(DrawArea->window, DrawArea->style->bg_gc[GTK_STATE_NORMAL], TRUE, parts[i].x,
+                           parts[i].y, parts[i].width, parts[i].height);
+    g_free(parts);
+    gdk_region_destroy(taken);
+    gdk_region_destroy(region);
 }
 
 void CPtrnDisp::PtrnUpdate()
@@ -35,22 +80,43 @@ void CPtrnDisp::PtrnUpdate()
         gtk_widget_queue_draw_area(DrawArea, 0, 0, WindRect.width, WindRect.height);
 }
 
+/// A window manager may have placed the window elsewhere. Reports come late, so what is true now counts.
+void CPtrnDisp::FollowWindow()
+{
+    if (!Configured || MoveWnd == 1)
+        return;
+    Configured = false;
+    if (Reported.x == WindRect.left && Reported.y == WindRect.top)
+        return;
+    POINT origin{};
+    gdk_window_get_origin(Widget->window, &origin.x, &origin.y);
+    const int dx = Saturate(std::int64_t{origin.x} - WindRect.left);
+    const int dy = Saturate(std::int64_t{origin.y} - WindRect.top);
+    WindRect.left = origin.x;
+    WindRect.right = Shift(WindRect.right, dx);
+    WindRect.top = origin.y;
+    WindRect.bottom = Shift(WindRect.bottom, dy);
+}
+
 void CPtrnDisp::TimrEvent()
 {
     if (!Pixmap)
         return;
+    FollowWindow();
     PtrnSetCursor(CursorType, nullptr, 0);
     PtrnTimrFunc();
     // Any hook or action may close this window; what follows then has nothing to draw on.
     if (!Pixmap)
         return;
 
-    CDraw* const draw = Draw.get();
-    KeyTimer(draw);
-    PtrnData->DispCalender(draw);
-    PtrnData->FlikPtrnData(draw);
-    PtrnData->UpdtPtrnData(draw);
-    PtrnDispFunc(draw, 1);
+    const std::shared_ptr<CPaintDraw> draw = Draw;
+    KeyTimer(draw.get());
+    PtrnData->DispCalender(draw.get());
+    PtrnData->FlikPtrnData(draw.get());
+    PtrnData->UpdtPtrnData(draw.get());
+    PtrnDispFunc(draw.get(), 1);
+    if (!Pixmap)
+        return;
     PtrnUpdate();
 
     PTRNDATA held;

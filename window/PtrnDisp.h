@@ -7,6 +7,7 @@
 #include "pattern/PtrnData.h"
 
 #include <gtk/gtk.h>
+#include <memory>
 
 /// Key cursor: ticks shown and ticks hidden.
 constexpr int KEYCURSOR_ON = 5;
@@ -114,9 +115,10 @@ class CPtrnDisp
     /// Calls PtrnInitFunc and takes the cursor from the header.
     void PtrnInit();
     /// Exits the children, saves the position (not of the application window), calls PtrnExitFunc and
-    /// destroys the toolkit window. Does nothing for a window that is not open.
+    /// destroys the toolkit window. Does nothing for a window that was exited or destroyed before.
     void PtrnExit();
-    /// Destroys the toolkit window alone: no hook, no saved position, children stay.
+    /// Destroys the toolkit window alone: no hook, no saved position, children stay. A field in edit is left
+    /// without storing.
     void DestroyWidget();
 
     // --- painting and the tick -------------------------------------------------------------------
@@ -210,14 +212,26 @@ class CPtrnDisp
 
   private:
     friend int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);
-    /// The one drawing context of the back buffer; made and released with it.
-    PaintDrawPtr Draw;
+    friend int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
+    /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
+    /// is using it, since a hook of that may close the window.
+    std::shared_ptr<CPaintDraw> Draw;
+    bool Exited = false;     ///< exited or destroyed, and not opened again
+    bool Configured = false; ///< the window has been placed anew since the last tick
+    POINT Reported{};        ///< where
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
     void PlaceWindow();
+    void ExitChildren();
     void ReleaseBuffer();
+    void ClearUncovered(RECT view);
+    void FollowWindow();
+    void DropKeyInput();
+    void ShowKeyInput();
+    void HideKeyCursor();
     int Header(int parm) const { return PtrnData->PtrnHedr.Parm1[parm]; }
     void SystemAction(const PTRNDATA& item);
+    CPtrnDisp*& Slot(int kind) { return kind == KIND_CHILD1 ? ChildWnd1 : ChildWnd2; }
 };
 
 /// Makes the toolkit window of `wnd`, connects its events, runs PtrnInit and shows it.
@@ -225,11 +239,18 @@ class CPtrnDisp
 /// @param rect    place and size on the screen in pixels
 void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
 
-// Toolkit handlers; each returns TRUE.
+// Toolkit handlers of the drawing area; each returns TRUE.
 int Configure_Event(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
 int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
 int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Release(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd);
 int Mouse_Leave(GtkWidget* widget, GdkEventCrossing* event, CPtrnDisp* wnd);
+/// Wheel clicks come as scroll events: up is direction 0, down is direction 1.
+int Mouse_Wheel(GtkWidget* widget, GdkEventScroll* event, CPtrnDisp* wnd);
+
+// Toolkit handlers of the top-level window.
 int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
+int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
+int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
+int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);

@@ -3,25 +3,39 @@
 #include "shell/Request.h"
 #include "window/PtrnDisp.h"
 
-#include <deque>
+#include <algorithm>
+#include <vector>
 
 namespace
 {
 
+using Windows = std::vector<CPtrnDisp*>;
+
 int handlers = 0;
-std::deque<CPtrnDisp*> retired;
+Windows retired; ///< oldest first
+
+/// Never destroyed: an application may have window objects that live as long as the program.
+Windows& Living()
+{
+    static Windows& living = *new Windows;
+    return living;
+}
+
+void Remove(Windows& windows, CPtrnDisp* wnd)
+{
+    windows.erase(std::remove(windows.begin(), windows.end(), wnd), windows.end());
+}
+
+bool OnScreen(const CPtrnDisp* wnd)
+{
+    return wnd && (wnd->Widget || OnScreen(wnd->ChildWnd1) || OnScreen(wnd->ChildWnd2));
+}
 
 void DeleteTree(CPtrnDisp* wnd)
 {
-    for (CPtrnDisp* child : {wnd->ChildWnd1, wnd->ChildWnd2}) {
-        if (child) {
-            child->DestroyWidget();
+    for (CPtrnDisp* child : {wnd->ChildWnd1, wnd->ChildWnd2})
+        if (child)
             DeleteTree(child);
-        }
-    }
-    // The system window may outlive the application window that it was opened over.
-    if (SystmWnd && SystmWnd->ParentWnd == wnd)
-        SystmWnd->ParentWnd = AppliWnd;
     delete wnd;
 }
 
@@ -39,16 +53,45 @@ HandlerScope::~HandlerScope()
 
 void RetirePtrnWnd(CPtrnDisp* wnd)
 {
-    retired.push_back(wnd);
+    if (std::find(retired.begin(), retired.end(), wnd) == retired.end())
+        retired.push_back(wnd);
 }
 
 void DeleteRetiredWnd(std::size_t kept)
 {
-    if (handlers > 1)
+    if (handlers > 1 || gtk_main_level() > 1 || retired.size() <= kept)
         return;
-    while (retired.size() > kept) {
-        CPtrnDisp* wnd = retired.front();
-        retired.pop_front();
-        DeleteTree(wnd);
+    const Windows old(retired.begin(), retired.end() - static_cast<std::ptrdiff_t>(kept));
+    for (CPtrnDisp* wnd : old) {
+        // Deleting one may have taken another with it, its child.
+        const bool there = std::find(retired.begin(), retired.end(), wnd) != retired.end();
+        if (there && (kept == 0 || !OnScreen(wnd)))
+            DeleteTree(wnd);
+    }
+}
+
+void RegisterPtrnWnd(CPtrnDisp* wnd)
+{
+    Living().push_back(wnd);
+}
+
+void ForgetPtrnWnd(CPtrnDisp* wnd)
+{
+    Remove(retired, wnd);
+    Remove(Living(), wnd);
+    if (AppliWnd == wnd)
+        AppliWnd = nullptr;
+    if (SystmWnd == wnd) {
+        SystmWnd = nullptr;
+        SystemWnd = 0;
+    }
+    for (CPtrnDisp* other : Living()) {
+        // The system window outlives the application window that it was opened over.
+        if (other->ParentWnd == wnd)
+            other->ParentWnd = other == SystmWnd ? AppliWnd : nullptr;
+        if (other->ChildWnd1 == wnd)
+            other->ChildWnd1 = nullptr;
+        if (other->ChildWnd2 == wnd)
+            other->ChildWnd2 = nullptr;
     }
 }

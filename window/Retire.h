@@ -1,12 +1,12 @@
 // When window objects are deleted: after they were exited or replaced, and never while a handler of theirs
-// can be on the stack.
+// can be on the stack. And what a window object that is deleted leaves behind in others.
 #pragma once
 
 #include <cstddef>
 
 class CPtrnDisp;
 
-/// Marks the time in which a toolkit handler or the tick runs. Every handler holds one.
+/// Marks the time in which a toolkit handler, the tick, or the opening or exit of a window runs.
 class HandlerScope
 {
   public:
@@ -17,10 +17,18 @@ class HandlerScope
 };
 
 /// Hands over an exited or replaced window. Its object lives on, so that the code that closed it may
-/// finish and may still look at it; the newest few stay until others take their place.
+/// finish and may still look at it; the newest few stay until others take their place. Handing it over
+/// again changes nothing.
 void RetirePtrnWnd(CPtrnDisp* wnd);
 
-/// Deletes retired windows with the children still in their slots. Called at the end of a tick; does nothing
-/// while that tick interrupts another handler (a message box's own main loop).
-/// @param kept  how many of the newest stay; what a screen class holds on to is rarely older
+/// Deletes retired windows with the children still in their slots. A window stays while windows below it
+/// are still on the screen: replacing a window does not exit its children. Called at the end of a tick; does
+/// nothing while that tick interrupts another handler (a message box's own main loop).
+/// @param kept  how many of the newest stay; what a screen class holds on to is rarely older. With 0, for the
+///              end of the program, no window stays
 void DeleteRetiredWnd(std::size_t kept = 16);
+
+/// Every window object makes itself known as long as it lives. Those that refer to one that goes (as parent,
+/// child, application or system window) forget it.
+void RegisterPtrnWnd(CPtrnDisp* wnd);
+void ForgetPtrnWnd(CPtrnDisp* wnd);

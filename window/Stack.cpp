@@ -6,30 +6,42 @@
 #include "window/Registry.h"
 #include "window/Retire.h"
 
+#include <string>
+#include <utility>
+
 namespace
 {
 
 constexpr char kLog[] = "PTRNDISP";
 
-/// Puts a new window of the pattern into the slot. The occupant is destroyed first, without its exit hook:
-/// its position is not saved and its own children are not exited.
-/// @return the new window, not yet opened; null for a name the registry does not know
-CPtrnDisp* RefillSlot(CPtrnDisp*& slot, int kind, const char* name, const char* file, int line)
+/// Puts a new window of the pattern into the slot and opens it. The occupant is destroyed first, without its
+/// exit hook: its position is not saved and its own children are not exited.
+/// @param open  called with the new window and the name
+template <class Open>
+void FillSlot(CPtrnDisp*& slot, int kind, const char* name, const char* file, int line, Open open)
 {
-    if (CPtrnDisp* old = slot) {
+    const std::string pattern(name ? name : ""); // what it points to may go with the occupant
+    const bool first = kind == KIND_CHILD1;
+    if (CPtrnDisp* old = std::exchange(slot, nullptr)) {
         old->DestroyWidget();
         RetirePtrnWnd(old);
     }
-    slot = GetPtrnWnd(name);
-    if (!slot)
+    slot = GetPtrnWnd(pattern.c_str());
+    if (!slot) {
         LogText(kLog, file, line,
-                kind == KIND_CHILD1 ? "子ウィンドウ（１）表示に失敗  [%s]"
-                                    : "子ウィンドウ（２）表示に失敗  [%s]",
-                name);
-    else if (file)
-        LogText(kLog, file, line,
-                kind == KIND_CHILD1 ? "子ウィンドウ（１）表示  [%s]" : "子ウィンドウ（２）表示  [%s]", name);
-    return slot;
+                first ? "子ウィンドウ（１）表示に失敗  [%s]" : "子ウィンドウ（２）表示に失敗  [%s]",
+                pattern.c_str());
+        return;
+    }
+    if (file)
+        LogText(kLog, file, line, first ? "子ウィンドウ（１）表示  [%s]" : "子ウィンドウ（２）表示  [%s]",
+                pattern.c_str());
+    open(slot, pattern.c_str());
+}
+
+int SlotKind(int which)
+{
+    return which == 1 ? KIND_CHILD1 : KIND_CHILD2;
 }
 
 /// Where a popup goes along one axis: behind the area when it fits there, else before it, else centred.
@@ -48,30 +60,30 @@ int BesideArea(int behind, int before, int size, int display)
 
 void CPtrnDisp::PtrnDispChild(int which, const char* name, const char* file, int line)
 {
-    const int kind = which == 1 ? KIND_CHILD1 : KIND_CHILD2;
-    if (CPtrnDisp* wnd = RefillSlot(kind == KIND_CHILD1 ? ChildWnd1 : ChildWnd2, kind, name, file, line))
-        wnd->PtrnDispInit(this, name, kind);
+    const int kind = SlotKind(which);
+    FillSlot(Slot(kind), kind, name, file, line,
+             [&](CPtrnDisp* wnd, const char* pattern) { wnd->PtrnDispInit(this, pattern, kind); });
 }
 
 void CPtrnDisp::PtrnDispChild(int which, const char* name, int x, int y, const char* file, int line)
 {
-    const int kind = which == 1 ? KIND_CHILD1 : KIND_CHILD2;
-    if (CPtrnDisp* wnd = RefillSlot(kind == KIND_CHILD1 ? ChildWnd1 : ChildWnd2, kind, name, file, line))
-        wnd->PtrnDispInit(this, name, kind, x, y);
+    const int kind = SlotKind(which);
+    FillSlot(Slot(kind), kind, name, file, line,
+             [&](CPtrnDisp* wnd, const char* pattern) { wnd->PtrnDispInit(this, pattern, kind, x, y); });
 }
 
 void CPtrnDisp::PtrnDispChild(int which, const char* name, RECT rect, const char* file, int line)
 {
-    const int kind = which == 1 ? KIND_CHILD1 : KIND_CHILD2;
-    if (CPtrnDisp* wnd = RefillSlot(kind == KIND_CHILD1 ? ChildWnd1 : ChildWnd2, kind, name, file, line))
-        wnd->PtrnDispInit(this, name, kind, rect);
+    const int kind = SlotKind(which);
+    FillSlot(Slot(kind), kind, name, file, line,
+             [&](CPtrnDisp* wnd, const char* pattern) { wnd->PtrnDispInit(this, pattern, kind, rect); });
 }
 
 void CPtrnDisp::PtrnDispPopup(int which, const char* name, RECT rect, const char* file, int line)
 {
     PTRNHEDR header;
     if (!PtrnReadHedr(name, &header)) {
-        LogText(kLog, file, line, "ポップアップウィンドウ表示に失敗  [%s]", name);
+        LogText(kLog, file, line, "ポップアップウィンドウ表示に失敗  [%s]", name ? name : "");
         return;
     }
     const int x = BesideArea(rect.right, rect.left, header.Parm1[HEDR_WIDTH], DispSizeX);

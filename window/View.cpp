@@ -10,7 +10,6 @@
 #include "shell/LogText.h"
 #include "window/PtrnDisp.h"
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -50,9 +49,8 @@ void CPtrnDisp::PtrnSetScroll(int dataNo, int total, int pos, const char* file, 
     if (total > visible) {
         Set_Disable(bar.DataNo, 0, 1, nullptr, 0);
         // A position past the end snaps back to the top, not to the last page.
-        if (static_cast<std::int64_t>(pos) + visible > total)
-            pos = visible - total;
-        pos = std::max(pos, 0);
+        if (pos < 0 || std::int64_t{pos} + visible > total)
+            pos = 0;
         Set_iData(bar.DataNo, pos, nullptr, 0);
     } else {
         Set_Disable(bar.DataNo, 1, 1, nullptr, 0);
@@ -105,11 +103,15 @@ PTRNHEDR CPtrnDisp::PtrnReadHedr()
 
 int CPtrnDisp::PtrnReadHedr(const char* name, PTRNHEDR* out)
 {
-    const std::string fileName = std::string(name) + ".ptn";
-    if (FileSize(ProjPath, fileName.c_str()) < 1)
+    const std::string fileName = std::string(name ? name : "") + ".ptn";
+    const int size = FileSize(ProjPath, fileName.c_str());
+    if (size < 1)
         return 0;
+    // Of a file that ends within its header nothing but zeros is taken.
     HEDRFILE record;
-    FileRead(ProjPath, fileName.c_str(), &record, sizeof record, 0, nullptr, 0);
+    if (FileRead(ProjPath, fileName.c_str(), &record, sizeof record, 0, nullptr, 0) != 1 &&
+        size >= static_cast<int>(sizeof record))
+        return 0;
     *out = ConvertHedr(record);
     return 1;
 }

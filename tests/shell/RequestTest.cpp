@@ -4,7 +4,6 @@
 #include "shell/Startup.h"
 #include "tests/support/Screen.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 
 using testing::Contains;
@@ -25,24 +24,23 @@ class Requests : public Screen
   protected:
     void SetUp() override
     {
-        project.code("CLOCK", 7).code("OTHER", 92);
+        project.code("CLOCK", 99);
         know(pattern("first"));
         know(pattern("second"));
         know(pattern("notice"));
         pattern("バージョン情報").save(project);
-        pattern("メンテナンス").save(project);
+        pattern("メンテナンス")
+            .item(PTRN_SBAR, 0, 0, 10, 100)
+            .code("CLOCK", 79)
+            .item(PTRN_SBAR, 20, 0, 30, 100)
+            .code("CLOCK", 80)
+            .save(project);
         start();
         project.clearLog();
     }
 
     /// Hooks without those of paints and ticks.
-    Calls lifecycle() const
-    {
-        Calls result;
-        std::copy_if(calls.begin(), calls.end(), std::back_inserter(result),
-                     [](const std::string& call) { return call == "init" || call == "exit"; });
-        return result;
-    }
+    Calls lifecycle() const { return callsOf({"init", "exit"}); }
 };
 
 } // namespace

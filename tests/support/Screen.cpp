@@ -7,6 +7,77 @@
 
 #include <algorithm>
 
+void RecordingWnd::record(const std::string& name, std::initializer_list<int> values)
+{
+    std::string call = name;
+    for (const int value : values)
+        call += " " + std::to_string(value);
+    calls_.push_back(call);
+}
+
+void RecordingWnd::PtrnInitFunc()
+{
+    record("init");
+    if (hooks_.init)
+        hooks_.init(*this);
+}
+
+void RecordingWnd::PtrnExitFunc()
+{
+    record("exit");
+    if (hooks_.exit)
+        hooks_.exit(*this);
+}
+
+void RecordingWnd::PtrnDispFunc(CDraw* draw, int mode)
+{
+    record("disp", {mode});
+    if (hooks_.disp)
+        hooks_.disp(*this, draw, mode);
+}
+
+void RecordingWnd::PtrnTimrFunc()
+{
+    record("timr");
+    if (hooks_.timr)
+        hooks_.timr(*this);
+}
+
+void RecordingWnd::PtrnMesgFunc(int mesg)
+{
+    record("mesg", {mesg});
+    if (hooks_.mesg)
+        hooks_.mesg(*this, mesg);
+}
+
+void RecordingWnd::PtrnRbtnFunc(int dataNo)
+{
+    record("rbtn", {dataNo});
+    if (hooks_.rbtn)
+        hooks_.rbtn(*this, dataNo);
+}
+
+int RecordingWnd::PtrnMouseFunc(POINT pt, int button, int flags)
+{
+    if (button != 0)
+        record("mouse " + std::to_string(button) + " " + std::to_string(pt.x) + "," + std::to_string(pt.y),
+               {flags});
+    return hooks_.mouse ? hooks_.mouse(*this, pt, button, flags) : 0;
+}
+
+int RecordingWnd::PtrnKeyStart(PTRNDATA* item)
+{
+    record("keystart", {item->DataNo});
+    return hooks_.keyStart ? hooks_.keyStart(*this, item) : 1;
+}
+
+void RecordingWnd::PtrnKeyFunc(int key, int flags, PTRNDATA* item)
+{
+    record("keyfunc", {key, flags, item->DataNo});
+    if (hooks_.keyFunc)
+        hooks_.keyFunc(*this, key, flags, item);
+}
+
 Screen::Screen()
 {
     useToolkit();
@@ -22,12 +93,13 @@ Screen::Screen()
     TestApplication::window = [this](const std::string& name) -> CPtrnDisp* {
         if (std::find(known.begin(), known.end(), name) == known.end())
             return nullptr;
-        return new RecordingWnd(calls);
+        return new RecordingWnd(calls, hooks);
     };
 }
 
 Screen::~Screen()
 {
+    hooks = {};
     for (CPtrnDisp* wnd : {SystmWnd, AppliWnd}) {
         if (wnd) {
             wnd->PtrnExit();
@@ -71,6 +143,32 @@ CPtrnDisp* Screen::openTop(const std::string& name)
     return AppliWnd;
 }
 
+CPtrnDisp* Screen::openSystem(const std::string& name)
+{
+    PtrnDispSysWnd(name.c_str(), nullptr, 0);
+    if (SystmWnd)
+        waitShown(SystmWnd);
+    return SystmWnd;
+}
+
+CPtrnDisp* Screen::openChild(CPtrnDisp* parent, int which, const std::string& name)
+{
+    parent->PtrnDispChild(which, name.c_str(), nullptr, 0);
+    CPtrnDisp* child = which == 1 ? parent->ChildWnd1 : parent->ChildWnd2;
+    if (child)
+        waitShown(child);
+    return child;
+}
+
+CPtrnDisp* Screen::openChild(CPtrnDisp* parent, int which, const std::string& name, int x, int y)
+{
+    parent->PtrnDispChild(which, name.c_str(), x, y, nullptr, 0);
+    CPtrnDisp* child = which == 1 ? parent->ChildWnd1 : parent->ChildWnd2;
+    if (child)
+        waitShown(child);
+    return child;
+}
+
 void Screen::waitShown(CPtrnDisp* wnd)
 {
     user.waitFor(
@@ -90,4 +188,67 @@ void Screen::tick(int count)
     for (int i = 0; i < count; i++)
         Timer_Event(nullptr);
     user.settle();
+}
+
+void Screen::moveTo(const CPtrnDisp* wnd, int x, int y)
+{
+    user.move(wnd->WindRect.left + x, wnd->WindRect.top + y);
+    user.settle();
+}
+
+void Screen::press(const CPtrnDisp* wnd, int x, int y, unsigned button)
+{
+    moveTo(wnd, x, y);
+    user.press(button);
+    user.settle();
+}
+
+void Screen::release(unsigned button)
+{
+    user.release(button);
+    user.settle();
+}
+
+void Screen::click(const CPtrnDisp* wnd, int x, int y, unsigned button)
+{
+    press(wnd, x, y, button);
+    release(button);
+}
+
+void Screen::key(unsigned long symbol, std::initializer_list<unsigned long> modifiers)
+{
+    user.key(symbol, modifiers);
+    user.settle();
+}
+
+void Screen::type(const std::string& text)
+{
+    user.type(text);
+    user.settle();
+}
+
+std::uint32_t Screen::pixel(const CPtrnDisp* wnd, int x, int y)
+{
+    return user.pixel(wnd->WindRect.left + x, wnd->WindRect.top + y);
+}
+
+std::uint32_t Screen::bufferPixel(const CPtrnDisp* wnd, int x, int y)
+{
+    GdkPixbuf* pixbuf =
+        gdk_pixbuf_get_from_drawable(nullptr, wnd->Pixmap, gdk_colormap_get_system(), x, y, 0, 0, 1, 1);
+    const guchar* rgb = gdk_pixbuf_get_pixels(pixbuf);
+    const std::uint32_t value = static_cast<std::uint32_t>(rgb[0]) << 16 |
+                                static_cast<std::uint32_t>(rgb[1]) << 8 | static_cast<std::uint32_t>(rgb[2]);
+    g_object_unref(pixbuf);
+    return value;
+}
+
+Calls Screen::callsOf(std::initializer_list<const char*> names) const
+{
+    Calls result;
+    std::copy_if(calls.begin(), calls.end(), std::back_inserter(result), [&](const std::string& call) {
+        const std::string name = call.substr(0, call.find(' '));
+        return std::any_of(names.begin(), names.end(), [&](const char* wanted) { return name == wanted; });
+    });
+    return result;
 }

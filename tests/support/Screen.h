@@ -9,32 +9,53 @@
 #include "tests/support/XDriver.h"
 #include "window/PtrnDisp.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
-/// What the hooks of a window were called with, in order: "init", "exit", "disp 0", "timr", "mesg 5", ...
-/// The list outlives the window.
+/// What the hooks of a window were called with, in order: "init", "exit", "disp 0", "timr", "mesg 5",
+/// "rbtn 5", "mouse 1 20,30 4", "keystart 5", "keyfunc 65293 0 5" ... The list outlives the window. The
+/// pointer's motions are not in it.
 using Calls = std::vector<std::string>;
+
+/// What the windows of a test do in their hooks, beside being written down.
+struct Hooks {
+    std::function<void(CPtrnDisp&)> init;
+    std::function<void(CPtrnDisp&)> exit;
+    std::function<void(CPtrnDisp&)> timr;
+    std::function<void(CPtrnDisp&, CDraw*, int mode)> disp;
+    std::function<void(CPtrnDisp&, int mesg)> mesg;
+    std::function<void(CPtrnDisp&, int dataNo)> rbtn;
+    std::function<int(CPtrnDisp&, POINT, int button, int flags)> mouse;
+    std::function<int(CPtrnDisp&, PTRNDATA*)> keyStart;
+    std::function<void(CPtrnDisp&, int key, int flags, PTRNDATA*)> keyFunc;
+};
 
 /// A window class that writes down its hooks.
 class RecordingWnd : public CPtrnDisp
 {
   public:
-    explicit RecordingWnd(Calls& calls) : calls_(calls) {}
-    void PtrnInitFunc() override { calls_.push_back("init"); }
-    void PtrnExitFunc() override { calls_.push_back("exit"); }
-    void PtrnDispFunc(CDraw*, int mode) override { calls_.push_back("disp " + std::to_string(mode)); }
-    void PtrnTimrFunc() override { calls_.push_back("timr"); }
-    void PtrnMesgFunc(int mesg) override { calls_.push_back("mesg " + std::to_string(mesg)); }
-    void PtrnRbtnFunc(int dataNo) override { calls_.push_back("rbtn " + std::to_string(dataNo)); }
+    /// Both outlive the window.
+    RecordingWnd(Calls& calls, const Hooks& hooks) : calls_(calls), hooks_(hooks) {}
+    void PtrnInitFunc() override;
+    void PtrnExitFunc() override;
+    void PtrnDispFunc(CDraw* draw, int mode) override;
+    void PtrnTimrFunc() override;
+    void PtrnMesgFunc(int mesg) override;
+    void PtrnRbtnFunc(int dataNo) override;
+    int PtrnMouseFunc(POINT pt, int button, int flags) override;
+    int PtrnKeyStart(PTRNDATA* item) override;
+    void PtrnKeyFunc(int key, int flags, PTRNDATA* item) override;
 
   private:
+    void record(const std::string& name, std::initializer_list<int> values = {});
     Calls& calls_;
+    const Hooks& hooks_;
 };
 
-/// Fixture: a project of 100 colours (number n is 0x0n0n0n times two and a bit, all different; see color()),
-/// 640 x 480 display in the profile, and a registry that makes a RecordingWnd for every saved pattern.
+/// Fixture: a project of 100 colours, all different (color()), a 1280 x 1024 display, font 0 of 8 x 16 pixels
+/// a character, and a registry that makes a RecordingWnd for every known pattern.
 class Screen : public testing::Test
 {
   protected:
@@ -50,13 +71,37 @@ class Screen : public testing::Test
     void start();
     /// Opens a known pattern as the application window and waits until it is on the screen.
     CPtrnDisp* openTop(const std::string& name);
+    /// Opens a known pattern as the system window and waits until it is on the screen.
+    CPtrnDisp* openSystem(const std::string& name);
+    /// Opens a known pattern in a child slot, at its own place, and waits until it is on the screen.
+    CPtrnDisp* openChild(CPtrnDisp* parent, int which, const std::string& name);
+    CPtrnDisp* openChild(CPtrnDisp* parent, int which, const std::string& name, int x, int y);
     /// Waits until the window has its back buffer and the server shows it at its place.
     void waitShown(CPtrnDisp* wnd);
-    /// One tick of the framework, without the clock; windows are updated on the screen.
+    /// One tick of the framework; windows are updated on the screen.
     void tick(int count = 1);
+
+    // --- the user, in window coordinates; everything that follows is handled when they return ----------
+
+    void moveTo(const CPtrnDisp* wnd, int x, int y);
+    void press(const CPtrnDisp* wnd, int x, int y, unsigned button = 1);
+    void release(unsigned button = 1);
+    void click(const CPtrnDisp* wnd, int x, int y, unsigned button = 1);
+    /// Presses and releases a key; the pointer has to be over a window.
+    void key(unsigned long symbol, std::initializer_list<unsigned long> modifiers = {});
+    void type(const std::string& text);
+
+    /// A pixel of a window as it is on the screen.
+    std::uint32_t pixel(const CPtrnDisp* wnd, int x, int y);
+    /// A pixel of its back buffer, by pattern coordinates.
+    static std::uint32_t bufferPixel(const CPtrnDisp* wnd, int x, int y);
+
+    /// Those of the calls that begin with one of the names, in order; all others are left out.
+    Calls callsOf(std::initializer_list<const char*> names) const;
 
     Project project;
     XDriver user;
     Calls calls; ///< hooks of all windows
+    Hooks hooks;
     std::vector<std::string> known;
 };

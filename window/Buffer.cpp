@@ -1,0 +1,57 @@
+#include "window/Buffer.h"
+
+#include "shell/LogText.h"
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int kLongest = 32767;
+constexpr int kLargest = 32 * 1024 * 1024;
+/// Smaller ones are not refused by any server that shows their window.
+constexpr int kDoubtful = 4 * 1024 * 1024;
+
+/// @return null when the server refuses it
+GdkPixmap* TryPixmap(GdkWindow* window, SIZE size)
+{
+    gdk_error_trap_push();
+    GdkPixmap* pixmap = gdk_pixmap_new(window, size.cx, size.cy, -1);
+    gdk_flush();
+    const bool refused = gdk_error_trap_pop() != 0;
+    if (!refused)
+        return pixmap;
+    gdk_error_trap_push(); // the server knows nothing of what is released here
+    g_object_unref(pixmap);
+    gdk_flush();
+    gdk_error_trap_pop();
+    return nullptr;
+}
+
+GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
+{
+    if (size.cx * size.cy <= kDoubtful)
+        return gdk_pixmap_new(window, size.cx, size.cy, -1);
+    if (GdkPixmap* pixmap = TryPixmap(window, size))
+        return pixmap;
+    LogText("PTRNDISP", nullptr, 0, "Xサーバーのメモリが足りない  [%d x %d]", size.cx, size.cy);
+    return gdk_pixmap_new(window, 1, 1, -1);
+}
+
+} // namespace
+
+SIZE BoundedBuffer(int width, int height)
+{
+    const int cx = std::clamp(width, 1, kLongest);
+    return {cx, std::clamp(height, 1, std::min(kLongest, kLargest / cx))};
+}
+
+std::shared_ptr<CPaintDraw> NewBuffer(GdkWindow* window, SIZE size)
+{
+    GdkPixmap* pixmap = NewPixmap(window, size);
+    return {new CPaintDraw(pixmap), [](CPaintDraw* draw) {
+                GdkDrawable* buffer = draw->window;
+                PaintDrawRelease()(draw);
+                g_object_unref(buffer);
+            }};
+}

@@ -1,0 +1,11 @@
+// Who has the keyboard on a display without a window manager.
+#pragma once
+
+#include <gtk/gtk.h>
+
+/// Without a window manager the keyboard follows the pointer, unless some program has taken it or it was
+/// lost with a program that had it. This makes it follow the pointer again: when nobody has it, and after a
+/// press in a panel window also when another program has it. With a window manager nothing is done.
+/// @param top      a realized panel window
+/// @param pressed  the operator has just pressed a button in it
+void FreeKeyboard(GtkWidget* top, bool pressed);

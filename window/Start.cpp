@@ -1,0 +1,124 @@
+// The toolkit window of a pattern window.
+#include "base/EucText.h"
+#include "window/InputMethod.h"
+#include "window/Keyboard.h"
+#include "window/PtrnDisp.h"
+#include "window/Retire.h"
+
+#include <algorithm>
+
+namespace
+{
+
+/// X knows no larger window, and no place beyond.
+constexpr int kLargest = 32767;
+
+template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
+{
+    gtk_signal_connect(GTK_OBJECT(widget), signal, GTK_SIGNAL_FUNC(handler), wnd);
+}
+
+/// A window manager may not close a panel's window: windows close by their items' actions.
+int Refuse_Delete(GtkWidget*, GdkEvent*, CPtrnDisp*)
+{
+    return TRUE;
+}
+
+int Window_Map(GtkWidget* widget, GdkEvent*, CPtrnDisp*)
+{
+    FreeKeyboard(widget, false);
+    return FALSE;
+}
+
+void Window_Unrealize(GtkWidget* widget, CPtrnDisp*)
+{
+    InputMethodRelease(widget);
+}
+
+GtkWidget* NewTop(GtkWidget* parent, const char* name, RECT rect)
+{
+    GtkWidget* top = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+    gtk_window_set_title(GTK_WINDOW(top), EucToUtf8(name).c_str());
+    gtk_window_set_decorated(GTK_WINDOW(top), FALSE);
+    gtk_window_set_resizable(GTK_WINDOW(top), FALSE);
+    gtk_window_set_gravity(GTK_WINDOW(top), GDK_GRAVITY_STATIC);
+    gtk_window_move(GTK_WINDOW(top), std::clamp(rect.left, -kLargest, kLargest),
+                    std::clamp(rect.top, -kLargest, kLargest));
+    if (parent)
+        gtk_window_set_transient_for(GTK_WINDOW(top), GTK_WINDOW(parent));
+    return top;
+}
+
+GtkWidget* NewArea(GtkWidget* top, RECT rect)
+{
+    GtkWidget* area = gtk_drawing_area_new();
+    gtk_widget_set_size_request(area, std::clamp(rect.width, 1, kLargest),
+                                std::clamp(rect.height, 1, kLargest));
+    // The back buffer is this window's own; the toolkit's would only cost a copy.
+    gtk_widget_set_double_buffered(area, FALSE);
+    gtk_widget_set_app_paintable(area, TRUE);
+    gtk_container_add(GTK_CONTAINER(top), area);
+    gtk_widget_show(area);
+    gtk_widget_set_events(area, GDK_POINTER_MOTION_MASK | GDK_POINTER_MOTION_HINT_MASK |
+                                    GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_KEY_PRESS_MASK |
+                                    GDK_LEAVE_NOTIFY_MASK | GDK_EXPOSURE_MASK | GDK_SCROLL_MASK);
+    return area;
+}
+
+} // namespace
+
+int Window_Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
+{
+    wnd->Configured = true;
+    wnd->Reported = {event->x, event->y};
+    return FALSE; // the toolkit has to know it too
+}
+
+/// However the toolkit window went, nothing may draw on it or destroy it again.
+int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd)
+{
+    if (wnd->Widget != widget)
+        return TRUE;
+    wnd->Widget = nullptr;
+    wnd->DrawArea = nullptr;
+    wnd->MoveWnd = 0;
+    wnd->ScrollBar = 0;
+    wnd->DropKeyInput();
+    wnd->ReleaseBuffer();
+    return TRUE;
+}
+
+void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
+{
+    const HandlerScope scope;
+    GtkWidget* top = NewTop(parent, wnd->PtrnName, rect);
+    GtkWidget* area = NewArea(top, rect);
+    wnd->Widget = top;
+    wnd->DrawArea = area;
+
+    Connect(area, "configure_event", Configure_Event, wnd);
+    Connect(area, "expose_event", Expose_Event, wnd);
+    Connect(area, "button_press_event", Mouse_Press, wnd);
+    Connect(area, "button_release_event", Mouse_Release, wnd);
+    Connect(area, "motion_notify_event", Mouse_Motion, wnd);
+    Connect(area, "leave_notify_event", Mouse_Leave, wnd);
+    Connect(area, "scroll_event", Mouse_Wheel, wnd);
+    Connect(top, "key_press_event", Key_Press, wnd);
+    Connect(top, "key_release_event", Key_Release, wnd);
+    Connect(top, "configure_event", Window_Configure, wnd);
+    Connect(top, "map_event", Window_Map, wnd);
+    Connect(top, "delete_event", Refuse_Delete, wnd);
+    Connect(top, "unrealize", Window_Unrealize, wnd);
+    Connect(top, "destroy", Widget_Destroy, wnd);
+
+    wnd->PtrnInit();
+    if (wnd->Widget != top) // the hook has closed the window
+        return;
+
+    gtk_widget_realize(top);
+    gtk_widget_realize(area);
+    // No background: the server would clear each newly exposed part before the back buffer is copied.
+    gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
+    gtk_widget_show(top);
+    gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
+}
