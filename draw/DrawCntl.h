@@ -44,7 +44,7 @@ class CDraw
     /// Extent of a text's ink; (0, 0) for an empty text or a font that is not loaded.
     SIZE GetTextSize(int font, const char* text);
 
-    /// Draws a line; the box corners may come in any order.
+    /// Draws a line; its ends may come in any order.
     /// @param type  0 solid, 1 dashed 12 on 4 off, 2 dashed 4 on 2 off
     /// @param wide  1..98
     void DrawLine(int xpos1, int ypos1, int xpos2, int ypos2, int type, int wide, int fomt, int colr);
