@@ -205,7 +205,7 @@ class CPtrnData
     /// Redraws date and time when the second has changed.
     void DispCalender(CDraw* draw);
     /// What a point in pattern coordinates hits.
-    /// @param butn  0 in the title bar at all?, 1 left button, 2 right button
+    /// @param butn  0 is it in the title bar, 1 left button, 2 right button
     /// @return 0 nothing, 1 title bar (butn 0) or logo, 2 hard-copy button, 3 drag area
     int TestTitle(POINT point, int butn);
 

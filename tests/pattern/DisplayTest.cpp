@@ -259,6 +259,19 @@ TEST_F(Display, of_one_item_tells_it_the_update_flag)
     EXPECT_GT(canvas.picture().count(color(29)), 0);
 }
 
+TEST_F(Display, wipes_the_mark_drawn_last_at_an_update_only)
+{
+    load(Pattern("p")
+             .item(PTRN_MARK, 0, 0, 16, 16)
+             .code("A")
+             .parm4(MARK_NUMBER4, 351, 352, 351, 351)
+             .parm(MARK_LAST, 353));
+    EXPECT_EQ(display().count(color(29)), 0);
+
+    setState(1, 1);
+    EXPECT_GT(update().count(color(29)), 0);
+}
+
 TEST_F(Display, update_draws_nothing_while_nothing_changes)
 {
     Pattern pattern("p");

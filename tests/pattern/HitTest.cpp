@@ -61,6 +61,21 @@ TEST_F(ItemHit, is_the_earlier_in_the_file_of_one_type_although_the_later_lies_o
     EXPECT_EQ(at(20, 20), 0);
 }
 
+TEST_F(ItemHit, is_the_earlier_in_the_file_among_many_too)
+{
+    Pattern pattern("p");
+    for (int i = 0; i < 300; ++i)
+        pattern.item(i % 3 == 0 ? PTRN_BUTN : PTRN_RECT, 0, 0, 99, 99).action(1).top(i % 2);
+    load(pattern);
+
+    // Pass 1 are the odd ones, and of these 3, 9, 15... are buttons.
+    for (int expected = 3; expected < 300; expected += 6) {
+        ASSERT_EQ(at(20, 20), expected);
+        item(expected).wData = STATE_HIDDEN;
+    }
+    EXPECT_EQ(at(20, 20), 1) << "the first rectangle of pass 1";
+}
+
 TEST_F(ItemHit, skips_hidden_and_frozen_items_but_not_disabled_ones)
 {
     load(Pattern("p").item(PTRN_BUTN, 0, 0, 99, 99).action(1).item(PTRN_RECT, 0, 0, 99, 99).action(1));

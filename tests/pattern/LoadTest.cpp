@@ -255,6 +255,7 @@ TEST_F(PatternLoad, replaces_what_was_loaded_before)
     EXPECT_EQ(data.LoadPtrnData("missing"), 0);
     EXPECT_EQ(data.PtrnCont, 0);
     EXPECT_EQ(data.PtrnData, nullptr);
+    EXPECT_STREQ(data.PtrnHedr.PtrnName, "");
     EXPECT_EQ(data.TestPtrnData(POINT{1, 1}), -1);
 }
 

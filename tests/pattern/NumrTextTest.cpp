@@ -128,6 +128,7 @@ TEST_F(NumericText, has_no_separators_with_decimals)
     width(9).decimals(1).grouping();
 
     EXPECT_EQ(of(12345.5F), "  12345.5");
+    EXPECT_EQ(width(12).decimals(-1).of(1234.5F), " 1234.500000");
 }
 
 TEST_F(NumericText, takes_any_number_as_on_for_its_switches)

@@ -211,6 +211,25 @@ TEST_F(Repeat, of_a_spin_button_ends_when_the_pointer_leaves_its_half)
     EXPECT_EQ(data().RepeatFlag, REPEAT_IDLE);
 }
 
+TEST_F(Repeat, of_no_part_ends_outside_the_control)
+{
+    // A press beside both halves steps down, so that no part is what is held.
+    set(2, 10.0F);
+    press(300, 5);
+    ASSERT_EQ(data().RepeatFlag, REPEAT_WAITING);
+    ASSERT_EQ(data().RepeatMode, 0);
+
+    data().MouseMove(POINT{300, 5});
+    EXPECT_EQ(data().RepeatFlag, REPEAT_IDLE);
+
+    // The margin beside the thumb is no part of the bar, but inside it.
+    set(1, 500.0F);
+    press(0, 100);
+    ASSERT_EQ(data().RepeatMode, 0);
+    data().MouseMove(POINT{0, 101});
+    EXPECT_EQ(data().RepeatFlag, REPEAT_WAITING);
+}
+
 TEST_F(Repeat, of_a_spin_button_stops_at_its_limits)
 {
     set(2, 97.5F);
