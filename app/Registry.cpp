@@ -1,6 +1,12 @@
 // Which screen class shows which pattern.
 #include "window/Registry.h"
-#include "window/PtrnDisp.h"
+
+#include "app/Haisenhyo.h"
+#include "app/PtrnTest1.h"
+#include "app/PtrnTest2.h"
+#include "app/PtrnTest3.h"
+#include "app/PtrnTest4.h"
+#include "app/PtrnTest5.h"
 
 #include <cstring>
 
@@ -18,12 +24,18 @@ template <class Window> CPtrnDisp* Make()
 }
 
 constexpr Screen kScreens[] = {
-    {"テスト  ［メニュー選択］", Make<CPtrnDisp>},   {"システム終了", Make<CPtrnDisp>},
-    {"テスト  （図形）", Make<CPtrnDisp>},           {"テスト  （マウス操作）", Make<CPtrnDisp>},
-    {"子ウィンドウ (1)", Make<CPtrnDisp>},           {"子ウィンドウ (2)", Make<CPtrnDisp>},
-    {"子ウィンドウ (3)", Make<CPtrnDisp>},           {"ポップアップメニュー", Make<CPtrnDisp>},
-    {"テスト  （文字列・ボタン）", Make<CPtrnDisp>}, {"テスト  （グラフ）", Make<CPtrnDisp>},
-    {"テスト  （表・キー入力）", Make<CPtrnDisp>},   {"テスト  （表）", Make<CPtrnDisp>},
+    {"テスト  ［メニュー選択］", Make<CPtrnDisp>},
+    {"システム終了", Make<CPtrnDisp>},
+    {"テスト  （図形）", Make<CPtrnTest1>},
+    {"テスト  （マウス操作）", Make<CPtrnTest5>},
+    {"子ウィンドウ (1)", Make<CPtrnDisp>},
+    {"子ウィンドウ (2)", Make<CPtrnDisp>},
+    {"子ウィンドウ (3)", Make<CPtrnDisp>},
+    {"ポップアップメニュー", Make<CPtrnDisp>},
+    {"テスト  （文字列・ボタン）", Make<CPtrnTest2>},
+    {"テスト  （グラフ）", Make<CPtrnTest4>},
+    {"テスト  （表・キー入力）", Make<CPtrnTest3>},
+    {"テスト  （表）", Make<CHaisenhyo>}, // one row a line
 };
 
 } // namespace

@@ -15,23 +15,25 @@ void TestApplication::reset()
     tick = nullptr;
 }
 
-CPtrnDisp* GetPtrnWnd(const char* name)
+// A test executable of an application links that application's registry and hooks, which go before these.
+
+__attribute__((weak)) CPtrnDisp* GetPtrnWnd(const char* name)
 {
     return TestApplication::window ? TestApplication::window(name) : nullptr;
 }
 
-int UserInit()
+__attribute__((weak)) int UserInit()
 {
     return TestApplication::init ? TestApplication::init() : 1;
 }
 
-void UserExit()
+__attribute__((weak)) void UserExit()
 {
     if (TestApplication::exit)
         TestApplication::exit();
 }
 
-void UserTimr()
+__attribute__((weak)) void UserTimr()
 {
     if (TestApplication::tick)
         TestApplication::tick();

@@ -1,0 +1,16 @@
+// Test screen "shapes": marks that change colour and blink for a while when they are clicked.
+#pragma once
+
+#include "app/Cells.h"
+#include "window/PtrnDisp.h"
+
+class CPtrnTest1 : public CPtrnDisp
+{
+  public:
+    void PtrnInitFunc() override;
+    void PtrnTimrFunc() override;
+    void PtrnMesgFunc(int no) override;
+
+  private:
+    int BlinkTimr[kBlinkMarks.count] = {}; ///< ticks left to blink, per mark; 0 still
+};

@@ -1,0 +1,71 @@
+#include "app/PtrnTest5.h"
+
+#include "app/Cells.h"
+#include "app/Places.h"
+#include "comndata/ComnData.h"
+#include "comndata/ItemState.h"
+
+namespace
+{
+
+enum MouseButton { MOUSE_NONE = 0, MOUSE_LEFT = 1, MOUSE_RIGHT = 2 };
+enum Modifier { MODIFIER_NONE = 0, MODIFIER_SHIFT = 1, MODIFIER_CONTROL = 2 };
+
+constexpr int kArrowCursor = 0;
+constexpr int kCrossCursor = 1;
+
+/// What lights up each of the areas while the pointer is over it.
+struct Gesture {
+    int button;
+    int state;
+};
+constexpr Gesture kGestures[] = {
+    {MOUSE_NONE, MODIFIER_NONE},
+    {MOUSE_NONE, MODIFIER_SHIFT},
+    {MOUSE_LEFT, MODIFIER_SHIFT},
+    {MOUSE_RIGHT, MODIFIER_CONTROL},
+};
+static_assert(sizeof kGestures / sizeof kGestures[0] == kMouseAreas.count);
+
+} // namespace
+
+void CPtrnTest5::PtrnInitFunc()
+{
+    Clear_AllData(kLeftLamps.first, nullptr, 0);
+    Clear_AllData(kRightLamps.first, nullptr, 0);
+}
+
+void CPtrnTest5::PtrnMesgFunc(int no)
+{
+    CloseOpened(*this);
+    if (kLeftLamps.holds(no))
+        EOR_wData(no, 1, nullptr, 0);
+    else
+        OpenChildOf(*this, no);
+}
+
+void CPtrnTest5::PtrnRbtnFunc(int no)
+{
+    CloseOpened(*this);
+    if (kRightLamps.holds(no))
+        EOR_wData(no, 1, nullptr, 0);
+}
+
+int CPtrnTest5::PtrnMouseFunc(POINT pt, int button, int state)
+{
+    PTRNDATA item;
+    const bool overItem = PtrnTestData(pt, &item) == 1;
+    CursorType = overItem ? kCrossCursor : kArrowCursor;
+    if (!overItem && button == MOUSE_RIGHT && state == MODIFIER_NONE)
+        OpenPopupMenu(*this, SetRect(pt.x, pt.y, pt.x, pt.y));
+
+    int overArea = 0;
+    for (int i = 0; i < kMouseAreas.count; i++) {
+        const int no = kMouseAreas.first + i;
+        const bool under = PtrnTestData(pt, no, PTRN_RECT) == 1;
+        const bool lit = under && button == kGestures[i].button && state == kGestures[i].state;
+        Set_Color(no, lit ? 1 : 0, nullptr, 0);
+        overArea |= under;
+    }
+    return overArea;
+}

@@ -1,0 +1,169 @@
+// Graphs: the trend that the screen draws in the frame of an item.
+#include "tests/app/SampleScreen.h"
+
+#include <set>
+
+namespace
+{
+
+constexpr int frameColor = 60;
+constexpr int overlayColor = 61;
+constexpr int left = 20; ///< of the frame
+constexpr int top = 30;
+constexpr int width = 200;  ///< two pixels a sample
+constexpr int height = 100; ///< one pixel a value
+constexpr int overlayX = left + 6;
+constexpr int ticksPerSample = 5;
+constexpr int lowest[] = {15, 35, 55, 75};
+
+class Trend : public SampleScreen
+{
+  protected:
+    Pattern trend()
+    {
+        Pattern pattern("テスト  （グラフ）");
+        pattern.size(300, 200)
+            .item(PTRN_RECT, left, top, left + width, top + height)
+            .parm(SHAPE_FILLED, 1)
+            .parm(SHAPE_WIDTH, 0)
+            .parm4(SHAPE_FILL4, frameColor, frameColor, frameColor, frameColor)
+            .code(code, offset(113))
+            .item(PTRN_LINE, overlayX, top, overlayX, top + height)
+            .parm4(LINE_COLOR4, overlayColor, overlayColor, overlayColor, overlayColor)
+            .code(code, offset(112));
+        return pattern;
+    }
+
+    /// The window as it is shown after its next update.
+    Picture shown()
+    {
+        AppliWnd->PtrnUpdate();
+        user.settle();
+        return user.picture(0, 0, 300, 200);
+    }
+    /// Number of samples that a series shows: it ends where the last one is.
+    int samples(const Picture& picture, int series)
+    {
+        int right = -1;
+        for (int y = 0; y < picture.height(); y++)
+            for (int x = 0; x < picture.width(); x++)
+                if (picture.at(x, y) == color(50 + series))
+                    right = std::max(right, x);
+        return right < 0 ? 0 : (right + 1 - left) / 2 + 1;
+    }
+};
+
+} // namespace
+
+TEST_F(Trend, takes_a_sample_of_every_series_at_every_fifth_tick)
+{
+    open(trend());
+    tick(2 * ticksPerSample); // from two samples on there is a line
+    int before = samples(shown(), 0);
+    ASSERT_GE(before, 2);
+    for (int round = 0; round < 3; round++) {
+        tick(ticksPerSample - 1);
+        EXPECT_EQ(samples(shown(), 0), before);
+        tick();
+        before++;
+        const Picture picture = shown();
+        for (int series = 0; series < 4; series++)
+            EXPECT_EQ(samples(picture, series), before);
+    }
+}
+
+TEST_F(Trend, a_full_paint_takes_a_sample_at_once)
+{
+    open(trend());
+    tick(2 * ticksPerSample);
+    const int before = samples(shown(), 0);
+    AppliWnd->PaintEvent();
+    EXPECT_EQ(samples(shown(), 0), before + 1);
+}
+
+TEST_F(Trend, each_series_keeps_to_its_band_and_moves_in_it)
+{
+    open(trend());
+    tick(60 * ticksPerSample);
+    const Picture picture = shown();
+    std::set<int> rows[4];
+    for (int y = 0; y < picture.height(); y++)
+        for (int x = 0; x < picture.width(); x++)
+            for (int series = 0; series < 4; series++)
+                if (picture.at(x, y) == color(50 + series)) {
+                    EXPECT_GE(x, left);
+                    EXPECT_LT(x, left + width);
+                    rows[series].insert(y - top);
+                }
+    for (int series = 0; series < 4; series++) {
+        ASSERT_FALSE(rows[series].empty());
+        EXPECT_GE(*rows[series].begin(), lowest[series]);
+        EXPECT_LE(*rows[series].rbegin(), lowest[series] + 9);
+        EXPECT_GT(rows[series].size(), 5u) << "series " << series;
+    }
+}
+
+TEST_F(Trend, starts_again_from_the_left_after_100_samples)
+{
+    open(trend());
+    tick(2 * ticksPerSample);
+    const int before = samples(shown(), 0);
+    tick((100 - before) * ticksPerSample);
+    EXPECT_EQ(samples(shown(), 0), 100);
+    tick(ticksPerSample); // one sample is no line yet
+    EXPECT_EQ(samples(shown(), 0), 0);
+    tick(ticksPerSample);
+    EXPECT_EQ(samples(shown(), 0), 2);
+}
+
+TEST_F(Trend, lies_on_the_frame_and_below_the_overlay)
+{
+    open(trend());
+    tick(10 * ticksPerSample);
+    const Picture picture = shown();
+    for (int y = top; y < top + height; y++)
+        EXPECT_EQ(picture.at(overlayX, y), color(overlayColor)) << y;
+    EXPECT_EQ(picture.at(left, top), color(frameColor));
+    EXPECT_EQ(picture.at(left + width - 1, top + height - 1), color(frameColor));
+}
+
+TEST_F(Trend, wipes_the_frame_before_each_drawing)
+{
+    open(trend());
+    tick(90 * ticksPerSample);
+    const int ink = samples(shown(), 3);
+    ASSERT_GE(ink, 90);
+    tick(15 * ticksPerSample);
+    const Picture picture = shown();
+    for (int x = left + 60; x < left + width; x++)
+        for (int y = top; y < top + height; y++)
+            EXPECT_EQ(picture.at(x, y), color(frameColor)) << x << "," << y;
+}
+
+TEST_F(Trend, draws_nothing_without_a_frame_item)
+{
+    open(Pattern("テスト  （グラフ）")
+             .size(300, 200)
+             .item(PTRN_CRCL, left, top, left + width, top + height)
+             .code(code, offset(113)));
+    tick(20 * ticksPerSample);
+    const Picture picture = shown();
+    for (int series = 0; series < 4; series++)
+        EXPECT_EQ(samples(picture, series), 0) << "another type is no frame";
+}
+
+TEST_F(Trend, survives_frames_of_any_size)
+{
+    for (const auto& [x, y] : {std::pair(left, top), std::pair(left + 1, top + 1), std::pair(30000, 30000),
+                               std::pair(2147483647, 2147483647)}) {
+        Pattern("テスト  （グラフ）")
+            .size(300, 200)
+            .item(PTRN_RECT, left, top, x, y)
+            .code(code, offset(113))
+            .save(project);
+        if (!AppliWnd)
+            start();
+        openTop("テスト  （グラフ）");
+        tick(3 * ticksPerSample);
+    }
+}
