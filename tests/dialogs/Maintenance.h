@@ -7,7 +7,6 @@
 #include "shell/Request.h"
 #include "tests/support/Screen.h"
 
-#include <algorithm>
 #include <X11/keysym.h>
 
 inline constexpr int lines = 10;
@@ -150,15 +149,12 @@ class Maintenance : public Screen
     {
         static_assert(TEXT_COLOR4 == CHECK_COLOR); // which is the colour that a Pattern draws them in
         const RECT& place = SystmWnd->WindRect;
-        const Picture part = user.picture(place.left + x, place.top + top + line * spacing, 38, 16);
-        return std::count(part.pixels.begin(), part.pixels.end(), color(TEXT_COLOR4)) > 0;
+        const int ink = user.picture(place.left + x, place.top + top + line * spacing, 38, 16)
+                            .count(color(TEXT_COLOR4));
+        return ink > 0;
     }
 
-    void clickInWindow(int x, int y, unsigned button = 1)
-    {
-        user.clickAt(SystmWnd->WindRect.left + x, SystmWnd->WindRect.top + y, button);
-        user.settle();
-    }
+    void clickInWindow(int x, int y) { click(SystmWnd, x, y); }
     /// A click into a column of a line.
     void clickLine(int x, int line) { clickInWindow(x + 4, top + line * spacing + 8); }
     /// Erases the last `erased` bytes of the field of a line, types and ends with Return.
@@ -167,10 +163,9 @@ class Maintenance : public Screen
         clickLine(x, line);
         ASSERT_EQ(SystmWnd->KeyInputMode, 1);
         for (int i = 0; i < erased; i++)
-            user.key(XK_BackSpace);
-        user.type(typed);
-        user.key(XK_Return);
-        user.settle();
+            key(XK_BackSpace);
+        type(typed);
+        key(XK_Return);
         EXPECT_EQ(SystmWnd->KeyInputMode, 0);
     }
 };

@@ -110,11 +110,10 @@ TEST_F(Maintenance, writes_nothing_at_any_other_key)
     addCodes(1);
     open();
     tick();
-    for (const unsigned long key : {XK_Escape, XK_Tab}) {
+    for (const unsigned long symbol : {XK_Escape, XK_Tab}) {
         clickLine(valueX, 0);
-        user.type("5");
-        user.key(key);
-        user.settle();
+        type("5");
+        key(symbol);
         EXPECT_EQ(screen().KeyInputMode, 0);
         EXPECT_EQ(value(100), 0.0F);
     }
