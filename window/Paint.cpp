@@ -18,6 +18,7 @@ void CPtrnDisp::PaintEvent()
     Draw = draw;
     Pixmap = draw->window;
 
+    PtrnData->PtrnCalnSec = -1; // the new buffer has no clock yet, whichever second was shown last
     PtrnData->DispTitle(draw.get());
     PtrnData->DispPtrnData(draw.get());
     if (KeyInputMode == 1)

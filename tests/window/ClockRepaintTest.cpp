@@ -1,0 +1,49 @@
+// The title-bar clock and full repaints.
+#include "tests/support/Screen.h"
+
+#include "comndata/ComnData.h"
+
+namespace
+{
+
+class ClockRepaint : public Screen
+{
+  protected:
+    void SetUp() override
+    {
+        project.code("CLOCK", 7).code("OTHER", 92);
+        know(Pattern("p")
+                 .size(400, 100)
+                 .title("")
+                 .header(HEDR_TITLE_HEIGHT, 30)
+                 .header(HEDR_CLOCK, 3)
+                 .header(HEDR_TITLE_COLOR, 1)
+                 .header(HEDR_TITLE_BACK, 2));
+        start();
+    }
+
+    /// Pixels of the title bar in the colour of its texts.
+    int inked()
+    {
+        int count = 0;
+        const Picture bar = user.picture(0, 0, 400, 30);
+        for (const std::uint32_t pixel : bar.pixels)
+            count += pixel == color(1);
+        return count;
+    }
+};
+
+} // namespace
+
+TEST_F(ClockRepaint, a_repaint_within_the_same_second_shows_the_clock_again)
+{
+    CPtrnDisp* wnd = openTop("p");
+    user.settle();
+    const int before = inked();
+    ASSERT_GT(before, 0);
+
+    wnd->PaintEvent(); // as after a configure event
+    wnd->PtrnUpdate();
+    user.settle();
+    EXPECT_EQ(inked(), before);
+}
