@@ -5,6 +5,13 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace
+{
+
+constexpr char kSoftware[] = "tEXt::Software";
+
+} // namespace
+
 Picture::Picture(int width, int height, std::uint32_t ground)
     : pixels(static_cast<std::size_t>(width * height), ground), width_(width), height_(height)
 {
@@ -86,7 +93,9 @@ std::string Picture::bounds(std::uint32_t ground) const
 testing::AssertionResult same(const Picture& drawn, const Picture& expected)
 {
     if (drawn.width() != expected.width() || drawn.height() != expected.height())
-        return testing::AssertionFailure() << "sizes differ";
+        return testing::AssertionFailure()
+               << "sizes differ: drawn " << drawn.width() << " x " << drawn.height() << ", expected "
+               << expected.width() << " x " << expected.height();
     int differences = 0;
     char first[128] = "";
     for (int y = 0; y < drawn.height(); y++)
@@ -99,7 +108,7 @@ testing::AssertionResult same(const Picture& drawn, const Picture& expected)
     return testing::AssertionFailure() << differences << " pixels differ, " << first;
 }
 
-bool Picture::save(const std::string& path) const
+bool Picture::save(const std::string& path, const std::string& software) const
 {
     const PixbufPtr image(gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, width_, height_));
     for (int y = 0; y < height_; y++) {
@@ -108,14 +117,19 @@ bool Picture::save(const std::string& path) const
             for (int shift = 16; shift >= 0; shift -= 8)
                 *target++ = static_cast<guchar>(at(x, y) >> shift);
     }
-    return gdk_pixbuf_save(image.get(), path.c_str(), "png", nullptr, nullptr);
+    const char* key = software.empty() ? nullptr : kSoftware;
+    return gdk_pixbuf_save(image.get(), path.c_str(), "png", nullptr, key, software.c_str(), nullptr);
 }
 
-std::optional<Picture> Picture::load(const std::string& path)
+std::optional<Picture> Picture::load(const std::string& path, std::string* software)
 {
     const PixbufPtr image(gdk_pixbuf_new_from_file(path.c_str(), nullptr));
     if (!image)
         return std::nullopt;
+    if (software) {
+        const char* text = gdk_pixbuf_get_option(image.get(), kSoftware);
+        *software = text ? text : "";
+    }
     Picture picture(gdk_pixbuf_get_width(image.get()), gdk_pixbuf_get_height(image.get()), 0);
     const int step = gdk_pixbuf_get_n_channels(image.get());
     for (int y = 0; y < picture.height(); y++) {

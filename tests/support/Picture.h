@@ -35,10 +35,12 @@ class Picture
     /// none.
     std::string bounds(std::uint32_t ground) const;
 
-    /// Writes a PNG file. @return whether it could be written
-    bool save(const std::string& path) const;
+    /// Writes a PNG file, with a remark on what made it unless that is empty.
+    /// @return whether it could be written
+    bool save(const std::string& path, const std::string& software = "") const;
     /// Reads an image file; nothing when it is missing or no image.
-    static std::optional<Picture> load(const std::string& path);
+    /// @param software  receives the remark, when not null
+    static std::optional<Picture> load(const std::string& path, std::string* software = nullptr);
 
     std::vector<std::uint32_t> pixels; ///< row by row
 
