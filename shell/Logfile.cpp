@@ -116,6 +116,7 @@ void ChangeDay()
 void LogfileInit()
 {
     LogfileExit();
+    LogName[0] = '\0';
     const char* path = ProfileReadAsc(ProfName, "LOG", "LOGFILE");
     if (!*path)
         return;
@@ -133,7 +134,7 @@ void LogfileExit()
     LogfileSave();
     buffer = {};
     LogBuff = nullptr;
-    LogPath[0] = LogName[0] = '\0';
+    LogPath[0] = '\0';
     LogSize = LogCont = LogTimr = LogDay = 0;
 }
 
@@ -150,7 +151,7 @@ void LogfileTimr()
 {
     if (!*LogPath)
         return;
-    if (CalcTime(LocalTime.tm_hour, LocalTime.tm_min, LocalTime.tm_sec) % LogTimr == 0)
+    if (LogTimr > 0 && CalcTime(LocalTime.tm_hour, LocalTime.tm_min, LocalTime.tm_sec) % LogTimr == 0)
         LogfileSave();
     if (LogDay != LocalTime.tm_mday)
         ChangeDay();

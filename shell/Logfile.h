@@ -20,7 +20,7 @@ static_assert(sizeof(LOGBUFFER) == 258);
 constexpr int LOGSIZE_MAX = 10000;
 
 extern char LogPath[255];  ///< log directory; empty while logging is off
-extern char LogName[255];  ///< full path of today's file
+extern char LogName[255];  ///< full path of today's file; after LogfileExit still that of the last one
 extern LOGBUFFER* LogBuff; ///< LogSize lines; null while logging is off
 extern int LogSize;        ///< lines that the buffer holds
 extern int LogCont;        ///< lines in the buffer
@@ -32,7 +32,8 @@ extern int LogDay;         ///< day of month of the current file; 0 until the fi
 /// a larger "LOGSIZE" than LOGSIZE_MAX is cut to it. A log that is already open is closed first.
 void LogfileInit();
 
-/// Writes what is buffered and frees the buffer. Afterwards logging is off until the next LogfileInit.
+/// Writes what is buffered and frees the buffer. Afterwards logging is off until the next LogfileInit;
+/// LogName still tells where the last lines went.
 void LogfileExit();
 
 /// Appends the buffered lines to LogName and empties the buffer. The lines are lost when the file

@@ -363,6 +363,19 @@ TEST_F(Log, knows_a_new_day_by_its_day_of_month)
     EXPECT_THAT(LogName, EndsWith("20260209.log"));
 }
 
+TEST_F(Log, with_an_interval_of_0_waits_until_its_buffer_is_full)
+{
+    project.set("LOG", "LOGSIZE", "2");
+    open();
+    LogTimr = 0;
+    LogfileWrite("SYSTEM", "first", nullptr, 0);
+    setClock(2026, 1, 8, 0, 0, 0);
+    LogfileTimr();
+    EXPECT_THAT(files(), IsEmpty());
+    LogfileWrite("SYSTEM", "second", nullptr, 0);
+    EXPECT_EQ(lines(), 2);
+}
+
 TEST_F(Log, changes_its_file_at_the_end_of_a_month)
 {
     setClock(2026, 1, 31);
@@ -381,12 +394,12 @@ TEST_F(Log, saves_at_its_end)
     EXPECT_THAT(text(), EndsWith("  last\n"));
 }
 
-TEST_F(Log, returns_to_its_first_state_at_its_end)
+TEST_F(Log, returns_to_its_first_state_at_its_end_but_for_the_name_of_its_file)
 {
     LogfileExit();
     EXPECT_EQ(LogBuff, nullptr);
     EXPECT_STREQ(LogPath, "");
-    EXPECT_STREQ(LogName, "");
+    EXPECT_EQ(LogName, path("20260108.log"));
     EXPECT_EQ(LogSize, 0);
     EXPECT_EQ(LogCont, 0);
     EXPECT_EQ(LogTimr, 0);
