@@ -19,8 +19,9 @@ std::int32_t PtrnDataNo;
 namespace
 {
 
-// What ComnData points at. The texts that the cells own stand beside them, one for each cell: a cell whose
+// What ComnData points at. The texts that the cells own stand beside them, by data number: a cell whose
 // `sData` is not its own text shares the text of a message row, which is not to be freed with the cell.
+// Their places are made with the first text.
 std::vector<COMNDATA> cells;
 std::vector<std::unique_ptr<char[]>> ownTexts;
 
@@ -49,6 +50,14 @@ bool IsLogged(int no, const char* file, char* name)
 const char* AccessText(int write)
 {
     return write ? "WRITE  " : "READ   ";
+}
+
+std::unique_ptr<char[]>& OwnText(int no)
+{
+    const auto place = static_cast<std::size_t>(no);
+    if (place >= ownTexts.size())
+        ownTexts.resize(static_cast<std::size_t>(PtrnDataNo));
+    return ownTexts[place];
 }
 
 template <typename Operation> void ChangeWord(int no, const char* file, int line, Operation operation)
@@ -108,7 +117,7 @@ void CreateCells(int count)
 {
     const auto size = static_cast<std::size_t>(count);
     cells = std::vector<COMNDATA>(size);
-    ownTexts = std::vector<std::unique_ptr<char[]>>(size);
+    ownTexts = std::vector<std::unique_ptr<char[]>>();
     ComnData = count ? cells.data() : nullptr;
     PtrnDataNo = count;
 }
@@ -149,7 +158,7 @@ float Get_fData(int no, const char* file, int line)
     return value;
 }
 
-const char* Get_sData(int no, const char* file, int line)
+LPTSTR Get_sData(int no, const char* file, int line)
 {
     static char text[SIZE_SDATA];
 
@@ -199,7 +208,7 @@ void Set_sData(int no, const char* text, const char* file, int line)
         copy.reset(new char[length + 1]);
         CopyText(copy.get(), length + 1, text);
     }
-    std::unique_ptr<char[]>& own = ownTexts[static_cast<std::size_t>(no)];
+    std::unique_ptr<char[]>& own = OwnText(no);
     own = std::move(copy);
     ComnData[no].sData = own.get();
 
@@ -210,7 +219,7 @@ void ShareText(int no, char* text)
 {
     if (!CheckComnData(no, nullptr, 0))
         return;
-    ownTexts[static_cast<std::size_t>(no)].reset();
+    OwnText(no).reset();
     ComnData[no].sData = text;
 }
 

@@ -12,12 +12,17 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 
+#pragma pack(push, 1)
+
 /// One cell.
 struct COMNDATA {
     WORD wData;
-    float fData; ///< integers are kept here too, so those beyond 2^24 lose their last digits
-    char* sData; ///< owned by the store, or the text of a message row; null when empty
+    float fData;  ///< integers are kept here too, so those beyond 2^24 lose their last digits
+    LPTSTR sData; ///< owned by the store, or the text of a message row; null when empty
 };
+static_assert(sizeof(COMNDATA) == sizeof(WORD) + sizeof(float) + sizeof(LPTSTR));
+
+#pragma pack(pop)
 
 extern COMNDATA* ComnData;      ///< the cells; to be read only. Null without a code table
 extern std::int32_t PtrnDataNo; ///< number of cells; valid data numbers are 0 to PtrnDataNo - 1
@@ -56,7 +61,7 @@ float Get_fData(int no, const char* file, int line);
 /// @return one static buffer of SIZE_SDATA bytes, overwritten by the next call; empty when the cell has no
 ///         text or the number is outside the store. A text of 256 bytes is cut before the character that
 ///         does not fit
-const char* Get_sData(int no, const char* file, int line);
+LPTSTR Get_sData(int no, const char* file, int line);
 
 /// Writes the word. Like every writing access it does nothing for a number outside the store.
 void Set_wData(int no, WORD value, const char* file, int line);

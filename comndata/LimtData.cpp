@@ -75,18 +75,24 @@ void LoadLimtData()
     LimitArea maximum;
     for (int number = 1; number <= CONT_LIMTDATA; number++) {
         char code[100];
-        LIMTDATA row{};
-        if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siiffii", code, &row.ID_No1, &row.ID_No2,
-                        &minimum.low, &maximum.low, &row.ErrorNo1, &row.ErrorNo2, nullptr) == 0)
+        int offset[2];
+        int error[2];
+        if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siiffii", code, &offset[0], &offset[1],
+                        &minimum.low, &maximum.low, &error[0], &error[1], nullptr) == 0)
             continue;
 
+        LIMTDATA& row = rows.emplace_back();
         code[EucCut(code, SIZE_ID_CODE)] = '\0';
         CopyText(row.ID_Code, code);
-        row.DataNo1 = Resolve(row, row.ID_No1, number);
-        row.DataNo2 = Resolve(row, row.ID_No2, number);
+        row.ID_No1 = offset[0];
+        row.ID_No2 = offset[1];
+        row.DataNo1 = Resolve(row, offset[0], number);
+        row.DataNo2 = Resolve(row, offset[1], number);
         row.MIN_Data = minimum.Value();
         row.MAX_Data = maximum.Value();
-        LimtData[number - 1] = &rows.emplace_back(row);
+        row.ErrorNo1 = error[0];
+        row.ErrorNo2 = error[1];
+        LimtData[number - 1] = &row;
     }
 }
 

@@ -8,6 +8,8 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 
+#pragma pack(push, 1)
+
 /// The limits of a range of data numbers.
 struct LIMTDATA {
     char ID_Code[SIZE_ID_CODE + 2];
@@ -20,6 +22,9 @@ struct LIMTDATA {
     std::int32_t ErrorNo1; ///< message for a value below MIN_Data; 0 none
     std::int32_t ErrorNo2; ///< message for a value above MAX_Data; 0 none
 };
+static_assert(sizeof(LIMTDATA) == 54);
+
+#pragma pack(pop)
 
 extern LIMTDATA* LimtData[CONT_LIMTDATA]; ///< in table order; null where the table has no row
 

@@ -69,12 +69,14 @@ void ExitMesgData()
     std::fill(std::begin(MesgData), std::end(MesgData), nullptr);
 }
 
-const char* Get_MesgData(int no, const char* file, int line)
+LPTSTR Get_MesgData(int no, const char* file, int line)
 {
     if (no >= 1 && no <= CONT_MESGDATA && MesgData[no - 1])
         return MesgData[no - 1]->MesgText;
     LogText("MESGDATA", file, line, "Message No Error [%d]", no);
-    return "";
+    static char none[1];
+    none[0] = '\0';
+    return none;
 }
 
 void Get_MesgData(int no, char* text, const char* file, int line)

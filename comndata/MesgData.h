@@ -8,12 +8,17 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 
+#pragma pack(push, 1)
+
 /// One message.
 struct MESGDATA {
     char ID_Code[SIZE_ID_CODE + 2]; ///< code of the cell the message is bound to; empty for none
     std::int32_t ID_No;             ///< offset within that code
     char MesgText[SIZE_MESGTEXT + 2];
 };
+static_assert(sizeof(MESGDATA) == 128);
+
+#pragma pack(pop)
 
 extern MESGDATA* MesgData[CONT_MESGDATA]; ///< message n is entry n - 1; null when it is not defined
 
@@ -28,7 +33,7 @@ void ExitMesgData();
 /// Text of message 1..500.
 /// @return the text in the table, valid until ExitMesgData; an empty text, logged even when `file` is null,
 ///         for a message that is not defined
-const char* Get_MesgData(int no, const char* file, int line);
+LPTSTR Get_MesgData(int no, const char* file, int line);
 
 /// Copies the text.
 /// @param text  receives it; at least SIZE_MESGTEXT + 2 bytes

@@ -32,6 +32,14 @@ std::int64_t OffsetIn(const PTRNCODE& row, int no)
     return std::int64_t{no} - row.DataNo;
 }
 
+/// The first row, in file order, that fits; null when none does.
+template <typename Fits> const PTRNCODE* FirstRow(Fits fits)
+{
+    const PTRNCODE* const end = PtrnCode + PtrnRecd;
+    const PTRNCODE* const row = std::find_if<const PTRNCODE*>(PtrnCode, end, fits);
+    return row != end ? row : nullptr;
+}
+
 void LogCut(const PTRNCODE& row, std::size_t number, const char* reason)
 {
     LogText("COMNMEM", __FILE__, __LINE__, "PtrnCode: table ends before row %zu [%.*s], count %d: %s", number,
@@ -140,18 +148,16 @@ void ExitCodeData()
 
 const PTRNCODE* FindCode(int no)
 {
-    for (const PTRNCODE& row : rows) {
+    return FirstRow([no](const PTRNCODE& row) {
         const std::int64_t offset = OffsetIn(row, no);
-        if (offset >= 0 && offset < row.DataCount)
-            return &row;
-    }
-    return nullptr;
+        return offset >= 0 && offset < row.DataCount;
+    });
 }
 
 int ConvertDtno(int no, char* name)
 {
     name[0] = '\0';
-    if (!CheckComnData(no, nullptr, 0) || !(PtrnFlag[no] & 1))
+    if (!CheckComnData(no, nullptr, 0) || !PtrnFlag || !(PtrnFlag[no] & 1))
         return 0;
     const PTRNCODE* row = FindCode(no);
     if (!row)
@@ -165,15 +171,15 @@ int ConvertDtno(const char* code, int offset)
 {
     if (!code || !*code)
         return 0;
-    for (const PTRNCODE& row : rows) {
-        const std::size_t length = BoundedLength(row.ID_Code, sizeof row.ID_Code);
-        if (std::strncmp(row.ID_Code, code, length) != 0 || code[length])
-            continue;
-        const std::int64_t no = std::int64_t{row.DataNo} + offset;
-        const bool isInt = no >= std::numeric_limits<int>::min() && no <= std::numeric_limits<int>::max();
-        return offset < row.DataCount && isInt ? static_cast<int>(no) : -1;
-    }
-    return -1;
+    const PTRNCODE* row = FirstRow([code](const PTRNCODE& other) {
+        const std::size_t length = BoundedLength(other.ID_Code, sizeof other.ID_Code);
+        return std::strncmp(other.ID_Code, code, length) == 0 && !code[length];
+    });
+    if (!row || offset >= row->DataCount)
+        return -1;
+    const std::int64_t no = std::int64_t{row->DataNo} + offset;
+    const bool isInt = no >= std::numeric_limits<int>::min() && no <= std::numeric_limits<int>::max();
+    return isInt ? static_cast<int>(no) : -1;
 }
 
 int ConvertPtrn(const char* pattern)

@@ -25,7 +25,7 @@ struct PTRNNAME {
 
 extern PTRNCODE* PtrnCode;     ///< rows in file order; null without any
 extern std::int32_t PtrnRecd;  ///< number of rows
-extern BYTE* PtrnFlag;         ///< one byte for each data number; bit 0: the number has a name and is logged
+extern BYTE* PtrnFlag;         ///< one byte for each data number; bit 0: it has a name and is logged; or null
 extern PTRNNAME* PtrnName;     ///< in the order of the directory; null without any
 extern std::int32_t PtrnCount; ///< number of names
 

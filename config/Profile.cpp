@@ -247,14 +247,14 @@ WORD ProfileReadHex(const char* file, const char* section, const char* key, int 
     return value;
 }
 
-const char* ProfileReadAsc(const char* file, const char* section, const char* key)
+LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key)
 {
     static char text[256];
     ProfileRead(file, section, key, "s", text);
     return text;
 }
 
-const char* ProfileReadAsc(const char* file, const char* section, const char* key, int number)
+LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key, int number)
 {
     static char text[256];
     ProfileRead(file, section, key, number, "s", text);

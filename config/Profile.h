@@ -60,8 +60,8 @@ WORD ProfileReadHex(const char* file, const char* section, const char* key, int 
 
 /// Reads one field as letter s.
 /// @return a text of at most 99 bytes in a buffer of the overload, valid until its next call
-const char* ProfileReadAsc(const char* file, const char* section, const char* key);
-const char* ProfileReadAsc(const char* file, const char* section, const char* key, int number);
+LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key);
+LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key, int number);
 
 /// Writes the number found at the address `value`, not `value` itself: the value takes the place of the
 /// pointer argument of ProfileWrite. 0 therefore writes the key with an empty value; so does an address

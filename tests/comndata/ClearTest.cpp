@@ -188,7 +188,7 @@ TEST_F(Clearing, a_range_with_values_sets_word_float_and_text)
     for (const int no : {10, 11}) {
         EXPECT_EQ(Get_wData(no, nullptr, 0), 7);
         EXPECT_EQ(Get_fData(no, nullptr, 0), 2.5F);
-        EXPECT_EQ(ComnData[no].sData, nullptr);
+        EXPECT_EQ(+ComnData[no].sData, nullptr);
     }
     EXPECT_TRUE(untouched(9));
     EXPECT_TRUE(untouched(12));

@@ -63,8 +63,8 @@ TEST_F(Cells, start_with_zeros_and_no_text)
     ASSERT_EQ(PtrnDataNo, 31);
     for (int no = 0; no < PtrnDataNo; no++) {
         EXPECT_EQ(ComnData[no].wData, 0);
-        EXPECT_EQ(ComnData[no].fData, 0.0F);
-        EXPECT_EQ(ComnData[no].sData, nullptr);
+        EXPECT_EQ(+ComnData[no].fData, 0.0F);
+        EXPECT_EQ(+ComnData[no].sData, nullptr);
     }
 }
 
@@ -99,6 +99,21 @@ TEST_F(Cells, and_every_table_are_gone_after_exit)
     EXPECT_EQ(MesgData[0], nullptr);
     EXPECT_EQ(CheckComnData(5, nullptr, 0), 0);
     ComnDataExit();
+}
+
+TEST_F(CommonData, without_a_code_table_takes_the_cells_it_is_given)
+{
+    project.start();
+    COMNDATA given[3] = {};
+    ComnData = given;
+    PtrnDataNo = 3;
+    Set_iData(2, 7, __FILE__, __LINE__);
+    Set_sData(2, "text", __FILE__, __LINE__);
+    EXPECT_EQ(Get_iData(2, nullptr, 0), 7);
+    EXPECT_STREQ(Get_sData(2, nullptr, 0), "text");
+    EXPECT_THAT(project.messages(), IsEmpty()) << "without flags no number has a name";
+    ComnDataExit();
+    EXPECT_EQ(ComnData, nullptr);
 }
 
 TEST_F(CommonData, without_a_code_table_has_no_cells_and_reads_nothing)
@@ -292,7 +307,7 @@ TEST_F(Cells, are_without_text_after_an_empty_or_null_text)
     for (const char* text : {"", static_cast<const char*>(nullptr)}) {
         Set_sData(5, "text", nullptr, 0);
         Set_sData(5, text, nullptr, 0);
-        EXPECT_EQ(ComnData[5].sData, nullptr);
+        EXPECT_EQ(+ComnData[5].sData, nullptr);
         EXPECT_STREQ(Get_sData(5, nullptr, 0), "");
     }
 }
@@ -333,11 +348,11 @@ TEST_F(Cells, do_not_split_a_two_byte_character_when_a_text_is_cut)
 {
     // 128 characters fill the cell exactly; the reading buffer has no place for the last one.
     Set_sData(5, times(200, "あ").c_str(), nullptr, 0);
-    EXPECT_EQ(ComnData[5].sData, times(128, "あ"));
+    EXPECT_EQ(+ComnData[5].sData, times(128, "あ"));
     EXPECT_EQ(Get_sData(5, nullptr, 0), times(127, "あ"));
 
     Set_sData(5, ("x" + times(200, "あ")).c_str(), nullptr, 0);
-    EXPECT_EQ(ComnData[5].sData, "x" + times(127, "あ"));
+    EXPECT_EQ(+ComnData[5].sData, "x" + times(127, "あ"));
     EXPECT_EQ(Get_sData(5, nullptr, 0), "x" + times(127, "あ"));
 }
 

@@ -81,15 +81,15 @@ TEST_F(Limits, are_the_numbered_keys_of_their_file)
     load("LIMT1=A,3,1,0010,0020,1,2\nLIMT500=B,0,4,1,2,3,4\nLIMT0=A,1,1,1,1,1,1\nLIMT501=A,1,1,1,1,1,1\n");
     ASSERT_NE(LimtData[0], nullptr);
     EXPECT_STREQ(LimtData[0]->ID_Code, "A");
-    EXPECT_EQ(LimtData[0]->ID_No1, 3);
-    EXPECT_EQ(LimtData[0]->ID_No2, 1);
-    EXPECT_EQ(LimtData[0]->DataNo1, 4);
-    EXPECT_EQ(LimtData[0]->DataNo2, 2);
-    EXPECT_EQ(LimtData[0]->ErrorNo1, 1);
-    EXPECT_EQ(LimtData[0]->ErrorNo2, 2);
+    EXPECT_EQ(+LimtData[0]->ID_No1, 3);
+    EXPECT_EQ(+LimtData[0]->ID_No2, 1);
+    EXPECT_EQ(+LimtData[0]->DataNo1, 4);
+    EXPECT_EQ(+LimtData[0]->DataNo2, 2);
+    EXPECT_EQ(+LimtData[0]->ErrorNo1, 1);
+    EXPECT_EQ(+LimtData[0]->ErrorNo2, 2);
     ASSERT_NE(LimtData[499], nullptr);
-    EXPECT_EQ(LimtData[499]->DataNo1, 10);
-    EXPECT_EQ(LimtData[499]->DataNo2, 14);
+    EXPECT_EQ(+LimtData[499]->DataNo1, 10);
+    EXPECT_EQ(+LimtData[499]->DataNo2, 14);
     for (int i = 1; i < 499; i++)
         EXPECT_EQ(LimtData[i], nullptr) << i;
 }
@@ -99,7 +99,7 @@ TEST_F(Limits, are_floats_whose_low_16_bits_are_the_hexadecimal_field)
     load("LIMT1=A,3,1,0010,FFFF,0,0\nLIMT2=A,4,4,12345,abc,0,0\nLIMT3=A,5,5,,,0,0\n");
     EXPECT_EQ(bits(LimtData[0]->MIN_Data), 0x0010U);
     EXPECT_EQ(bits(LimtData[0]->MAX_Data), 0xFFFFU);
-    EXPECT_EQ(LimtData[0]->MAX_Data, limit(0xFFFF));
+    EXPECT_EQ(+LimtData[0]->MAX_Data, limit(0xFFFF));
     EXPECT_EQ(bits(LimtData[1]->MIN_Data), 0x1234U);
     EXPECT_EQ(bits(LimtData[1]->MAX_Data), 0x0ABCU);
     EXPECT_EQ(bits(LimtData[2]->MIN_Data), 0U);
@@ -109,8 +109,8 @@ TEST_F(Limits, are_floats_whose_low_16_bits_are_the_hexadecimal_field)
 TEST_F(Limits, are_0_for_a_decimal_or_negative_field)
 {
     load("LIMT1=A,3,1,1.5,-10,1,2\n");
-    EXPECT_EQ(LimtData[0]->MIN_Data, 0.0F);
-    EXPECT_EQ(LimtData[0]->MAX_Data, 0.0F);
+    EXPECT_EQ(+LimtData[0]->MIN_Data, 0.0F);
+    EXPECT_EQ(+LimtData[0]->MAX_Data, 0.0F);
 }
 
 TEST_F(Limits, are_defined_by_any_field_that_is_not_empty)
@@ -118,7 +118,7 @@ TEST_F(Limits, are_defined_by_any_field_that_is_not_empty)
     load("LIMT1=,,,,,,\nLIMT2=,,,,,,9\nLIMT3=,,,G,,,\n");
     EXPECT_EQ(LimtData[0], nullptr);
     ASSERT_NE(LimtData[1], nullptr);
-    EXPECT_EQ(LimtData[1]->ErrorNo2, 9);
+    EXPECT_EQ(+LimtData[1]->ErrorNo2, 9);
     EXPECT_EQ(LimtData[2], nullptr); // "G" is not hexadecimal, so no field is left
 }
 
@@ -128,12 +128,12 @@ TEST_F(Limits, with_an_unknown_code_or_offset_are_logged_for_each_offset_and_cov
     EXPECT_THAT(logged("LIMTDATA"),
                 ElementsAre("LimtData Error [7 / X / 3]", "LimtData Error [7 / X / 1]",
                             "LimtData Error [8 / A / 99]", "LimtData Error [9 / A / 99]"));
-    EXPECT_EQ(LimtData[6]->DataNo1, -1);
-    EXPECT_EQ(LimtData[6]->DataNo2, -1);
-    EXPECT_EQ(LimtData[7]->DataNo1, -1);
-    EXPECT_EQ(LimtData[7]->DataNo2, 2);
-    EXPECT_EQ(LimtData[8]->DataNo1, 2);
-    EXPECT_EQ(LimtData[8]->DataNo2, -1);
+    EXPECT_EQ(+LimtData[6]->DataNo1, -1);
+    EXPECT_EQ(+LimtData[6]->DataNo2, -1);
+    EXPECT_EQ(+LimtData[7]->DataNo1, -1);
+    EXPECT_EQ(+LimtData[7]->DataNo2, 2);
+    EXPECT_EQ(+LimtData[8]->DataNo1, 2);
+    EXPECT_EQ(+LimtData[8]->DataNo2, -1);
 }
 
 TEST_F(Limits, whose_first_offset_is_unknown_cover_nothing)
@@ -151,8 +151,8 @@ TEST_F(Limits, whose_second_offset_is_unknown_cover_everything_up_to_the_first)
 TEST_F(Limits, with_an_empty_code_cover_only_number_0_which_has_no_limits)
 {
     load("LIMT1=,5,7,1,2,1,2\n");
-    EXPECT_EQ(LimtData[0]->DataNo1, 0);
-    EXPECT_EQ(LimtData[0]->DataNo2, 0);
+    EXPECT_EQ(+LimtData[0]->DataNo1, 0);
+    EXPECT_EQ(+LimtData[0]->DataNo2, 0);
     EXPECT_THAT(covered(), IsEmpty());
     EXPECT_EQ(ChckLimtData(0, 1.0F, nullptr, 0), 1);
     EXPECT_THAT(project.log(), IsEmpty());
@@ -170,8 +170,8 @@ TEST_F(Limits, loaded_at_the_start_cover_nothing_because_the_code_table_comes_la
     project.write("LimtData.prf", "[LIMTDATA]\nLIMT1=A,8,0,0010,0020,1,2\nLIMT2=,0,0,1,1,1,1\n");
     ComnDataInit();
     EXPECT_THAT(logged("LIMTDATA"), ElementsAre("LimtData Error [1 / A / 8]", "LimtData Error [1 / A / 0]"));
-    EXPECT_EQ(LimtData[0]->DataNo1, -1);
-    EXPECT_EQ(LimtData[0]->DataNo2, -1);
+    EXPECT_EQ(+LimtData[0]->DataNo1, -1);
+    EXPECT_EQ(+LimtData[0]->DataNo2, -1);
     EXPECT_THAT(covered(), IsEmpty());
     for (int no = -1; no <= PtrnDataNo; no++)
         EXPECT_EQ(ChckLimtData(no, 1e30F, nullptr, 0), 1) << no;
@@ -200,7 +200,7 @@ TEST_F(Limits, are_replaced_when_they_are_loaded_again)
     load("LIMT1=,1,1,1,1,1,1\nLIMT2=,1,1,1,1,1,1\n");
     load("LIMT2=,5,1,1,1,1,1\n");
     EXPECT_EQ(LimtData[0], nullptr);
-    EXPECT_EQ(LimtData[1]->ID_No1, 5);
+    EXPECT_EQ(+LimtData[1]->ID_No1, 5);
     ExitLimtData();
     EXPECT_EQ(LimtData[1], nullptr);
     ExitLimtData();

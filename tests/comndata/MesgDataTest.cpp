@@ -56,7 +56,7 @@ TEST_F(Messages, are_the_numbered_keys_of_their_file)
     start();
     ASSERT_NE(MesgData[0], nullptr);
     EXPECT_STREQ(MesgData[0]->ID_Code, "CODE");
-    EXPECT_EQ(MesgData[0]->ID_No, 12);
+    EXPECT_EQ(+MesgData[0]->ID_No, 12);
     EXPECT_STREQ(MesgData[0]->MesgText, "text");
     ASSERT_NE(MesgData[499], nullptr);
     EXPECT_STREQ(MesgData[499]->MesgText, "last");
@@ -106,7 +106,7 @@ TEST_F(Messages, are_defined_by_any_field_that_is_not_empty)
     load("MESG1=,,,,\nMESG2=,5,\nMESG3=C\nMESG4=,x,\nMESG5=,,,,fifth\n");
     EXPECT_EQ(MesgData[0], nullptr);
     ASSERT_NE(MesgData[1], nullptr);
-    EXPECT_EQ(MesgData[1]->ID_No, 5);
+    EXPECT_EQ(+MesgData[1]->ID_No, 5);
     EXPECT_STREQ(MesgData[1]->MesgText, "");
     EXPECT_NE(MesgData[2], nullptr);
     EXPECT_EQ(MesgData[3], nullptr); // "x" is no number, so no field is left
@@ -123,7 +123,7 @@ TEST_F(Messages, are_zeroed_rows)
     ASSERT_NE(MesgData[0], nullptr);
     EXPECT_EQ(std::string(MesgData[0]->ID_Code, sizeof expected.ID_Code),
               std::string(expected.ID_Code, sizeof expected.ID_Code));
-    EXPECT_EQ(MesgData[0]->ID_No, 0);
+    EXPECT_EQ(+MesgData[0]->ID_No, 0);
     EXPECT_EQ(std::string(MesgData[0]->MesgText, sizeof expected.MesgText),
               std::string(expected.MesgText, sizeof expected.MesgText));
 }
@@ -224,7 +224,7 @@ TEST_F(Messages, are_bound_to_no_cell_at_the_start_because_the_code_table_comes_
     table("MESG7=A,2,text\nMESG8=,,free\n");
     project.start();
     EXPECT_THAT(logged("MESGDATA"), ElementsAre("MesgData Error [7 / A / 2]"));
-    EXPECT_EQ(ComnData[3].sData, nullptr);
+    EXPECT_EQ(+ComnData[3].sData, nullptr);
     EXPECT_STREQ(Get_MesgData(7, nullptr, 0), "text");
 }
 
@@ -235,7 +235,7 @@ TEST_F(Messages, loaded_after_the_code_table_share_their_text_with_the_cell)
     Set_sData(3, "own", nullptr, 0);
     load("MESG1=A,2,shared\n");
     EXPECT_THAT(project.log(), IsEmpty());
-    EXPECT_EQ(ComnData[3].sData, MesgData[0]->MesgText);
+    EXPECT_EQ(+ComnData[3].sData, MesgData[0]->MesgText);
     EXPECT_STREQ(Get_sData(3, nullptr, 0), "shared");
 }
 
@@ -252,7 +252,7 @@ TEST_F(Messages, that_are_shared_stay_when_the_cell_is_written)
 
     load("MESG1=A,2,shared\n");
     Set_sData(3, ComnData[3].sData, nullptr, 0);
-    EXPECT_NE(ComnData[3].sData, MesgData[0]->MesgText);
+    EXPECT_NE(+ComnData[3].sData, MesgData[0]->MesgText);
     EXPECT_STREQ(Get_sData(3, nullptr, 0), "shared");
     Set_sData(3, nullptr, nullptr, 0);
     EXPECT_STREQ(Get_MesgData(1, nullptr, 0), "shared");
@@ -264,11 +264,11 @@ TEST_F(Messages, that_are_shared_leave_the_cell_when_the_table_goes)
     start();
     load("MESG1=A,2,shared\n");
     ExitMesgData();
-    EXPECT_EQ(ComnData[3].sData, nullptr);
+    EXPECT_EQ(+ComnData[3].sData, nullptr);
     EXPECT_STREQ(Get_sData(3, nullptr, 0), "");
     load("MESG1=A,2,again\n");
     load("MESG1=A,1,moved\n");
-    EXPECT_EQ(ComnData[3].sData, nullptr);
+    EXPECT_EQ(+ComnData[3].sData, nullptr);
     EXPECT_STREQ(Get_sData(2, nullptr, 0), "moved");
 }
 
@@ -278,7 +278,7 @@ TEST_F(Messages, that_are_shared_outlive_the_cells)
     start();
     load("MESG1=A,2,shared\n");
     LoadCodeData();
-    EXPECT_EQ(ComnData[3].sData, nullptr);
+    EXPECT_EQ(+ComnData[3].sData, nullptr);
     EXPECT_STREQ(Get_MesgData(1, nullptr, 0), "shared");
     ExitMesgData();
     load("MESG1=A,2,shared\n");
@@ -311,7 +311,7 @@ TEST_F(Messages, without_a_code_are_not_bound_to_cell_0)
     project.code("A", 5);
     start();
     load("MESG1=,,text\n");
-    EXPECT_EQ(ComnData[0].sData, nullptr);
+    EXPECT_EQ(+ComnData[0].sData, nullptr);
 }
 
 TEST_F(Messages, of_a_number_outside_the_store_are_not_bound)
@@ -321,7 +321,7 @@ TEST_F(Messages, of_a_number_outside_the_store_are_not_bound)
     load("MESG1=FAR,2,x\nMESG2=NEG,2,y\n");
     EXPECT_THAT(project.log(), IsEmpty());
     for (int no = 0; no < PtrnDataNo; no++)
-        EXPECT_EQ(ComnData[no].sData, nullptr);
+        EXPECT_EQ(+ComnData[no].sData, nullptr);
 }
 
 // --- the error line ----------------------------------------------------------------------------------------

@@ -52,6 +52,19 @@ TEST_F(CodeTable, has_rows_of_34_bytes_in_file_order)
     EXPECT_EQ(+PtrnCode[1].DispNo, -8);
 }
 
+TEST_F(CodeTable, is_searched_where_its_pointer_says)
+{
+    load(codeRow("A", 5, 1));
+    PTRNCODE row{"B", 3, 2, 0};
+    PtrnCode = &row;
+    PtrnFlag[4] = 1;
+    EXPECT_EQ(ConvertDtno("A", 0), -1);
+    EXPECT_EQ(ConvertDtno("B", 2), 4);
+    char name[SIZE_DTNONAME];
+    EXPECT_EQ(ConvertDtno(4, name), 1);
+    EXPECT_STREQ(name, "B+2");
+}
+
 TEST_F(CodeTable, makes_one_cell_more_than_its_counts_add_up_to)
 {
     load(codeRow("A", 5, 1) + codeRow("B", 3, 6));

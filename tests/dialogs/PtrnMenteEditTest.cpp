@@ -94,6 +94,16 @@ TEST_F(Maintenance, writes_an_entered_text)
     EXPECT_EQ(text(71), "abc");
 }
 
+TEST_F(Maintenance, edits_the_text_of_the_cell_even_before_it_is_drawn)
+{
+    addCodes(1);
+    open();
+    Set_sData(111, "abc", nullptr, 0);
+    screen().SetDispData2(10); // and no tick between this and the click
+    enter(textX, 1, 0, "x");
+    EXPECT_EQ(text(111), "xabc");
+}
+
 TEST_F(Maintenance, records_an_edit_of_a_logged_number)
 {
     addCodes(1);
@@ -131,8 +141,8 @@ TEST_F(Maintenance, writes_nothing_for_the_other_columns)
         const COMNDATA before = ComnData[first(1) + cell % 10];
         screen().PtrnKeyFunc(XK_Return, 0, &item);
         EXPECT_EQ(word(first(1) + cell % 10), before.wData) << cell;
-        EXPECT_EQ(value(first(1) + cell % 10), before.fData) << cell;
-        EXPECT_EQ(ComnData[first(1) + cell % 10].sData, before.sData) << cell;
+        EXPECT_EQ(value(first(1) + cell % 10), +before.fData) << cell;
+        EXPECT_EQ(+ComnData[first(1) + cell % 10].sData, +before.sData) << cell;
     }
 }
 
