@@ -4,6 +4,7 @@
 #include "app/WireTable.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
+#include "window/FieldText.h"
 #include "window/KeyText.h"
 
 #include <algorithm>
@@ -20,6 +21,9 @@ constexpr WireColumn kSortColumns[] = {
     WIRE_SIZE1,  WIRE_SIZE2, WIRE_SYORI1, WIRE_SYORI2, WIRE_TANSI1, WIRE_TANSI2, WIRE_ZAHYO1, WIRE_ZAHYO2,
 };
 static_assert(sizeof kSortColumns / sizeof kSortColumns[0] == kTableHeadings.count);
+
+/// Mode of Set_Disable. A hidden field is erased whole and takes no key input.
+constexpr int kHide = 1;
 
 constexpr int kAnyState = -1;
 constexpr int kShift = 1;
@@ -53,6 +57,11 @@ int PositionOf(int first, int line)
     return first < 0 || first >= CONT_HAISENDATA ? -1 : first + line;
 }
 
+int Records()
+{
+    return HaisenHedr.datacount;
+}
+
 int CellOf(int column, int line)
 {
     return kTableCell + kTableStride * column + line;
@@ -80,9 +89,9 @@ bool LineUp(Place& place)
 /// One line down, scrolling at the last one. @return false at the table's last line
 bool LineDown(Place& place)
 {
-    if (place.line < std::min(HaisenHedr.datacount, kTableLines) - 1)
+    if (place.line < std::min(Records(), kTableLines) - 1)
         place.line++;
-    else if (place.first < HaisenHedr.datacount - kTableLines)
+    else if (place.first < Records() - kTableLines)
         place.first++;
     else
         return false;
@@ -113,9 +122,9 @@ void ShowLine(int line, int number, const HAISENDATA& wire)
             Set_iData(cell, wire.length, nullptr, 0);
         else
             Set_sData(cell, WireText(wire, column).c_str(), nullptr, 0);
-        Set_Disable(cell, 0, 0, nullptr, 0);
+        Set_Disable(cell, 0, kHide, nullptr, 0);
     }
-    Set_Disable(kTableLineNoCell + line, 0, 0, nullptr, 0);
+    Set_Disable(kTableLineNoCell + line, 0, kHide, nullptr, 0);
 }
 
 void ShowNothing(int line)
@@ -123,7 +132,7 @@ void ShowNothing(int line)
     const auto empty = [](int cell) {
         Set_iData(cell, 0, nullptr, 0);
         Set_sData(cell, nullptr, nullptr, 0);
-        Set_Disable(cell, 1, 0, nullptr, 0);
+        Set_Disable(cell, 1, kHide, nullptr, 0);
     };
     empty(kTableLineNoCell + line);
     for (int column = 0; column < kTableColumns; column++)
@@ -161,6 +170,7 @@ void CHaisenhyo::PtrnMesgFunc(int no)
 
 int CHaisenhyo::PtrnKeyStart(PTRNDATA* item)
 {
+    RefreshFieldText(item);
     const RECT& field = item->Rect;
     int x = Offset.x;
     if (field.left < x)

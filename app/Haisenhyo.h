@@ -17,7 +17,7 @@ class CHaisenhyo : public CPtrnDisp
     /// Stores the shown lines and moves key input on.
     void PtrnKeyFunc(int key, int state, PTRNDATA* item) override;
 
-    /// Shows the lines from a display position on. Lines behind the table's end are empty and disabled.
+    /// Shows the lines from a display position on. Lines behind the table's end are hidden.
     void DispDataSet(int first);
     /// Stores the cells of the shown lines in their records.
     void DispDataGet();

@@ -5,6 +5,7 @@
 #include "app/WireTable.h"
 #include "comndata/ComnData.h"
 #include "pattern/ItemParm.h"
+#include "window/FieldText.h"
 #include "window/KeyText.h"
 
 namespace
@@ -141,6 +142,12 @@ void CPtrnTest3::PtrnMesgFunc(int no)
 }
 
 void CPtrnTest3::PrintHaisenhyo() {}
+
+int CPtrnTest3::PtrnKeyStart(PTRNDATA* item)
+{
+    RefreshFieldText(item);
+    return 1;
+}
 
 void CPtrnTest3::PtrnKeyFunc(int key, int state, PTRNDATA* item)
 {

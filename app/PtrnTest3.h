@@ -11,6 +11,7 @@ class CPtrnTest3 : public CPtrnDisp
     void PtrnInitFunc() override;
     void PtrnExitFunc() override;
     void PtrnMesgFunc(int no) override;
+    int PtrnKeyStart(PTRNDATA* item) override;
     void PtrnKeyFunc(int key, int state, PTRNDATA* item) override;
 
     void InitHaisenhyo();

@@ -6,6 +6,7 @@
 #include "comndata/PtrnCode.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
+#include "window/FieldText.h"
 #include "window/KeyText.h"
 
 #include <limits>
@@ -111,6 +112,32 @@ void CPtrnMente::PtrnTimrFunc()
     SetDispData2(LineNo2);
 }
 
+// Disabling an item blanks the text that it has now; a longer one that was there before would stay.
+void CPtrnMente::PtrnDispFunc(CDraw* draw, int)
+{
+    for (int line = 0; line < kLines; line++) {
+        const bool shown = NumberInLine(line) >= 0;
+        if (!shown && !IsWiped[line])
+            WipeLine(draw, line);
+        IsWiped[line] = !shown;
+    }
+}
+
+void CPtrnMente::WipeLine(CDraw* draw, int line)
+{
+    for (const int column : kDataColumns) {
+        PTRNDATA field;
+        if (!PtrnReadData(column + line, PTRN_CHAR, &field) &&
+            !PtrnReadData(column + line, PTRN_NUMR, &field))
+            continue;
+        // An empty text paints the whole field in its background.
+        field.Type = PTRN_CHAR;
+        field.wData = 0;
+        field.sData[0] = '\0';
+        PtrnData->DispPtrnData(draw, &field, 0);
+    }
+}
+
 void CPtrnMente::PtrnMesgFunc(int no)
 {
     if (IsInColumn(no, kCodeCell)) {
@@ -124,6 +151,12 @@ void CPtrnMente::PtrnMesgFunc(int no)
     } else if (no == kDataBar) {
         SetDispData2(Get_iData(kDataBar, nullptr, 0));
     }
+}
+
+int CPtrnMente::PtrnKeyStart(PTRNDATA* item)
+{
+    RefreshFieldText(item);
+    return 1;
 }
 
 void CPtrnMente::PtrnKeyFunc(int key, int, PTRNDATA* item)

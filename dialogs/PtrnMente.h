@@ -23,8 +23,11 @@ class CPtrnMente : public CPtrnDisp
     void PtrnInitFunc() override;
     /// Refills the list of data numbers, so that the values shown stay live.
     void PtrnTimrFunc() override;
+    /// Wipes the fields of lines that show nothing any more.
+    void PtrnDispFunc(CDraw* draw, int mode) override;
     /// Selects a code, changes a log flag (and writes "PtrnFlag" at once), or moves a list.
     void PtrnMesgFunc(int no) override;
+    int PtrnKeyStart(PTRNDATA* item) override;
     /// Return writes the entered word, number or text to the cell shown in that line.
     void PtrnKeyFunc(int key, int state, PTRNDATA* item) override;
 
@@ -36,4 +39,9 @@ class CPtrnMente : public CPtrnDisp
     /// Fills the list of data numbers. Lines beyond the code's last number are disabled.
     /// @param first  offset of the first line
     void SetDispData2(int first);
+
+  private:
+    bool IsWiped[10] = {}; ///< by line of the list of data numbers
+
+    void WipeLine(CDraw* draw, int line);
 };

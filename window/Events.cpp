@@ -28,12 +28,14 @@ POINT PointOf(double x, double y)
 }
 
 /// The keypad types what is printed on it. Its decimal key is left as it is: only the separator key types
-/// '.'.
-guint TranslateKeypad(guint key)
+/// '.'. With Shift the server gives the tabulator another name; which way it goes is told by the flags.
+guint TranslateKey(guint key)
 {
     if (key >= GDK_KP_0 && key <= GDK_KP_9)
         return '0' + (key - GDK_KP_0);
     switch (key) {
+    case GDK_ISO_Left_Tab:
+        return GDK_Tab;
     case GDK_KP_Enter:
         return GDK_Return;
     case GDK_KP_Multiply:
@@ -151,7 +153,7 @@ int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
     // A modifier key types nothing; its effect comes with the key it modifies.
     if (event->is_modifier)
         return TRUE;
-    ReqKeyEntry(TranslateKeypad(event->keyval), static_cast<unsigned>(Modifiers(event->state)));
+    ReqKeyEntry(TranslateKey(event->keyval), static_cast<unsigned>(Modifiers(event->state)));
     return TRUE;
 }
 

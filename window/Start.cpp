@@ -65,6 +65,18 @@ GtkWidget* NewArea(GtkWidget* top, RECT rect)
     return area;
 }
 
+/// Without a window manager the window shown last lies on top, also of the children that its own init hook
+/// has opened.
+void RaiseChildren(const CPtrnDisp& wnd)
+{
+    for (const CPtrnDisp* child : {wnd.ChildWnd1, wnd.ChildWnd2}) {
+        if (!child || !child->Widget || !child->Widget->window)
+            continue;
+        gdk_window_raise(child->Widget->window);
+        RaiseChildren(*child);
+    }
+}
+
 } // namespace
 
 int Window_Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
@@ -121,4 +133,5 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
     gtk_widget_show(top);
     gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
+    RaiseChildren(*wnd);
 }

@@ -27,7 +27,7 @@ class SampleScreen : public Screen
     static void setText(int no, const std::string& value) { Set_sData(no, value.c_str(), nullptr, 0); }
     static int colorOf(int no) { return word(no) & STATE_COLOR; }
     static bool blinks(int no) { return (word(no) & STATE_FLICKER) != 0; }
-    static bool disabled(int no) { return (word(no) & STATE_DISABLE) != 0; }
+    static bool hidden(int no) { return (word(no) & STATE_HIDDEN) != 0; }
 
     /// Saves the pattern and opens it as the application window.
     void open(const Pattern& pattern)

@@ -108,6 +108,12 @@ class Maintenance : public Screen
     static float value(int no) { return Get_fData(no, nullptr, 0); }
     static WORD word(int no) { return Get_wData(no, nullptr, 0); }
     static std::string text(int no) { return Get_sData(no, nullptr, 0); }
+    static void setCell(int no, WORD word, float value, const std::string& text)
+    {
+        Set_wData(no, word, nullptr, 0);
+        Set_fData(no, value, nullptr, 0);
+        Set_sData(no, text.c_str(), nullptr, 0);
+    }
     static bool disabled(int no) { return (word(no) & STATE_DISABLE) != 0; }
     static int first(int row) { return PtrnCode[row].DataNo; }
 
@@ -149,8 +155,8 @@ class Maintenance : public Screen
     {
         static_assert(TEXT_COLOR4 == CHECK_COLOR); // which is the colour that a Pattern draws them in
         const RECT& place = SystmWnd->WindRect;
-        const int ink = user.picture(place.left + x, place.top + top + line * spacing, 38, 16)
-                            .count(color(TEXT_COLOR4));
+        const int ink =
+            user.picture(place.left + x, place.top + top + line * spacing, 38, 16).count(color(TEXT_COLOR4));
         return ink > 0;
     }
 

@@ -189,6 +189,31 @@ TEST_F(Maintenance, disables_the_lines_beyond_the_code)
     EXPECT_FALSE(word(81) & STATE_HIDDEN);
 }
 
+TEST_F(Maintenance, leaves_no_remains_of_longer_texts_in_the_lines_it_disables)
+{
+    addCodes(1);
+    project.code("SHORT", 2);
+    open();
+    for (int no = 100; no < 110; no++) {
+        setCell(no, 0x0777, 12345.5F, "some long text");
+        PtrnFlag[no] = 1;
+    }
+    tick();
+    for (const int x : {offsetX + 20, flagX, wordX, valueX + 30, textX})
+        EXPECT_TRUE(hasInk(x, 9)) << x;
+    clickLine(codeX, 1);
+    tick();
+    for (const int x : {offsetX, flagX, wordX, valueX, valueX + 30, textX, textX + 40, textX + 80})
+        for (int line = 2; line < lines; line++)
+            EXPECT_FALSE(hasInk(x, line)) << x << ", line " << line;
+    EXPECT_TRUE(hasInk(wordX, 1));
+
+    clickLine(codeX, 0);
+    tick();
+    for (const int x : {offsetX + 20, flagX, wordX, valueX + 30, textX})
+        EXPECT_TRUE(hasInk(x, 9)) << x << ": all are back";
+}
+
 TEST_F(Maintenance, shows_nothing_for_a_code_without_data_numbers)
 {
     project.code("EMPTY", 0);
