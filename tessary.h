@@ -23,6 +23,7 @@
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnData.h"
 #include "pattern/PtrnFile.h"
+#include "pattern/TitleBar.h"
 #include "shell/Clock.h"
 #include "shell/Logfile.h"
 #include "shell/Request.h"

@@ -20,6 +20,10 @@
 #include <gdk/gdk.h>
 #include <memory>
 
+/// Dash lists of line types 1 and 2: pixels on, pixels off.
+extern gint8 dash1[2];
+extern gint8 dash2[2];
+
 class CDraw
 {
   public:

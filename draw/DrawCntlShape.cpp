@@ -9,14 +9,14 @@
 #include <algorithm>
 #include <array>
 
+gint8 dash1[2] = {12, 4};
+gint8 dash2[2] = {4, 2};
+
 namespace
 {
 
 // Where the extra pixels of a thick line or frame go; every other value is centred.
 enum Format { FOMT_INSIDE = 1, FOMT_OUTSIDE = 2 };
-
-gint8 dash1[] = {12, 4};
-gint8 dash2[] = {4, 2};
 
 void SetColor(GdkGC* gc, int colr)
 {

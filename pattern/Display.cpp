@@ -51,6 +51,7 @@ void CPtrnData::DispPtrnData(CDraw* draw)
 
 void CPtrnData::DispPtrnData(CDraw* draw, int top)
 {
+    BuildDrawOrder(); // the records are public: a type or pass may have been changed in place
     const auto [first, last] = PassPlaces(top);
     for (auto place = first; place != last; ++place) {
         PTRNDATA item = PtrnData[place->Recd];

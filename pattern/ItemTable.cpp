@@ -38,7 +38,7 @@ using P = CPtrnData;
 } // namespace
 
 // clang-format off
-constexpr ItemOps TypeTabl[] = {
+constexpr ItemOps ItemTable[] = {
     Row(PTRN_GBOX).disp(&P::DispPtrnData01).cler(&P::ClerPtrnData01).test(&P::TestPtrnData01)
         .press(PressShape),
     Row(PTRN_RECT).disp(&P::DispPtrnData03).cler(&P::ClerPtrnData03).test(&P::TestPtrnData01)
@@ -78,20 +78,20 @@ constexpr std::array<int, CONT_PTRN + 1> Ranks()
     std::array<int, CONT_PTRN + 1> ranks{};
     for (int& rank : ranks)
         rank = -1;
-    for (std::size_t rank = 0; rank < std::size(TypeTabl); ++rank)
-        ranks[static_cast<std::size_t>(TypeTabl[rank].Type)] = static_cast<int>(rank);
+    for (int rank = 0; rank < CONT_PTRN; ++rank)
+        ranks[static_cast<std::size_t>(TypeTabl[rank])] = rank;
     return ranks;
 }
 constexpr std::array<int, CONT_PTRN + 1> ranks = Ranks();
 
 constexpr bool HasEveryType()
 {
-    for (int type = 1; type <= CONT_PTRN; ++type)
-        if (ranks[static_cast<std::size_t>(type)] < 0)
+    for (int rank = 0; rank < CONT_PTRN; ++rank)
+        if (ItemTable[rank].Type != TypeTabl[rank] || ranks[static_cast<std::size_t>(rank) + 1] < 0)
             return false;
     return true;
 }
-static_assert(std::size(TypeTabl) == CONT_PTRN && HasEveryType());
+static_assert(std::size(ItemTable) == CONT_PTRN && HasEveryType());
 
 } // namespace
 
@@ -103,5 +103,5 @@ int ItemRank(int type)
 const ItemOps* FindItemOps(int type)
 {
     const int rank = ItemRank(type);
-    return rank < 0 ? nullptr : &TypeTabl[rank];
+    return rank < 0 ? nullptr : &ItemTable[rank];
 }

@@ -19,9 +19,8 @@ struct ItemOps {
     int (*Step)(const PTRNDATA*, int part) = nullptr;
 };
 
-/// The types in the order in which they are drawn within a pass, so that text lies on top of controls, and
-/// controls on images, lines and shapes.
-extern const ItemOps TypeTabl[CONT_PTRN];
+/// One row per type, in the order of TypeTabl.
+extern const ItemOps ItemTable[CONT_PTRN];
 
 /// Index of a type in TypeTabl, -1 for a number that is no type.
 int ItemRank(int type);

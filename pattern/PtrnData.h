@@ -10,6 +10,13 @@
 
 class CDraw;
 
+/// The order in which the types are drawn within a pass: boxes and shapes, lines, images, scroll controls,
+/// buttons, and text on top. Hit tests go through it backwards.
+inline constexpr int TypeTabl[CONT_PTRN] = {
+    PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LINE, PTRN_BMAP, PTRN_MARK, PTRN_SBAR,
+    PTRN_SPIN, PTRN_BUTN, PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR,
+};
+
 // Times in ticks of 100 ms.
 constexpr int FLIKER_ON = 7;    ///< a blinking item is shown
 constexpr int FLIKER_OFF = 3;   ///< and blanked
@@ -218,9 +225,11 @@ class CPtrnData
     };
     using Places = std::pair<std::vector<Place>::const_iterator, std::vector<Place>::const_iterator>;
 
-    std::vector<Place> DrawOrder; ///< without items of unknown type
+    std::vector<Place> DrawOrder;          ///< without items of unknown type
+    const PTRNDATA* OrderedData = nullptr; ///< the array that DrawOrder was made for
+    std::int32_t OrderedCont = 0;
     void BuildDrawOrder();
-    Places PassPlaces(int pass) const;
-    Places TypePlaces(int pass, int rank) const;
+    Places PassPlaces(int pass);
+    Places TypePlaces(int pass, int rank);
     void ShowPtrnData(CDraw* draw, PTRNDATA* item, int updt);
 };

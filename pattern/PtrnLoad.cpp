@@ -4,16 +4,14 @@
 #include "config/FileCntl.h"
 #include "config/Settings.h"
 #include "pattern/ItemParm.h"
-#include "pattern/ItemTable.h"
 #include "pattern/PtrnData.h"
-#include "pattern/PtrnFile.h"
+#include "pattern/PtrnHedr.h"
 #include "shell/LogText.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
-#include <tuple>
 
 namespace
 {
@@ -74,6 +72,7 @@ class PatternFile
         cutTexts_ += kept < text.size();
     }
 
+    int* cutTexts() { return &cutTexts_; }
     void missingText() { ++missingTexts_; }
 
     /// One line for all texts of a kind, however many there are.
@@ -127,28 +126,6 @@ class TextBlock
     std::string block_;
     std::size_t at_ = 0;
 };
-
-/// Which of three texts is shown in the current language.
-template <typename Text> const Text& InLanguage(const Text& first, const Text& second, const Text& third)
-{
-    return Language == 0 ? first : Language == 1 ? second : third;
-}
-
-template <std::size_t Size> std::string FieldText(const char (&field)[Size])
-{
-    return std::string(field, BoundedLength(field, Size));
-}
-
-PTRNHEDR MakeHeader(PatternFile& file, const HEDRFILE& record)
-{
-    PTRNHEDR header{};
-    std::memcpy(header.Parm1, record.Parm1, sizeof header.Parm1);
-    std::memcpy(header.Parm2, record.Parm2, sizeof header.Parm2);
-    file.copy(header.PtrnName, FieldText(InLanguage(record.PtrnName1, record.PtrnName2, record.PtrnName3)));
-    file.copy(header.LogoName, FieldText(record.LogoName));
-    file.copy(header.BmapName, FieldText(record.BmapName));
-    return header;
-}
 
 PTRNDATA MakeItem(const PTRNFILE& record, int recd)
 {
@@ -205,7 +182,7 @@ int CPtrnData::LoadPtrnData(const char* name)
     HEDRFILE header;
     if (!file.readHeader(&header))
         return 0;
-    PtrnHedr = MakeHeader(file, header);
+    PtrnHedr = ConvertHedr(header, file.cutTexts());
 
     PtrnCont = file.itemCount(header.DataCount);
     if (PtrnCont)
@@ -242,30 +219,4 @@ void CPtrnData::WritePtrnData(const PTRNDATA* item)
     std::memmove(&target, item, sizeof target);
     if (moved)
         BuildDrawOrder();
-}
-
-void CPtrnData::BuildDrawOrder()
-{
-    DrawOrder.clear();
-    for (int i = 0; i < PtrnCont; ++i) {
-        const int rank = ItemRank(PtrnData[i].Type);
-        if (rank >= 0)
-            DrawOrder.push_back({PtrnData[i].Parm[PARM_PASS], rank, i});
-    }
-    std::sort(DrawOrder.begin(), DrawOrder.end(), [](const Place& one, const Place& other) {
-        return std::tie(one.Pass, one.Rank, one.Recd) < std::tie(other.Pass, other.Rank, other.Recd);
-    });
-}
-
-CPtrnData::Places CPtrnData::PassPlaces(int pass) const
-{
-    return {TypePlaces(pass, 0).first, TypePlaces(pass, CONT_PTRN - 1).second};
-}
-
-CPtrnData::Places CPtrnData::TypePlaces(int pass, int rank) const
-{
-    const auto before = [](const Place& one, const Place& other) {
-        return std::tie(one.Pass, one.Rank) < std::tie(other.Pass, other.Rank);
-    };
-    return std::equal_range(DrawOrder.begin(), DrawOrder.end(), Place{pass, rank, 0}, before);
 }

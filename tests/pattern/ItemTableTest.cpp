@@ -24,11 +24,9 @@ using testing::ElementsAre;
 
 TEST(ItemTable, lists_the_types_in_drawing_order)
 {
-    std::vector<int> types;
-    for (const ItemOps& row : TypeTabl)
-        types.push_back(row.Type);
-
-    EXPECT_THAT(types, ElementsAre(1, 3, 4, 5, 2, 12, 13, 14, 15, 9, 10, 11, 6, 7, 8));
+    EXPECT_THAT(TypeTabl, ElementsAre(1, 3, 4, 5, 2, 12, 13, 14, 15, 9, 10, 11, 6, 7, 8));
+    for (int rank = 0; rank < CONT_PTRN; ++rank)
+        EXPECT_EQ(ItemTable[rank].Type, +TypeTabl[rank]);
 }
 
 TEST(ItemTable, finds_every_type_and_nothing_else)
@@ -36,7 +34,7 @@ TEST(ItemTable, finds_every_type_and_nothing_else)
     for (int type = 1; type <= CONT_PTRN; ++type) {
         ASSERT_NE(FindItemOps(type), nullptr) << type;
         EXPECT_EQ(FindItemOps(type)->Type, type);
-        EXPECT_EQ(TypeTabl[ItemRank(type)].Type, type);
+        EXPECT_EQ(+TypeTabl[ItemRank(type)], type);
     }
     for (const int type :
          {0, -1, CONT_PTRN + 1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {

@@ -1,0 +1,38 @@
+// The order in which the items of a pattern are drawn, and tested in reverse.
+#include "pattern/ItemParm.h"
+#include "pattern/ItemTable.h"
+#include "pattern/PtrnData.h"
+
+#include <algorithm>
+#include <tuple>
+
+void CPtrnData::BuildDrawOrder()
+{
+    DrawOrder.clear();
+    for (int i = 0; i < PtrnCont; ++i) {
+        const int rank = ItemRank(PtrnData[i].Type);
+        if (rank >= 0)
+            DrawOrder.push_back({PtrnData[i].Parm[PARM_PASS], rank, i});
+    }
+    std::sort(DrawOrder.begin(), DrawOrder.end(), [](const Place& one, const Place& other) {
+        return std::tie(one.Pass, one.Rank, one.Recd) < std::tie(other.Pass, other.Rank, other.Recd);
+    });
+    OrderedData = PtrnData;
+    OrderedCont = PtrnCont;
+}
+
+CPtrnData::Places CPtrnData::PassPlaces(int pass)
+{
+    return {TypePlaces(pass, 0).first, TypePlaces(pass, CONT_PTRN - 1).second};
+}
+
+CPtrnData::Places CPtrnData::TypePlaces(int pass, int rank)
+{
+    // The members are public: somebody may have put another array in place.
+    if (OrderedData != PtrnData || OrderedCont != PtrnCont)
+        BuildDrawOrder();
+    const auto before = [](const Place& one, const Place& other) {
+        return std::tie(one.Pass, one.Rank) < std::tie(other.Pass, other.Rank);
+    };
+    return std::equal_range(DrawOrder.cbegin(), DrawOrder.cend(), Place{pass, rank, 0}, before);
+}
