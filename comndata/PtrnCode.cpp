@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 PTRNCODE* PtrnCode;
@@ -39,6 +41,42 @@ template <typename Fits> const PTRNCODE* FirstRow(Fits fits)
     const PTRNCODE* const row = std::find_if<const PTRNCODE*>(PtrnCode, end, fits);
     return row != end ? row : nullptr;
 }
+
+std::string CodeOf(const PTRNCODE& row)
+{
+    return {row.ID_Code, BoundedLength(row.ID_Code, sizeof row.ID_Code)};
+}
+
+/// Finds the first row with a code. A search through the rows for each item would make a large pattern over a
+/// large table take minutes to open.
+class CodeIndex
+{
+  public:
+    const PTRNCODE* find(const char* code)
+    {
+        if (table_ != PtrnCode || count_ != PtrnRecd)
+            build();
+        const auto place = rows_.find(code);
+        return place == rows_.end() ? nullptr : PtrnCode + place->second;
+    }
+
+    void clear() { *this = CodeIndex(); }
+
+  private:
+    void build()
+    {
+        rows_.clear();
+        for (std::int32_t i = 0; i < PtrnRecd; i++)
+            rows_.emplace(CodeOf(PtrnCode[i]), i);
+        table_ = PtrnCode;
+        count_ = PtrnRecd;
+    }
+
+    std::unordered_map<std::string, std::int32_t> rows_;
+    const PTRNCODE* table_ = nullptr; ///< the table that the index was made for
+    std::int32_t count_ = 0;
+};
+CodeIndex codeIndex;
 
 void LogCut(const PTRNCODE& row, std::size_t number, const char* reason)
 {
@@ -139,6 +177,7 @@ void ExitCodeData()
     rows = std::vector<PTRNCODE>();
     flags = std::vector<BYTE>();
     names = std::vector<PTRNNAME>();
+    codeIndex.clear();
     PtrnCode = nullptr;
     PtrnRecd = 0;
     PtrnFlag = nullptr;
@@ -171,10 +210,7 @@ int ConvertDtno(const char* code, int offset)
 {
     if (!code || !*code)
         return 0;
-    const PTRNCODE* row = FirstRow([code](const PTRNCODE& other) {
-        const std::size_t length = BoundedLength(other.ID_Code, sizeof other.ID_Code);
-        return std::strncmp(other.ID_Code, code, length) == 0 && !code[length];
-    });
+    const PTRNCODE* row = codeIndex.find(code);
     if (!row || offset >= row->DataCount)
         return -1;
     const std::int64_t no = std::int64_t{row->DataNo} + offset;
