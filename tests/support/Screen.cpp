@@ -234,13 +234,21 @@ std::uint32_t Screen::pixel(const CPtrnDisp* wnd, int x, int y)
 
 std::uint32_t Screen::bufferPixel(const CPtrnDisp* wnd, int x, int y)
 {
-    GdkPixbuf* pixbuf =
-        gdk_pixbuf_get_from_drawable(nullptr, wnd->Pixmap, gdk_colormap_get_system(), x, y, 0, 0, 1, 1);
-    const guchar* rgb = gdk_pixbuf_get_pixels(pixbuf);
-    const std::uint32_t value = static_cast<std::uint32_t>(rgb[0]) << 16 |
-                                static_cast<std::uint32_t>(rgb[1]) << 8 | static_cast<std::uint32_t>(rgb[2]);
+    return bufferPicture(wnd, x, y, 1, 1).at(0, 0);
+}
+
+Picture Screen::bufferPicture(const CPtrnDisp* wnd, int x, int y, int width, int height)
+{
+    GdkPixbuf* pixbuf = gdk_pixbuf_get_from_drawable(nullptr, wnd->Pixmap, gdk_colormap_get_system(), x, y, 0,
+                                                     0, width, height);
+    Picture picture(width, height, 0);
+    for (int row = 0; row < height; row++) {
+        const guchar* rgb = gdk_pixbuf_get_pixels(pixbuf) + row * gdk_pixbuf_get_rowstride(pixbuf);
+        for (int column = 0; column < width; column++, rgb += gdk_pixbuf_get_n_channels(pixbuf))
+            picture.set(column, row, static_cast<std::uint32_t>(rgb[0] << 16 | rgb[1] << 8 | rgb[2]));
+    }
     g_object_unref(pixbuf);
-    return value;
+    return picture;
 }
 
 Calls Screen::callsOf(std::initializer_list<const char*> names) const

@@ -93,8 +93,9 @@ class Screen : public testing::Test
 
     /// A pixel of a window as it is on the screen.
     std::uint32_t pixel(const CPtrnDisp* wnd, int x, int y);
-    /// A pixel of its back buffer, by pattern coordinates.
+    /// Its back buffer, by pattern coordinates.
     static std::uint32_t bufferPixel(const CPtrnDisp* wnd, int x, int y);
+    static Picture bufferPicture(const CPtrnDisp* wnd, int x, int y, int width, int height);
 
     /// Those of the calls that begin with one of the names, in order; all others are left out.
     Calls callsOf(std::initializer_list<const char*> names) const;
