@@ -21,7 +21,7 @@ namespace
 
 // What ComnData points at. The texts that the cells own stand beside them, by data number: a cell whose
 // `sData` is not its own text shares the text of a message row, which is not to be freed with the cell.
-// Their places are made with the first text.
+// Before the first text is written there are no own ones.
 std::vector<COMNDATA> cells;
 std::vector<std::unique_ptr<char[]>> ownTexts;
 

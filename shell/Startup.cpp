@@ -71,7 +71,6 @@ void TessaryExit()
     ComnDataExit();
     LogfileWrite("", "システム停止", nullptr, 0);
     LogfileExit();
-    DeleteRetiredWnd(0);
 }
 
 void TessaryTimr()
