@@ -197,7 +197,7 @@ const Case screenCases[] = {
      ":2: 'title' must be one text, or a list of two or three in the order of the languages."},
     {"unknown_key", "name: a\nitem: []\n",
      ":2: unknown 'item'. Did you mean 'items'? A screen has name, title, logo, background, window, styles, "
-     "items."},
+     "groups, items."},
     {"logo_that_is_not_there", "name: a\nlogo: x.png\n",
      ":2: 'logo': no file 'x.png' in 'bitmaps'. Put it there or correct the name."},
     {"background_too_long", "name: a\nbackground: 123456789_1234567.png\n",

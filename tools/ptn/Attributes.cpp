@@ -1,7 +1,5 @@
 #include "tools/ptn/Attributes.h"
 
-#include <limits>
-
 Attributes::Attributes(std::vector<SchemaTable<ParmSchema>> parms, std::int32_t* values,
                        const Resources& resources, Diagnostics& diagnostics)
     : parms_(std::move(parms)), values_(values), resources_(resources), diagnostics_(diagnostics)
@@ -35,22 +33,6 @@ void Attributes::apply(const Layer& layer)
         for (const Entry& entry : layer.entries)
             if (const ParmSchema* parm = find(entry.name); parm && (parm->kind == ParmKind::Flag) == flags)
                 set(*parm, entry, layer.label);
-}
-
-void Attributes::applyRaw(const Source& source, const std::string& label)
-{
-    const std::string what = label + ": 'parm'";
-    for (const Entry& entry : Entries(source, what, diagnostics_)) {
-        const std::optional<int> index = ParseInteger(entry.name);
-        if (!index || *index < 0 || *index >= CONT_PARM) {
-            diagnostics_.error(entry.place, what + " has no entry " + Quoted(entry.name) +
-                                                ". Write the number of a parameter, from 0 to 29.");
-            continue;
-        }
-        if (const auto number = Integer(entry.value, std::numeric_limits<int>::min(),
-                                        std::numeric_limits<int>::max(), what, diagnostics_))
-            values_[*index] = *number;
-    }
 }
 
 void Attributes::set(const ParmSchema& parm, const Entry& entry, const std::string& label)

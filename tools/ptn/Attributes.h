@@ -33,9 +33,6 @@ class Attributes
     /// A value sets the flag that enables it, "none" clears it; a flag of the same layer has the last word.
     void apply(const Layer& layer);
 
-    /// Entries without a name, "parm: {index: value}".
-    void applyRaw(const Source& source, const std::string& label);
-
   private:
     void set(const ParmSchema& parm, const Entry& entry, const std::string& label);
     std::optional<int> value(const ParmSchema& parm, const Source& source, const std::string& what);

@@ -25,11 +25,35 @@ OutputFiles ProjectFiles(const ProjectSource& project, const std::vector<Pattern
     files["PtrnCode"] = project.codes.bytes();
     files["PtrnColr"] = project.resources.colorBytes();
     files["PtrnMark"] = project.resources.markBytes();
+    if (!project.messages.empty())
+        files["MesgData.prf"] = project.messages.bytes();
+    if (!project.limits.empty())
+        files["LimtData.prf"] = project.limits.bytes();
     for (const auto& bitmap : project.bitmaps)
         files["Bitmap/" + bitmap.first] = bitmap.second;
     for (const Pattern& pattern : patterns)
         files[pattern.name + ".ptn"] = PatternBytes(pattern);
     return files;
+}
+
+// Files that the program writes itself once it runs.
+OutputFiles Seeds(const ProjectSource& project)
+{
+    OutputFiles seeds;
+    if (project.flags.given())
+        seeds["PtrnFlag"] = project.flags.bytes(project.codes);
+    if (project.wiring.given())
+        seeds["Haisenhyo"] = project.wiring.bytes();
+    return seeds;
+}
+
+// The program does not look for these tables where its profile says that the project is.
+void CheckTablePlace(const ProjectSource& project, const fs::path& folder, Diagnostics& diagnostics)
+{
+    if (folder.filename() != "ProjPath" && (!project.messages.empty() || !project.limits.empty()))
+        diagnostics.warning({folder.string(), 0},
+                            "the program reads messages and limits from a folder 'ProjPath' beside which it "
+                            "is started. Call the output ProjPath.");
 }
 
 } // namespace
@@ -55,10 +79,11 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     const std::string profileBytes =
         project.profile.bytes(folder.parent_path().string(), folder.filename().string(), project.resources,
                               ReadBytes(profile).value_or(""), diagnostics);
+    CheckTablePlace(project, folder, diagnostics);
     if (diagnostics.failed())
         return std::nullopt;
     try {
-        return WriteOutput(folder, ProjectFiles(project, patterns), profile, profileBytes);
+        return WriteOutput(folder, ProjectFiles(project, patterns), Seeds(project), profile, profileBytes);
     } catch (const fs::filesystem_error& problem) {
         diagnostics.error({problem.path1().string(), 0},
                           problem.code().message() + ". Check the folder's rights and space.");

@@ -6,8 +6,11 @@
 #include "comndata/PtrnCode.h"
 #include "tools/ptn/Bytes.h"
 #include "tools/ptn/EucName.h"
+#include "tools/ptn/YamlText.h"
 
 #include <algorithm>
+#include <cstring>
+#include <limits>
 
 namespace
 {
@@ -15,12 +18,26 @@ namespace
 /// The last cell that the store can have.
 constexpr int LAST_CELL = CONT_COMNDATA - 1;
 
+// The sum of "+1+2"; none when something else stands there.
+std::optional<int> Offset(const std::string& text)
+{
+    long long sum = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find('+', at + 1), text.size());
+        const std::optional<int> part = ParseInteger(text.substr(at + 1, end - at - 1));
+        if (!part || *part < 0 || (sum += *part) > LAST_CELL)
+            return std::nullopt;
+        at = end;
+    }
+    return static_cast<int>(sum);
+}
+
 } // namespace
 
 std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, Diagnostics& diagnostics) const
 {
     const std::string what = "code " + Quoted(entry.name);
-    Row row{entry.name, "", next, 0, entry.place};
+    Row row{entry.name, "", next, 0, entry.place, 0};
     if (entry.name.empty() || ParseInteger(entry.name) || entry.name.find('+') != std::string::npos) {
         diagnostics.error(entry.place,
                           what + " could be taken for a cell. Write a name that is neither empty nor a "
@@ -43,9 +60,13 @@ std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, D
                 if (!first)
                     return std::nullopt;
                 row.first = *first;
+            } else if (part.name == "line") {
+                row.line = Integer(part.value, std::numeric_limits<int>::min(),
+                                   std::numeric_limits<int>::max(), what + ": 'line'", diagnostics)
+                               .value_or(0);
             } else {
                 diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                                  Suggestion(part.name, {"first", "count"}) +
+                                                  Suggestion(part.name, {"first", "count", "line"}) +
                                                   " Write 'first' and 'count'.");
             }
         }
@@ -112,9 +133,14 @@ void CodeTable::checkCover(const Place& section, Diagnostics& diagnostics) const
 std::optional<CodeTable::Cell> CodeTable::find(const Source& source, const std::string& attribute,
                                                Diagnostics& diagnostics) const
 {
-    const std::string text = source.text();
+    return find(source.text(), attribute, source.place(), diagnostics);
+}
+
+std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const std::string& attribute,
+                                               const Place& place, Diagnostics& diagnostics) const
+{
     const auto complain = [&](const std::string& what) {
-        diagnostics.error(source.place(), attribute + ": " + what);
+        diagnostics.error(place, attribute + ": " + what);
         return std::nullopt;
     };
 
@@ -125,9 +151,8 @@ std::optional<CodeTable::Cell> CodeTable::find(const Source& source, const std::
         return complain("no code covers cell " + text + ". Use a cell of 'codes' or extend it.");
     }
 
-    const std::size_t plus = text.rfind('+');
-    const std::string name = text.substr(0, plus);
-    const std::optional<int> offset = plus == std::string::npos ? 0 : ParseInteger(text.substr(plus + 1));
+    const std::string name = text.substr(0, text.find('+'));
+    const std::optional<int> offset = Offset(text.substr(name.size()));
     if (name.empty() || !offset || *offset < 0)
         return complain("write a code with the number of its cell, such as SPEED+0, or a cell number.");
     for (const Row& row : rows_) {
@@ -154,7 +179,71 @@ std::string CodeTable::bytes() const
         CopyText(record.ID_Code, row.code.c_str());
         record.DataCount = row.count;
         record.DataNo = row.first;
+        record.DispNo = row.line;
         AppendRecord(bytes, record);
     }
     return bytes;
+}
+
+void CodeTable::load(const std::string& bytes, const Place& place, Diagnostics& diagnostics)
+{
+    if (bytes.size() % sizeof(PTRNCODE))
+        diagnostics.warning(place, "its last " + std::to_string(bytes.size() % sizeof(PTRNCODE)) +
+                                       " bytes are no whole record and are left out.");
+    for (std::size_t at = 0; at + sizeof(PTRNCODE) <= bytes.size(); at += sizeof(PTRNCODE)) {
+        PTRNCODE record;
+        std::memcpy(&record, bytes.data() + at, sizeof record);
+        Row row;
+        row.code.assign(record.ID_Code, BoundedLength(record.ID_Code, sizeof record.ID_Code));
+        row.name = EucToUtf8(row.code);
+        row.first = record.DataNo;
+        row.count = record.DataCount;
+        row.line = record.DispNo;
+        row.place = place;
+        rows_.push_back(row);
+    }
+}
+
+const CodeTable::Row* CodeTable::row(const std::string& code) const
+{
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) { return row.code == code; });
+    return found == rows_.end() ? nullptr : &*found;
+}
+
+int CodeTable::cells() const
+{
+    long long cells = 1;
+    for (const Row& row : rows_)
+        cells += std::max(row.count, 0);
+    return static_cast<int>(std::min<long long>(cells, CONT_COMNDATA));
+}
+
+std::string CodeTable::nameOf(int cell) const
+{
+    for (const Row& row : rows_)
+        if (row.first <= cell && cell - row.first < row.count)
+            return row.name + "+" + std::to_string(cell - row.first);
+    return "";
+}
+
+std::string CodeTable::yaml() const
+{
+    if (rows_.empty())
+        return "";
+    std::string text = "codes:\n";
+    int next = 1;
+    for (const Row& row : rows_) {
+        std::vector<std::string> parts;
+        if (row.first != next)
+            parts.push_back("first: " + std::to_string(row.first));
+        parts.push_back("count: " + std::to_string(row.count));
+        if (row.line)
+            parts.push_back("line: " + std::to_string(row.line));
+        const bool plain = parts.size() == 1;
+        text += "  " + YamlScalar(row.name) + ": " + (plain ? std::to_string(row.count) : YamlMap(parts)) +
+                " # from cell " + std::to_string(row.first) + "\n";
+        next = row.first + row.count;
+    }
+    return text;
 }

@@ -2,38 +2,34 @@
 
 #include "pattern/ItemParm.h"
 #include "tools/ptn/EucName.h"
+#include "tools/ptn/Exact.h"
 #include "tools/ptn/Placement.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace
 {
 
-const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   "size",  "text",
-                                           "action", "pattern", "data", "parm", "repeat"};
+const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   "size",   "text",
+                                           "action", "pattern", "data", "parm", "repeat", "exact"};
 
-/// Copies that "repeat" makes of an item.
-struct Repeat {
-    int count = 1;
-    int dx = 0;
-    int dy = 0;
-    int data = 1; ///< cells from one copy to the next
-};
+/// A type that only its number names has no attributes but the common ones.
+const ItemSchema unknownType = {0, "item of an unknown type", ItemText::None, {}, ""};
 
 class ItemReader
 {
   public:
-    ItemReader(const ItemContext& context, const ItemSchema& schema, std::string label, const Source& source)
+    ItemReader(const ItemContext& context, int type, const ItemSchema& schema, std::string label,
+               const Source& source)
         : project_(context.project), styles_(context.styles), diagnostics_(context.diagnostics),
           schema_(schema), label_(std::move(label)),
           attributes_({schema.parms, CommonParms()}, item_.record.Parm, project_.resources, diagnostics_)
     {
-        item_.record.Type = schema.type;
+        item_.record.Type = type;
         item_.place = source.place();
     }
 
-    std::vector<PatternItem> read(const std::vector<Entry>& entries);
+    std::optional<PatternItem> read(const std::vector<Entry>& entries);
 
   private:
     std::string what(const char* key) const { return label_ + ": " + Quoted(key); }
@@ -43,9 +39,7 @@ class ItemReader
     void readKey(const Entry& entry);
     void readTexts(const Source& source, const Place& place);
     void readAction(const Source& source);
-    void readRepeat(const Source& source);
     bool checkAction() const;
-    std::vector<PatternItem> copies() const;
 
     const ProjectSource& project_;
     const Styles& styles_;
@@ -55,8 +49,6 @@ class ItemReader
     PatternItem item_;
     Attributes attributes_;
     Placement placement_;
-    Repeat repeat_;
-    int cells_ = 0; ///< cells of the item's code
 };
 
 void ItemReader::applyStyle(const std::string& name, bool named, const Place& place)
@@ -129,7 +121,7 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
     // Last, because nothing else can say what these mean.
     for (const Entry& entry : entries)
         if (entry.name == "parm")
-            attributes_.applyRaw(entry.value, label_);
+            ReadParm(entry.value, label_, item_.record.Parm, diagnostics_);
 }
 
 void ItemReader::readKey(const Entry& entry)
@@ -147,10 +139,7 @@ void ItemReader::readKey(const Entry& entry)
         if (const auto cell = project_.codes.find(entry.value, what("data"), diagnostics_)) {
             item_.code = cell->code;
             item_.record.ID_No = cell->offset;
-            cells_ = cell->count;
         }
-    } else if (entry.name == "repeat") {
-        readRepeat(entry.value);
     } else if (entry.name == "rect" || entry.name == "at" || entry.name == "size") {
         placement_.read(entry, label_, diagnostics_);
     }
@@ -190,27 +179,6 @@ void ItemReader::readAction(const Source& source)
     }
 }
 
-void ItemReader::readRepeat(const Source& source)
-{
-    const std::string label = what("repeat");
-    for (const Entry& entry : Entries(source, label, diagnostics_)) {
-        if (entry.name == "count") {
-            repeat_.count = Integer(entry.value, 1, 1000, label + " 'count'", diagnostics_).value_or(1);
-        } else if (entry.name == "step") {
-            if (const auto step = Integers(entry.value, 2, label + " 'step'", diagnostics_)) {
-                repeat_.dx = (*step)[0];
-                repeat_.dy = (*step)[1];
-            }
-        } else if (entry.name == "data") {
-            repeat_.data = Integer(entry.value, 0, 1000, label + " 'data'", diagnostics_).value_or(1);
-        } else {
-            diagnostics_.error(entry.place, label + ": unknown " + Quoted(entry.name) + "." +
-                                                Suggestion(entry.name, {"count", "step", "data"}) +
-                                                " Write 'count', 'step' and 'data'.");
-        }
-    }
-}
-
 bool ItemReader::checkAction() const
 {
     const ActionSchema* action = FindAction(item_.record.ID_Type);
@@ -221,56 +189,27 @@ bool ItemReader::checkAction() const
     return false;
 }
 
-std::vector<PatternItem> ItemReader::copies() const
-{
-    const int last = item_.record.ID_No + (repeat_.count - 1) * repeat_.data;
-    if (!item_.code.empty() && last >= cells_) {
-        diagnostics_.error(item_.place, what("repeat") + " ends with cell +" + std::to_string(last) +
-                                            " of a code of " + std::to_string(cells_) +
-                                            " cells. Repeat less, or extend the code.");
-        return {};
-    }
-    const std::int32_t* parm = item_.record.Parm;
-    if (!Placement::reaches(parm, (repeat_.count - 1LL) * repeat_.dx, (repeat_.count - 1LL) * repeat_.dy)) {
-        diagnostics_.error(item_.place,
-                           label_ + " with its repetitions reaches beyond the coordinates, which go from "
-                                    "-32768 to 32767. Repeat less or in smaller steps.");
-        return {};
-    }
-    std::vector<PatternItem> items(static_cast<std::size_t>(repeat_.count), item_);
-    for (int copy = 0; copy < repeat_.count; ++copy) {
-        PTRNFILE& record = items[static_cast<std::size_t>(copy)].record;
-        record.Parm[PARM_X1] += copy * repeat_.dx;
-        record.Parm[PARM_Y1] += copy * repeat_.dy;
-        record.Parm[PARM_X2] += copy * repeat_.dx;
-        record.Parm[PARM_Y2] += copy * repeat_.dy;
-        if (!item_.code.empty())
-            record.ID_No += copy * repeat_.data;
-    }
-    return items;
-}
-
-std::vector<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
+std::optional<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
 {
     applyStyles(entries);
     applyOwn(entries);
-    const bool placed = placement_.finish(item_, schema_, project_.resources, label_, diagnostics_);
+    const auto exact = std::find_if(entries.begin(), entries.end(),
+                                    [](const Entry& entry) { return entry.name == "exact"; });
+    const bool placed = exact != entries.end() && HasExactRect(exact->value)
+                            ? true
+                            : placement_.finish(item_, schema_, project_.resources, label_, diagnostics_);
     if (!checkAction() || !placed)
-        return {};
-    return copies();
+        return std::nullopt;
+    if (exact != entries.end())
+        ReadExactItem(exact->value, label_, item_, diagnostics_);
+    return item_;
 }
 
 } // namespace
 
-std::vector<PatternItem> ReadItem(const Source& source, int number, const ItemContext& context)
+std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries,
+                                    std::string& label, const ItemContext& context)
 {
-    std::string label = "item " + std::to_string(number);
-    const std::vector<Entry> entries = Entries(source, label, context.diagnostics);
-    if (source.isEmpty()) {
-        context.diagnostics.error(source.place(),
-                                  label + " is empty. Write its type and attributes, or remove it.");
-        return {};
-    }
     const auto type =
         std::find_if(entries.begin(), entries.end(), [](const Entry& entry) { return entry.name == "type"; });
     std::vector<std::string> names;
@@ -282,15 +221,18 @@ std::vector<PatternItem> ReadItem(const Source& source, int number, const ItemCo
     if (type == entries.end()) {
         if (source.isMap())
             context.diagnostics.error(source.place(), label + " has no 'type'. Write one of: " + list + ".");
-        return {};
+        return std::nullopt;
     }
-    const ItemSchema* schema = FindItemSchema(type->value.text().c_str());
+    const std::string name = type->value.text();
+    const std::optional<int> number = ParseInteger(name);
+    const ItemSchema* schema = number ? FindItemSchema(*number) : FindItemSchema(name.c_str());
+    if (!schema && number)
+        schema = &unknownType;
     if (!schema) {
-        context.diagnostics.error(type->place, label + ": no type " + Quoted(type->value.text()) + "." +
-                                                   Suggestion(type->value.text(), names) +
-                                                   " Write one of: " + list + ".");
-        return {};
+        context.diagnostics.error(type->place, label + ": no type " + Quoted(name) + "." +
+                                                   Suggestion(name, names) + " Write one of: " + list + ".");
+        return std::nullopt;
     }
     label += " (" + std::string(schema->name) + ")";
-    return ItemReader(context, *schema, label, source).read(entries);
+    return ItemReader(context, number ? *number : schema->type, *schema, label, source).read(entries);
 }

@@ -1,18 +1,22 @@
-// Items of a screen: from one entry of "items" to records of the pattern file.
+// One item of a screen: from its entry in the sources to a record of the pattern file.
 #pragma once
 
+#include "tools/ptn/Groups.h"
 #include "tools/ptn/Pattern.h"
 #include "tools/ptn/ProjectSource.h"
 
-#include <vector>
+#include <optional>
 
-/// What reading an item needs to know.
+/// What reading items needs to know.
 struct ItemContext {
     const ProjectSource& project;
     const Styles& styles; ///< the screen's own, over those of the project
+    const Groups& groups; ///< the screen's own, over those of the project
     Diagnostics& diagnostics;
 };
 
-/// Reads one item; with "repeat" it becomes several.
-/// @param number  place in the list, from 1, for messages
-std::vector<PatternItem> ReadItem(const Source& source, int number, const ItemContext& context);
+/// Reads an item that has a type. "repeat" is left to the caller.
+/// @param label  how messages call it, such as "item 3"; the type is added to it
+/// @return none, with errors reported, when the item can not be made
+std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries,
+                                    std::string& label, const ItemContext& context);

@@ -39,3 +39,23 @@ void ReadMarkArt(const std::string& art, SIZE size, const std::string& what, con
         }
     }
 }
+
+std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size)
+{
+    const int pixels = size.cx * size.cy;
+    const auto isSet = [&](int bit) { return (mark.mark[bit / 8] >> bit % 8 & 1) != 0; };
+    for (int bit = pixels; bit < 8 * SIZE_MARK; ++bit)
+        if (isSet(bit))
+            return std::nullopt;
+    std::string art;
+    std::size_t end = 0;
+    for (int bit = 0; bit < pixels; ++bit) {
+        art += isSet(bit) ? 'X' : '.';
+        if (bit % size.cx == size.cx - 1) {
+            art += '\n';
+            if (art.find('X', end) != std::string::npos)
+                end = art.size();
+        }
+    }
+    return art.substr(0, end);
+}

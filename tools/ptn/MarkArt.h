@@ -5,6 +5,7 @@
 #include "draw/Resource.h"
 #include "tools/ptn/Diagnostics.h"
 
+#include <optional>
 #include <string>
 
 /// Reads a picture of `size` pixels: one line per row, "." or a blank for background, "X" or "#" for
@@ -12,3 +13,6 @@
 /// letter are reported.
 void ReadMarkArt(const std::string& art, SIZE size, const std::string& what, const Place& place,
                  MARKDATA& mark, Diagnostics& diagnostics);
+
+/// The reverse, with the blank rows at its end left out. None when bits are set that no pixel shows.
+std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size);

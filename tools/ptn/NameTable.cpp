@@ -1,5 +1,7 @@
 #include "tools/ptn/NameTable.h"
 
+#include <algorithm>
+
 void NameTable::add(const std::string& name, int number)
 {
     numbers_.emplace(name, number);
@@ -37,21 +39,27 @@ namespace
 {
 
 // The number and the value of an entry, whichever of the two forms it has.
-std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::string& key, int next,
-                                       const NameTable& table, Diagnostics& diagnostics)
+std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std::string>& keys, int next,
+                                       const NameTable& table, Diagnostics& diagnostics,
+                                       const std::vector<std::string>& extras)
 {
+    const std::string& key = keys.front();
     const std::string what = std::string(table.what()) + " " + Quoted(entry.name);
-    NumberedEntry read{entry.name, next, entry.place, entry.value};
+    NumberedEntry read{entry.name, next, entry.place, key, entry.value, {}};
     if (entry.value.isMap()) {
         read.value = Source();
         for (const Entry& part : Entries(entry.value, what, diagnostics)) {
-            if (part.name == key) {
+            if (std::find(keys.begin(), keys.end(), part.name) != keys.end()) {
+                read.key = part.name;
                 read.value = part.value;
             } else if (part.name == "no") {
-                const auto number = Integer(part.value, 0, table.limit() - 1, what + ": 'no'", diagnostics);
+                const auto number =
+                    Integer(part.value, table.first(), table.limit() - 1, what + ": 'no'", diagnostics);
                 if (!number)
                     return std::nullopt;
                 read.number = *number;
+            } else if (std::find(extras.begin(), extras.end(), part.name) != extras.end()) {
+                read.extras[part.name] = part.value;
             } else {
                 diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
                                                   Suggestion(part.name, {"no", key}) + " Write 'no' and " +
@@ -76,18 +84,20 @@ std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::string& ke
 
 } // namespace
 
-std::vector<NumberedEntry> NumberedEntries(const Source& section, const std::string& key, NameTable& table,
-                                           Diagnostics& diagnostics)
+std::vector<NumberedEntry> NumberedEntries(const Source& section, const std::vector<std::string>& keys,
+                                           NameTable& table, Diagnostics& diagnostics,
+                                           const std::vector<std::string>& extras)
 {
     std::vector<NumberedEntry> read;
-    int next = 0;
+    int next = table.first();
     for (const Entry& entry : Entries(section, Quoted(std::string(table.what()) + "s"), diagnostics)) {
         const std::string what = std::string(table.what()) + " " + Quoted(entry.name);
         if (ParseInteger(entry.name) || entry.name == "none") {
             diagnostics.error(entry.place, what + " could be taken for a number. Choose another name.");
             continue;
         }
-        const std::optional<NumberedEntry> numbered = ReadEntry(entry, key, next, table, diagnostics);
+        const std::optional<NumberedEntry> numbered =
+            ReadEntry(entry, keys, next, table, diagnostics, extras);
         if (!numbered)
             continue;
         next = numbered->number + 1;

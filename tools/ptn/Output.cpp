@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <sstream>
 
@@ -15,6 +16,18 @@ namespace
 /// Lists what the build has written, one path per line, so that the next one can tell its own old files
 /// from those of others.
 const char* const listName = ".ptn-files";
+
+/// What the build has made of files that the program goes on writing: a check sum and the name per line.
+const char* const seedListName = ".ptn-seeds";
+
+// FNV-1a: it only has to tell whether sources have changed.
+std::string CheckSum(const std::string& bytes)
+{
+    std::uint64_t sum = 0xCBF29CE484222325;
+    for (const char byte : bytes)
+        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+    return std::to_string(sum);
+}
 
 // A list that was tampered with must not lead out of the folder.
 bool StaysInside(const fs::path& name)
@@ -74,8 +87,8 @@ int Staging::moveIn()
     return static_cast<int>(names_.size());
 }
 
-OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const fs::path& profile,
-                         const std::string& profileBytes)
+OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const OutputFiles& seeds,
+                         const fs::path& profile, const std::string& profileBytes)
 {
     // The folder itself may be a link to another file system; files can only be moved within one.
     const fs::path place = fs::weakly_canonical(folder);
@@ -89,11 +102,21 @@ OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const
         project.add(file.first, file.second);
     }
     project.add(listName, list);
+    const std::string seedsBefore = ReadBytes(place / seedListName).value_or("");
+    std::string seedList;
+    for (const auto& seed : seeds) {
+        const std::string line = CheckSum(seed.second) + " " + seed.first + "\n";
+        seedList += line;
+        if (seedsBefore.find(line) == std::string::npos || !ReadBytes(place / seed.first))
+            project.add(seed.first, seed.second);
+    }
+    if (!seedList.empty())
+        project.add(seedListName, seedList);
     beside.add(profile.filename().string(), profileBytes);
 
     const std::string before = ReadBytes(place / listName).value_or("");
     OutputReport report;
-    report.files = static_cast<int>(files.size()) + 2; // and the list, and the profile
+    report.files = static_cast<int>(files.size() + seeds.size()) + 2; // and the list, and the profile
     report.written = project.moveIn() + beside.moveIn();
     report.removed = RemoveOld(place, before, files);
     return report;

@@ -40,7 +40,11 @@ struct OutputReport {
 };
 
 /// Brings a project directory and the profile up to date. Files of the build before that are not made any
-/// more are removed; everything else there (flags, tables and whatever the program writes) stays.
+/// more are removed; everything else there stays.
+/// @param seeds  files that the program goes on writing: they are written when they are missing or when
+///               they have changed since the build that wrote them last; what the program has made of them
+///               stays otherwise
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
 OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
-                         const std::filesystem::path& profile, const std::string& profileBytes);
+                         const OutputFiles& seeds, const std::filesystem::path& profile,
+                         const std::string& profileBytes);

@@ -5,15 +5,17 @@
 #include "tools/ptn/Diagnostics.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
-/// Texts are EUC-JP and within the lengths of the format.
+/// Texts are EUC-JP; those of a source are within the lengths of the format.
 struct PatternItem {
     PTRNFILE record{};
     std::array<std::string, 3> texts; ///< one per language
     std::string name;                 ///< ID_Name: the pattern that the action opens
     std::string code;                 ///< ID_Code
+    bool exact = false;               ///< the source has given values that are taken as they stand
     Place place;
 };
 
@@ -26,3 +28,10 @@ struct Pattern {
 
 /// The whole pattern file. DataCount and TextSize of the header are filled in here.
 std::string PatternBytes(const Pattern& pattern);
+
+/// The reverse. @return none, with the reason reported, when the file is not exactly as long as it says
+std::optional<Pattern> ParsePattern(const std::string& name, const std::string& bytes, const Place& place,
+                                    Diagnostics& diagnostics);
+
+/// How messages call an item of a pattern: "item 3 (button)".
+std::string ItemLabel(const PatternItem& item, std::size_t index);

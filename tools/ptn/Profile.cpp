@@ -1,6 +1,9 @@
 #include "tools/ptn/Profile.h"
 
+#include "base/EucText.h"
 #include "tools/ptn/EucName.h"
+#include "tools/ptn/IniText.h"
+#include "tools/ptn/YamlText.h"
 
 #include <algorithm>
 #include <sstream>
@@ -17,6 +20,7 @@ constexpr int FONTS_PER_LANGUAGE = CONT_FONT;
 
 const std::string DIR_MARK = "@DIR@/";
 const std::string WINDOW_SECTION = "WINDOW";
+const std::string FONT_KEY = "FONTNAME";
 
 bool IsName(const std::string& name)
 {
@@ -129,7 +133,7 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
         for (int font = 0; font < CONT_FONT; ++font)
             if (const std::string& name = resources.fontNames(font).at(language); !name.empty())
                 keys.push_back(
-                    {"FONT", "FONTNAME" + std::to_string(language * FONTS_PER_LANGUAGE + font), name, {}});
+                    {"FONT", FONT_KEY + std::to_string(language * FONTS_PER_LANGUAGE + font), name, {}});
 
     std::vector<std::string> sections = sections_;
     for (const Key& key : keys)
@@ -158,4 +162,63 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
         }
     }
     return bytes + RememberedWindows(before);
+}
+
+std::map<int, std::string> ProfileSource::load(const std::string& bytes, const std::string& folder,
+                                               const std::string& project)
+{
+    std::map<int, std::string> fonts;
+    for (const IniSection& section : ParseIni(bytes)) {
+        if (section.name == WINDOW_SECTION)
+            continue;
+        sections_.push_back(section.name);
+        for (const IniKey& key : section.keys) {
+            const std::optional<int> font =
+                section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
+                    ? ParseInteger(key.name.substr(FONT_KEY.size()))
+                    : std::nullopt;
+            std::string value = key.value;
+            if (value.compare(0, folder.size() + 1, folder + "/") == 0)
+                value = DIR_MARK + value.substr(folder.size() + 1);
+            const bool own = section.name == "TESSARY" && key.name == "PROJECT" && keys_.empty() &&
+                             value == DIR_MARK + project;
+            if (font && *font >= 0 && *font < 3 * FONTS_PER_LANGUAGE)
+                fonts[*font] = key.value;
+            else if (!own)
+                keys_.push_back({section.name, key.name, value, {"", key.line}});
+        }
+    }
+    return fonts;
+}
+
+void ProfileSource::keepFont(int number, const std::string& name)
+{
+    keys_.push_back({"FONT", FONT_KEY + std::to_string(number), name, {}});
+}
+
+std::string ProfileSource::yaml() const
+{
+    std::string text;
+    for (const std::string& section : sections_) {
+        std::string keys;
+        for (const Key& key : keys_) {
+            if (key.section != section)
+                continue;
+            std::vector<std::string> fields;
+            for (const std::string& field : IniFields(key.value))
+                fields.push_back(YamlScalar(EucToUtf8(field)));
+            keys += "    " + YamlScalar(key.name) + ": " +
+                    (fields.size() == 1 ? fields[0] : YamlList(fields)) + "\n";
+        }
+        text += "  " + YamlScalar(section) + (keys.empty() ? ": {}\n" : ":\n" + keys);
+    }
+    return text.empty() ? "" : "profile:\n" + text;
+}
+
+std::string ProfileSource::value(const std::string& section, const std::string& name, Place* place) const
+{
+    const Key* key = find(section, name);
+    if (key && place)
+        *place = key->place;
+    return key ? key->value : "";
 }

@@ -5,6 +5,7 @@
 #include "tools/ptn/Source.h"
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -28,6 +29,21 @@ class ProfileSource
     /// @param before   the profile of the build before, or empty: its remembered window positions are kept
     std::string bytes(const std::string& folder, const std::string& project, const Resources& resources,
                       const std::string& before, Diagnostics& diagnostics) const;
+
+    /// Takes a profile apart.
+    /// @param folder   absolute path of the folder that it lies in
+    /// @param project  name of the project directory in it
+    /// @return the X names of fonts by key number; those that can not stand in "fonts" go back with
+    /// `keepFont`
+    std::map<int, std::string> load(const std::string& bytes, const std::string& folder,
+                                    const std::string& project);
+    /// Keeps a font name as a plain key.
+    void keepFont(int number, const std::string& name);
+    /// The section "profile".
+    std::string yaml() const;
+
+    /// The value of a key in EUC-JP, empty when it is missing, and where it stands.
+    std::string value(const std::string& section, const std::string& name, Place* place = nullptr) const;
 
   private:
     struct Key {

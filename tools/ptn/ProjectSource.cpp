@@ -1,18 +1,21 @@
 #include "tools/ptn/ProjectSource.h"
 
 #include "base/Constants.h"
+#include "base/EucText.h"
 #include "tools/ptn/EucName.h"
 #include "tools/ptn/Files.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
 namespace
 {
 
-const std::vector<std::string> sectionNames = {"program", "codes",  "colors", "fonts",
-                                               "marks",   "styles", "profile"};
+const std::vector<std::string> sectionNames = {"program", "codes",  "colors",  "fonts",    "marks",
+                                               "styles",  "groups", "profile", "messages", "limits",
+                                               "flags",   "wiring", "registry"};
 
 // Every section of the project's files, wherever it stands.
 std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagnostics)
@@ -65,6 +68,39 @@ std::map<std::string, std::string> Bitmaps(const fs::path& folder, Diagnostics& 
 
 } // namespace
 
+std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Place& place,
+                                                 Diagnostics& diagnostics)
+{
+    std::vector<fs::path> files = {path};
+    std::error_code missing;
+    if (fs::is_directory(path, missing)) {
+        files.clear();
+        for (const auto& entry : fs::directory_iterator(path, missing))
+            if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h")
+                files.push_back(entry.path());
+    }
+    std::set<std::string> texts;
+    for (const fs::path& file : files) {
+        const std::optional<std::string> source = ReadBytes(file);
+        if (!source) {
+            diagnostics.error(place, "'registry': " + Quoted(file.string()) +
+                                         " can not be read. Name the source file that knows the patterns.");
+            return std::nullopt;
+        }
+        std::istringstream lines(*source);
+        for (std::string line; std::getline(lines, line);) {
+            for (std::size_t at = line.find('"'); at != std::string::npos; at = line.find('"', at + 1)) {
+                const std::size_t end = line.find('"', at + 1);
+                if (end == std::string::npos)
+                    break;
+                texts.insert(Utf8ToEuc(line.substr(at + 1, end - at - 1)));
+                at = end;
+            }
+        }
+    }
+    return texts;
+}
+
 std::vector<std::string> YamlFiles(const fs::path& folder)
 {
     std::vector<std::string> files;
@@ -92,9 +128,19 @@ ProjectSource ReadProject(const fs::path& folder, Diagnostics& diagnostics)
     project.codes.read(section("codes"), diagnostics);
     project.resources.readColors(section("colors"), diagnostics);
     project.resources.readFonts(section("fonts"), diagnostics);
-    project.resources.readMarks(section("marks"), diagnostics);
+    project.resources.readMarks(section("marks"), folder, diagnostics);
     project.styles.read(section("styles"), diagnostics);
+    project.groups.read(section("groups"), diagnostics);
     project.profile.read(section("profile"), diagnostics);
+    project.messages.read(section("messages"), project.codes, diagnostics);
+    project.limits.read(section("limits"), project.codes, project.messages, diagnostics);
+    project.flags.read(section("flags"), project.codes, diagnostics);
+    project.wiring.read(section("wiring"), folder, diagnostics);
+    if (sections.count("registry")) {
+        const Entry& entry = sections["registry"];
+        if (const auto path = Text(entry.value, "'registry'", diagnostics))
+            project.registry = QuotedTexts(folder / *path, entry.place, diagnostics);
+    }
     project.bitmaps = Bitmaps(folder / "bitmaps", diagnostics);
     return project;
 }

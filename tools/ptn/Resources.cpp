@@ -3,7 +3,10 @@
 #include "tools/ptn/Bytes.h"
 #include "tools/ptn/EucName.h"
 #include "tools/ptn/MarkArt.h"
+#include "tools/ptn/MarkImage.h"
+#include "tools/ptn/YamlText.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace
@@ -14,8 +17,18 @@ constexpr std::size_t MAX_PROFILE_FIELD = 99;
 
 constexpr const char* builtinMarks[CONT_BUILTINMARK] = {"radio-off", "radio-on", "check-off", "check-on"};
 
-std::optional<COLRDATA> ParseColor(const std::string& text)
+std::optional<COLRDATA> ParseColor(const Source& source)
 {
+    if (source.isList()) {
+        std::vector<int> parts;
+        for (const Source& member : source.members())
+            if (const std::optional<int> part = ParseInteger(member.text()))
+                parts.push_back(*part);
+        if (parts.size() != 3 || source.members().size() != 3)
+            return std::nullopt;
+        return COLRDATA{parts[0], parts[1], parts[2]};
+    }
+    const std::string text = source.text();
     const std::size_t digits = text.size() / 3;
     if (text.empty() || text[0] != '#' || text.size() != digits * 3 + 1 || (digits != 2 && digits != 4) ||
         text.find_first_not_of("0123456789abcdefABCDEF", 1) != std::string::npos)
@@ -38,8 +51,8 @@ Resources::Resources()
 
 void Resources::readColors(const Source& section, Diagnostics& diagnostics)
 {
-    for (const NumberedEntry& entry : NumberedEntries(section, "rgb", colors_, diagnostics)) {
-        const std::optional<COLRDATA> color = ParseColor(entry.value.text());
+    for (const NumberedEntry& entry : NumberedEntries(section, {"rgb"}, colors_, diagnostics)) {
+        const std::optional<COLRDATA> color = ParseColor(entry.value);
         if (color)
             colorData_.at(entry.number) = *color;
         else
@@ -50,7 +63,7 @@ void Resources::readColors(const Source& section, Diagnostics& diagnostics)
 
 void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
 {
-    for (const NumberedEntry& entry : NumberedEntries(section, "x11", fonts_, diagnostics)) {
+    for (const NumberedEntry& entry : NumberedEntries(section, {"x11"}, fonts_, diagnostics)) {
         const std::string what = "font " + Quoted(entry.name);
         const auto names = Texts(entry.value, what, diagnostics);
         for (std::size_t language = 0; names && language < names->size(); ++language) {
@@ -64,24 +77,39 @@ void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
                 continue;
             }
             FontDataInit(entry.number, name->c_str());
-            if (FontSize[entry.number].cy == 0)
+            const bool missing = name->empty() && entry.value.isList();
+            if (!missing && FontSize[entry.number].cy == 0)
                 diagnostics.error(entry.place,
                                   what + " has no size in its X name. Write the pixel size after the "
                                          "seventh '-', as in -*-fixed-medium-r-normal--16-*.");
-            if (language == 0)
+            if (fontCells_.at(entry.number).cy == 0)
                 fontCells_.at(entry.number) = FontSize[entry.number];
             fontNames_.at(entry.number).at(language) = *name;
         }
     }
 }
 
-void Resources::readMarks(const Source& section, Diagnostics& diagnostics)
+void Resources::readMarks(const Source& section, const std::filesystem::path& folder,
+                          Diagnostics& diagnostics)
 {
-    for (const NumberedEntry& entry : NumberedEntries(section, "art", marks_, diagnostics)) {
+    for (const NumberedEntry& entry :
+         NumberedEntries(section, {"art", "image", "bytes"}, marks_, diagnostics)) {
         const std::string what = "mark " + Quoted(entry.name) + " (" + std::to_string(entry.number) + ")";
-        if (const auto art = Text(entry.value, what, diagnostics))
-            ReadMarkArt(*art, markSize(entry.number), what, entry.value.place(), markData_.at(entry.number),
-                        diagnostics);
+        const auto text = Text(entry.value, what, diagnostics);
+        if (!text)
+            continue;
+        MARKDATA& mark = markData_.at(entry.number);
+        if (entry.key == "art") {
+            ReadMarkArt(*text, markSize(entry.number), what, entry.value.place(), mark, diagnostics);
+        } else if (entry.key == "image") {
+            ReadMarkImage(folder / *text, markSize(entry.number), what, entry.value.place(), mark,
+                          diagnostics);
+        } else if (std::string bytes; FromHex(*text, bytes) && bytes.size() == sizeof mark.mark) {
+            std::copy(bytes.begin(), bytes.end(), mark.mark);
+        } else {
+            diagnostics.error(entry.value.place(),
+                              what + ": 'bytes' must be 512 pairs of hexadecimal digits.");
+        }
     }
 }
 

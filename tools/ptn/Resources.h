@@ -8,6 +8,8 @@
 #include "tools/ptn/Source.h"
 
 #include <array>
+#include <filesystem>
+#include <set>
 #include <string>
 
 class Resources
@@ -15,12 +17,15 @@ class Resources
   public:
     Resources();
 
-    /// Section "colors": "#RRGGBB", or "#RRRRGGGGBBBB" on the display's own scale.
+    /// Section "colors": "#RRGGBB", "#RRRRGGGGBBBB" on the display's own scale, or [red, green, blue] as they
+    /// are stored.
     void readColors(const Source& section, Diagnostics& diagnostics);
-    /// Section "fonts": the X name of a font set, or a list with one for each language.
+    /// Section "fonts": the X name of a font set, or a list with one for each language, of which some may be
+    /// empty.
     void readFonts(const Source& section, Diagnostics& diagnostics);
-    /// Section "marks": the picture, one line per row, "." clear and "X" set.
-    void readMarks(const Source& section, Diagnostics& diagnostics);
+    /// Section "marks": the picture, one line per row, "." clear and "X" set; or "image", a PNG or XBM file
+    /// below `folder`; or "bytes", all 512 of them in hexadecimal digits.
+    void readMarks(const Source& section, const std::filesystem::path& folder, Diagnostics& diagnostics);
 
     const NameTable& colors() const { return colors_; }
     const NameTable& fonts() const { return fonts_; }
@@ -37,6 +42,18 @@ class Resources
     std::string colorBytes() const;
     /// The file "PtrnMark".
     std::string markBytes() const;
+
+    /// The reverse. Names are made up for the numbers in `used` and for all that are not black or blank.
+    void loadColors(const std::string& bytes, const std::set<int>& used);
+    void loadMarks(const std::string& bytes, const std::set<int>& used);
+    /// @param names  EUC-JP, one per language
+    /// @return whether such names can stand in a source
+    bool loadFont(int number, const std::array<std::string, 3>& names);
+
+    /// The sections as sources have them; empty without entries.
+    std::string colorsYaml() const;
+    std::string fontsYaml() const;
+    std::string marksYaml() const;
 
   private:
     NameTable colors_{"color", CONT_COLR};

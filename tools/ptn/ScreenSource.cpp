@@ -3,7 +3,8 @@
 #include "base/EucText.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/EucName.h"
-#include "tools/ptn/ItemSource.h"
+#include "tools/ptn/Exact.h"
+#include "tools/ptn/ItemList.h"
 
 #include <algorithm>
 #include <map>
@@ -14,8 +15,8 @@ namespace
 /// Nothing interprets it when a pattern is loaded; it tells which tool wrote the file.
 constexpr int PATTERN_VERSION = 1;
 
-const std::vector<std::string> screenKeys = {"name",   "title",  "logo", "background",
-                                             "window", "styles", "items"};
+const std::vector<std::string> screenKeys = {"name",   "title",  "logo",  "background", "window",
+                                             "styles", "groups", "items", "exact"};
 
 class ScreenReader
 {
@@ -35,13 +36,13 @@ class ScreenReader
     template <std::size_t N> void readBitmap(char (&field)[N], const Entry& entry);
     void readWindow(const Source& source);
     void readParm2(const Source& source);
-    void readItems(const Source& source);
 
     const ProjectSource& project_;
     Diagnostics& diagnostics_;
     Pattern pattern_;
     Attributes window_;
     Styles styles_;
+    Groups groups_;
 };
 
 std::optional<Pattern> ScreenReader::read(const Source& source)
@@ -49,9 +50,10 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
     std::map<std::string, Entry> parts;
     for (const Entry& entry : Entries(source, "the screen", diagnostics_)) {
         if (std::find(screenKeys.begin(), screenKeys.end(), entry.name) == screenKeys.end())
-            diagnostics_.error(entry.place,
-                               "unknown " + Quoted(entry.name) + "." + Suggestion(entry.name, screenKeys) +
-                                   " A screen has name, title, logo, background, window, styles, items.");
+            diagnostics_.error(
+                entry.place,
+                "unknown " + Quoted(entry.name) + "." + Suggestion(entry.name, screenKeys) +
+                    " A screen has name, title, logo, background, window, styles, groups, items.");
         parts.emplace(entry.name, entry);
     }
     const auto part = [&](const char* name) { return parts[name].value; };
@@ -70,7 +72,10 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
         readBitmap(pattern_.header.BmapName, parts["background"]);
     styles_.read(part("styles"), diagnostics_);
     readWindow(part("window"));
-    readItems(part("items"));
+    groups_.read(part("groups"), diagnostics_);
+    pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, diagnostics_});
+    if (parts.count("exact"))
+        ReadExactHeader(part("exact"), pattern_.header, diagnostics_);
     return pattern_;
 }
 
@@ -119,6 +124,7 @@ void ScreenReader::readWindow(const Source& source)
 
     const std::string label = "'window'";
     Layer own{label, {}};
+    Source unnamed;
     for (const Entry& entry : Entries(source, label, diagnostics_)) {
         if (entry.name == "size" || entry.name == "at") {
             const auto numbers = Integers(entry.value, 2, label + ": " + Quoted(entry.name), diagnostics_);
@@ -127,7 +133,7 @@ void ScreenReader::readWindow(const Source& source)
                 std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm1 + first);
             }
         } else if (entry.name == "parm") {
-            window_.applyRaw(entry.value, label);
+            unnamed = entry.value;
         } else if (entry.name == "parm2") {
             readParm2(entry.value);
         } else if (window_.find(entry.name)) {
@@ -140,6 +146,8 @@ void ScreenReader::readWindow(const Source& source)
         }
     }
     window_.apply(own);
+    if (!unnamed.isEmpty())
+        ReadParm(unnamed, label, pattern_.header.Parm1, diagnostics_);
     for (const int side : {HEDR_WIDTH, HEDR_HEIGHT})
         if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > 32767)
             diagnostics_.error(source.place(), label + " has a side of " +
@@ -154,25 +162,19 @@ void ScreenReader::readParm2(const Source& source)
         std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm2);
 }
 
-void ScreenReader::readItems(const Source& source)
-{
-    if (!source.isEmpty() && !source.isList()) {
-        diagnostics_.error(source.place(), "'items' must be a list. Begin each item with '-'.");
-        return;
-    }
-    int number = 0;
-    for (const Source& member : source.members())
-        for (PatternItem& item : ReadItem(member, ++number, {project_, styles_, diagnostics_}))
-            pattern_.items.push_back(std::move(item));
-}
-
 } // namespace
 
 std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
                                   Diagnostics& diagnostics)
 {
     const std::optional<Source> source = ReadYaml(file, diagnostics);
-    return source ? ScreenReader(project, diagnostics).read(*source) : std::nullopt;
+    return source ? ReadScreen(*source, project, diagnostics) : std::nullopt;
+}
+
+std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
+                                  Diagnostics& diagnostics)
+{
+    return ScreenReader(project, diagnostics).read(source);
 }
 
 std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagnostics& diagnostics)
@@ -190,7 +192,7 @@ std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagno
     for (const Pattern& pattern : patterns) {
         for (const PatternItem& item : pattern.items) {
             const ActionSchema* action = FindAction(item.record.ID_Type);
-            if (action && action->opens && !names.count(item.name))
+            if (action && action->opens && !item.exact && !names.count(item.name))
                 diagnostics.error(item.place,
                                   "no screen is named " + Quoted(EucToUtf8(item.name)) +
                                       ", which this item opens. Correct 'pattern' or add the screen.");

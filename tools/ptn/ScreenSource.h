@@ -14,6 +14,10 @@
 std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
                                   Diagnostics& diagnostics);
 
+/// The same for a file that has been read already.
+std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
+                                  Diagnostics& diagnostics);
+
 /// Reports patterns of the same name, and actions that open a pattern which is not there.
 /// @return the names in EUC-JP
 std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagnostics& diagnostics);

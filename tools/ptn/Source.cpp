@@ -8,12 +8,79 @@
 #include <limits>
 #include <set>
 
-Source::Source(std::shared_ptr<const std::string> file, const YAML::Node& node)
-    : file_(std::move(file)), node_(node)
+namespace
+{
+
+/// "$name" or "${name}" within a text.
+struct Placeholder {
+    std::size_t at = 0;
+    std::size_t length = 0;
+    std::string name;
+};
+
+std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t from)
+{
+    static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+    for (std::size_t at = text.find('$', from); at != std::string::npos; at = text.find('$', at + 1)) {
+        const bool braces = text.compare(at + 1, 1, "{") == 0;
+        const std::size_t begin = at + (braces ? 2 : 1);
+        const std::size_t end = std::min(text.find_first_not_of(letters, begin), text.size());
+        if (end > begin && (!braces || text.compare(end, 1, "}") == 0))
+            return Placeholder{at, end + (braces ? 1 : 0) - at, text.substr(begin, end - begin)};
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::vector<std::string> ArgumentNames(const std::string& text)
+{
+    std::vector<std::string> names;
+    for (std::size_t at = 0; const auto found = NextPlaceholder(text, at); at = found->at + found->length)
+        names.push_back(found->name);
+    return names;
+}
+
+Source::Source(std::shared_ptr<const std::string> file, const YAML::Node& node,
+               std::shared_ptr<const Arguments> arguments)
+    : file_(std::move(file)), node_(node), arguments_(std::move(arguments))
 {
     // Marks count from 0; nodes that were not read from a file have none.
     if (node.IsDefined() && node.Mark().line >= 0)
         line_ = node.Mark().line + 1;
+    if (arguments_ && isText())
+        fillIn();
+}
+
+void Source::fillIn()
+{
+    std::string text = node_.Scalar();
+    bool changed = false;
+    for (std::size_t at = 0; const auto found = NextPlaceholder(text, at);) {
+        const auto argument = arguments_->find(found->name);
+        if (argument == arguments_->end()) {
+            at = found->at + found->length;
+            continue;
+        }
+        if (found->length == text.size() && !changed) {
+            const Source whole = argument->second;
+            *this = whole;
+            return;
+        }
+        const std::string value = argument->second.text();
+        text.replace(found->at, found->length, value);
+        at = found->at + value.size();
+        changed = true;
+    }
+    if (changed)
+        node_.reset(YAML::Node(text));
+}
+
+Source Source::with(std::shared_ptr<const Arguments> arguments) const
+{
+    Source made(file_, node_, std::move(arguments));
+    made.line_ = made.line_ ? made.line_ : line_;
+    return made;
 }
 
 Source& Source::operator=(const Source& other)
@@ -21,6 +88,7 @@ Source& Source::operator=(const Source& other)
     file_ = other.file_;
     node_.reset(other.node_);
     line_ = other.line_;
+    arguments_ = other.arguments_;
     return *this;
 }
 
@@ -31,7 +99,7 @@ Place Source::place() const
 
 Source Source::child(const YAML::Node& node, const Place& key) const
 {
-    Source made(file_, node);
+    Source made(file_, node, arguments_);
     if (made.isEmpty())
         made.line_ = key.line;
     return made;
@@ -53,8 +121,13 @@ std::optional<Source> ReadYaml(const std::string& file, Diagnostics& diagnostics
         diagnostics.error({file, 0}, "can not be read. Check that the file is there and readable.");
         return std::nullopt;
     }
+    return ParseYaml(file, *bytes, diagnostics);
+}
+
+std::optional<Source> ParseYaml(const std::string& file, const std::string& text, Diagnostics& diagnostics)
+{
     try {
-        return Source(std::make_shared<const std::string>(file), YAML::Load(*bytes));
+        return Source(std::make_shared<const std::string>(file), YAML::Load(text));
     } catch (const YAML::Exception& problem) {
         // Without a position the mark's line is -1.
         diagnostics.error({file, problem.mark.line + 1}, "not valid YAML: " + problem.msg + ".");

@@ -3,25 +3,32 @@
 
 #include "tools/ptn/Diagnostics.h"
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 #include <yaml-cpp/yaml.h>
 
+class Source;
+
+/// What "$name" stands for within a group of items.
+using Arguments = std::map<std::string, Source>;
+
 /// A node and the file it stands in.
 class Source
 {
   public:
     Source() = default;
-    Source(std::shared_ptr<const std::string> file, const YAML::Node& node);
+    Source(std::shared_ptr<const std::string> file, const YAML::Node& node,
+           std::shared_ptr<const Arguments> arguments = nullptr);
     Source(const Source& other) = default;
     // A node's own assignment would change the tree that it belongs to.
     Source& operator=(const Source& other);
 
     const YAML::Node& node() const { return node_; }
     Place place() const;
-    Source child(const YAML::Node& node) const { return {file_, node}; }
+    Source child(const YAML::Node& node) const { return {file_, node, arguments_}; }
     /// The value of a key. An empty one has no place of its own, so it gets that of the key.
     Source child(const YAML::Node& node, const Place& key) const;
 
@@ -35,11 +42,21 @@ class Source
     /// The members of a list, else none.
     std::vector<Source> members() const;
 
+    /// The same node, in which "$name" and "${name}" stand for arguments: a text that is nothing else is
+    /// replaced by the argument, whatever that is; within a longer text only texts can be put in.
+    Source with(std::shared_ptr<const Arguments> arguments) const;
+
   private:
+    void fillIn();
+
     std::shared_ptr<const std::string> file_;
     YAML::Node node_;
     int line_ = 0;
+    std::shared_ptr<const Arguments> arguments_;
 };
+
+/// The names of the arguments that a text asks for.
+std::vector<std::string> ArgumentNames(const std::string& text);
 
 /// One `key: value` of a mapping.
 struct Entry {
@@ -51,6 +68,9 @@ struct Entry {
 /// Reads a file.
 /// @return its top node; none, with an error reported, when it can not be read or is not YAML
 std::optional<Source> ReadYaml(const std::string& file, Diagnostics& diagnostics);
+
+/// The same for a text that is in memory already.
+std::optional<Source> ParseYaml(const std::string& file, const std::string& text, Diagnostics& diagnostics);
 
 /// The entries of a mapping in the order of the file; reports anything but a mapping, and repeated keys.
 /// @param what  how messages call the node, such as "'colors'"
