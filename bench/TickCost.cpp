@@ -1,0 +1,201 @@
+// What a tick of 100 ms costs on a screen where nothing changes: processor time, and requests to the X
+// server.
+//
+//   bench_tick_cost
+//
+// Needs the X server of $DISPLAY. Ends with 1 when a screen of 10,000 bound items costs a millisecond or
+// more, when the cost grows faster than the items, or when any request is sent.
+#include "base/EucText.h"
+#include "bench/BenchProject.h"
+#include "bench/BenchWindow.h"
+#include "draw/DrawCntl.h"
+#include "pattern/PtrnData.h"
+
+#include <algorithm>
+#include <gdk/gdkx.h>
+
+namespace
+{
+
+constexpr int largest = 10000;
+constexpr double limit = 1e-3; ///< seconds a tick of the largest screen
+/// The cost of an item may grow this much from the smallest screen to the largest one, which no longer fits
+/// the fastest caches.
+constexpr double growth = 4.0;
+
+template <typename Number> Number Median(std::vector<Number> numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    return numbers[numbers.size() / 2];
+}
+
+/// Pushes everything out of the caches, as whatever else runs in the 100 ms between two ticks may do.
+void ForgetCaches()
+{
+    static std::vector<unsigned> other(16 * 1024 * 1024);
+    for (std::size_t i = 0; i < other.size(); i += 16)
+        other[i]++;
+}
+
+void FillCells(int count)
+{
+    for (int i = 0; i < count; i++) {
+        const int no = BenchProject::firstCell + i;
+        Set_fData(no, static_cast<float>(i), nullptr, 0);
+        Set_sData(no, ("圧力" + std::to_string(i)).c_str(), nullptr, 0);
+    }
+}
+
+/// The least that finding a change can cost: as many cells compared with copies that lie side by side.
+double BareComparison(int count)
+{
+    struct Copy {
+        WORD word;
+        float number;
+        char text[22];
+    };
+    std::vector<Copy> copies(static_cast<std::size_t>(count));
+    const COMNDATA* const cells = ComnData + BenchProject::firstCell;
+    for (int i = 0; i < count; i++) {
+        Copy& copy = copies[static_cast<std::size_t>(i)];
+        copy.word = cells[i].wData;
+        copy.number = cells[i].fData;
+        CopyText(copy.text, cells[i].sData);
+    }
+    constexpr int rounds = 1000;
+    int changed = 0;
+    const double start = ProcessorTime();
+    for (int round = 0; round < rounds; round++) {
+        for (int i = 0; i < count; i++) {
+            const Copy& copy = copies[static_cast<std::size_t>(i)];
+            changed += copy.word != cells[i].wData || copy.number != cells[i].fData ||
+                       std::strcmp(copy.text, cells[i].sData) != 0;
+        }
+        asm volatile("" : : "r"(copies.data()) : "memory"); // every round reads anew
+    }
+    const double time = (ProcessorTime() - start) / rounds;
+    if (changed != 0)
+        std::fprintf(stderr, "%d copies were not like their cells\n", changed);
+    return time;
+}
+
+struct Cost {
+    double warm; ///< seconds a tick, ticks one after another
+    double cold; ///< with empty caches
+    unsigned long requests;
+};
+
+class TickScreen
+{
+  public:
+    explicit TickScreen(const char* name)
+        : pattern_(name), pixmap_(gdk_pixmap_new(gdk_get_default_root_window(), BenchProject::width,
+                                                 BenchProject::height, -1)),
+          draw_(new CPaintDraw(pixmap_))
+    {
+        pattern_.DispTitle(draw_.get());
+        pattern_.DispPtrnData(draw_.get());
+        gdk_display_sync(gdk_display_get_default());
+    }
+    ~TickScreen()
+    {
+        draw_.reset();
+        g_object_unref(pixmap_);
+    }
+    TickScreen(const TickScreen&) = delete;
+    TickScreen& operator=(const TickScreen&) = delete;
+
+    int items() const { return pattern_.PtrnCont; }
+
+    void tick()
+    {
+        pattern_.DispCalender(draw_.get());
+        pattern_.FlikPtrnData(draw_.get());
+        pattern_.UpdtPtrnData(draw_.get());
+    }
+
+    Cost measure()
+    {
+        const int ticks = std::max(20, 2000000 / items());
+        const unsigned long before = NextRequest(GDK_DISPLAY());
+        std::vector<double> warm;
+        for (int batch = 0; batch < 15; batch++) {
+            const double start = ProcessorTime();
+            for (int i = 0; i < ticks; i++)
+                tick();
+            warm.push_back((ProcessorTime() - start) / ticks);
+        }
+        std::vector<double> cold;
+        for (int i = 0; i < 41; i++) {
+            ForgetCaches();
+            const double start = ProcessorTime();
+            tick();
+            cold.push_back(ProcessorTime() - start);
+        }
+        return {Median(warm), Median(cold), NextRequest(GDK_DISPLAY()) - before};
+    }
+
+  private:
+    CPtrnData pattern_;
+    GdkPixmap* pixmap_;
+    PaintDrawPtr draw_;
+};
+
+/// Requests of one tick of a window: the pointer and the copy of the back buffer, whatever it shows.
+unsigned long WindowRequests(const char* name)
+{
+    BenchWindow window(name);
+    window.TimrEvent();
+    HandleEvents();
+    std::vector<unsigned long> requests;
+    for (int i = 0; i < 21; i++) { // a few ticks may have to answer a window manager
+        const unsigned long before = NextRequest(GDK_DISPLAY());
+        window.TimrEvent();
+        while (g_main_context_iteration(nullptr, FALSE))
+            ;
+        requests.push_back(NextRequest(GDK_DISPLAY()) - before);
+        HandleEvents();
+    }
+    return Median(requests);
+}
+
+} // namespace
+
+int main()
+{
+    const BenchProject project(largest);
+    FillCells(largest);
+    bool missed = false;
+    unsigned long windowRequests = 0;
+    double smallest = 0;
+    Cost cost{};
+    std::printf("A tick in which nothing changes, %d types of items mixed, all bound\n", CONT_PTRN);
+    std::printf("  items   warm us   ns/item   to 100   cold us   to 1 ms   requests\n");
+    for (const int count : {100, 1000, largest}) {
+        project.screen("static", count, count);
+        TickScreen screen("static");
+        if (screen.items() != count) {
+            std::fprintf(stderr, "the screen of %d items was not loaded\n", count);
+            return 1;
+        }
+        cost = screen.measure();
+        const double each = cost.warm / count;
+        if (smallest == 0)
+            smallest = each;
+        std::printf("%7d %9.2f %9.2f %8.2f %9.1f %9.3f %10lu\n", count, cost.warm * 1e6, each * 1e9,
+                    each / smallest, cost.cold * 1e6, cost.cold / limit, cost.requests);
+        const unsigned long inWindow = WindowRequests("static");
+        missed = missed || cost.requests != 0 || each > growth * smallest ||
+                 (windowRequests != 0 && inWindow != windowRequests);
+        windowRequests = inWindow;
+    }
+    missed = missed || cost.warm >= limit || cost.cold >= limit;
+
+    const double bare = BareComparison(largest);
+    std::printf("%d items cost %.1f times a bare comparison of as many cells (%.2f us)\n", largest,
+                cost.warm / bare, bare * 1e6);
+    std::printf("requests of a window's whole tick, whatever it shows: %lu\n", windowRequests);
+    std::printf("%s\n",
+                missed ? "MISSED: see the limits at the top of bench/TickCost.cpp" : "within the limits");
+    return missed ? 1 : 0;
+}
