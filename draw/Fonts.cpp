@@ -8,6 +8,7 @@
 
 #include <cstring>
 #include <gdk/gdkx.h>
+#include <langinfo.h>
 #include <string>
 
 GdkFont* DrawFont[CONT_FONT];
@@ -24,10 +25,13 @@ std::string FontKey(int no)
     return "FONTNAME" + std::to_string(std::int64_t{Language} * CONT_FONT + no);
 }
 
-/// Character sets that the locale needs and the font set lacks, separated by blanks.
+/// Character sets that EUC-JP needs and the font set lacks, separated by blanks. A locale with another code
+/// set asks for other character sets; that is the locale's fault, which the start reports.
 std::string MissingCharsets(GdkFont* font)
 {
     std::string names;
+    if (std::strcmp(nl_langinfo(CODESET), "EUC-JP") != 0)
+        return names;
     XOMCharSetList missing{};
     const auto context = static_cast<XOC>(GDK_FONT_XFONT(font));
     if (XGetOCValues(context, XNMissingCharSet, &missing, nullptr))
