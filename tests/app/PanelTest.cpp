@@ -1,8 +1,5 @@
 // The real program, started as a user starts it, with projects of the test's own.
-#include "tests/support/PatternBuilder.h"
-#include "tests/support/Program.h"
-#include "tests/support/Project.h"
-#include "tests/support/XDriver.h"
+#include "tests/app/Panel.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -11,56 +8,6 @@
 using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-namespace
-{
-
-const char* const menu = "テスト  ［メニュー選択］";
-const char* const other = "テスト  （図形）";
-const char* const notice = "システム終了";
-
-/// A program with a name of the test's own, so that its profile is the project's.
-class Panel : public testing::Test
-{
-  protected:
-    void SetUp() override
-    {
-        std::string colors;
-        for (int number = 0; number < 100; number++)
-            colors += int32(number * 600) + int32(65535 - number * 600) + int32(number * 300);
-        project.write("PtrnColr", colors);
-        project.set("TESSARY", "DISPSIZE", "1280,1024");
-        project.set("PTRN", "PTRNSTART", menu);
-        project.set("FONT", "FONTNAME0", "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
-        project.code("DATA", 200);
-    }
-
-    void run() { program.emplace("panel", project.root() + "/panel"); }
-
-    int waitEnd()
-    {
-        user.waitFor([&] { return program->status().has_value(); }, "the end of the program");
-        return program->status().value_or(-1);
-    }
-
-    std::vector<std::string> logged() { return project.messages(); }
-
-    void waitLogged(const std::string& message)
-    {
-        user.waitFor(
-            [&] {
-                const auto messages = logged();
-                return std::find(messages.begin(), messages.end(), message) != messages.end();
-            },
-            "the log line " + message);
-    }
-
-    XDriver user;
-    Project project;
-    std::optional<Program> program;
-};
-
-} // namespace
 
 TEST_F(Panel, tells_that_its_profile_is_missing_and_ends_with_status_0)
 {

@@ -1,0 +1,58 @@
+// Fixture: the real program, started as a user starts it, with a project of the test's own.
+#pragma once
+
+#include "tests/support/PatternBuilder.h"
+#include "tests/support/Program.h"
+#include "tests/support/Project.h"
+#include "tests/support/XDriver.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <optional>
+
+/// The program has a name of the test's own, so that its profile is the project's: 100 colours, font 0 of 16
+/// pixels, 200 cells of the code "DATA", and the menu as start pattern, which the test has to save.
+class Panel : public testing::Test
+{
+  protected:
+    // Patterns that the program knows.
+    static constexpr const char* menu = "テスト  ［メニュー選択］";
+    static constexpr const char* other = "テスト  （図形）";
+    static constexpr const char* notice = "システム終了";
+
+    void SetUp() override
+    {
+        std::string colors;
+        for (int number = 0; number < 100; number++)
+            colors += int32(number * 600) + int32(65535 - number * 600) + int32(number * 300);
+        project.write("PtrnColr", colors);
+        project.set("TESSARY", "DISPSIZE", "1280,1024");
+        project.set("PTRN", "PTRNSTART", menu);
+        project.set("FONT", "FONTNAME0", "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
+        project.code("DATA", 200);
+    }
+
+    void run() { program.emplace("panel", project.root() + "/panel"); }
+
+    int waitEnd()
+    {
+        user.waitFor([&] { return program->status().has_value(); }, "the end of the program");
+        return program->status().value_or(-1);
+    }
+
+    std::vector<std::string> logged() { return project.messages(); }
+
+    void waitLogged(const std::string& message)
+    {
+        user.waitFor(
+            [&] {
+                const auto messages = logged();
+                return std::find(messages.begin(), messages.end(), message) != messages.end();
+            },
+            "the log line " + message);
+    }
+
+    XDriver user;
+    Project project;
+    std::optional<Program> program;
+};
