@@ -173,17 +173,16 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
             continue;
         sections_.push_back(section.name);
         for (const IniKey& key : section.keys) {
-            const std::optional<int> font =
-                section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
-                    ? ParseInteger(key.name.substr(FONT_KEY.size()))
-                    : std::nullopt;
+            const int font = section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
+                                 ? ParseInteger(key.name.substr(FONT_KEY.size())).value_or(-1)
+                                 : -1;
             std::string value = key.value;
             if (value.compare(0, folder.size() + 1, folder + "/") == 0)
                 value = DIR_MARK + value.substr(folder.size() + 1);
             const bool own = section.name == "TESSARY" && key.name == "PROJECT" && keys_.empty() &&
                              value == DIR_MARK + project;
-            if (font && *font >= 0 && *font < 3 * FONTS_PER_LANGUAGE)
-                fonts[*font] = key.value;
+            if (font >= 0 && font < 3 * FONTS_PER_LANGUAGE)
+                fonts[font] = key.value;
             else if (!own)
                 keys_.push_back({section.name, key.name, value, {"", key.line}});
         }

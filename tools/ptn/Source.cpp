@@ -36,7 +36,8 @@ std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t 
 std::vector<std::string> ArgumentNames(const std::string& text)
 {
     std::vector<std::string> names;
-    for (std::size_t at = 0; const auto found = NextPlaceholder(text, at); at = found->at + found->length)
+    for (auto found = NextPlaceholder(text, 0); found;
+         found = NextPlaceholder(text, found->at + found->length))
         names.push_back(found->name);
     return names;
 }
