@@ -58,6 +58,7 @@ guint TranslateKey(guint key)
 int Configure_Event(GtkWidget*, GdkEventConfigure*, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
+    const LayoutScope layout;
     wnd->PaintEvent();
     return TRUE;
 }

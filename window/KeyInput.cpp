@@ -48,7 +48,7 @@ void CPtrnDisp::KeyInputStart(int dataNo, const char* file, int line)
 void CPtrnDisp::KeyInputStart(PTRNDATA* item)
 {
     KeyInputStop(0, 0, nullptr, 0);
-    if (PtrnKeyStart(item) != 1 || Exited)
+    if (PtrnKeyStart(item) != 1 || Closed)
         return;
     KeyInputStop(0, 0, nullptr, 0); // what the hook may have started itself
 

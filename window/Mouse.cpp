@@ -58,7 +58,7 @@ void CPtrnDisp::LButtonDown(POINT pt, int flags)
     ReqKeyReset();
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 1, flags) == 1)
         return;
-    if (Exited) // the hook has closed this window
+    if (Closed) // the hook has closed this window
         return;
 
     const int index = PtrnData->TestPtrnData(pt);
@@ -107,7 +107,7 @@ void CPtrnDisp::RButtonDown(POINT pt, int flags)
     ReqKeyReset();
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 2, flags) == 1)
         return;
-    if (Exited)
+    if (Closed)
         return;
 
     const int index = PtrnData->TestPtrnData(pt);
@@ -148,7 +148,7 @@ void CPtrnDisp::MouseMove(POINT pt, int flags)
     pt = Shifted(pt, Offset);
     if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 0, flags) == 1)
         return;
-    if (Exited)
+    if (Closed)
         return;
     PtrnData->MouseMove(pt);
     if (MoveWnd == 1)

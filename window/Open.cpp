@@ -63,6 +63,7 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
     const std::string pattern(name ? name : ""); // what it points to may be replaced here
     DestroyWidget();
     Exited = false;
+    Closed = false;
     ParentWnd = parent;
     PtrnNo = ConvertPtrn(pattern.c_str());
     PtrnType = kind;
@@ -153,11 +154,4 @@ void CPtrnDisp::ExitChildren()
         ChildWnd1->PtrnExit();
     if (ChildWnd2)
         ChildWnd2->PtrnExit();
-}
-
-void CPtrnDisp::DestroyWidget()
-{
-    Exited = true;
-    if (Widget)
-        gtk_widget_destroy(Widget); // Widget_Destroy clears the members
 }

@@ -216,7 +216,8 @@ class CPtrnDisp
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
     /// is using it, since a hook of that may close the window.
     std::shared_ptr<CPaintDraw> Draw;
-    bool Exited = false;     ///< exited or destroyed, and not opened again
+    bool Exited = false;     ///< exited or replaced, and not opened again
+    bool Closed = false;     ///< the toolkit window has gone
     bool Configured = false; ///< the window has been placed anew since the last tick
     POINT Reported{};        ///< where
 
@@ -226,6 +227,7 @@ class CPtrnDisp
     void ReleaseBuffer();
     void ClearUncovered(RECT view);
     void FollowWindow();
+    void LeaveWidget();
     void DropKeyInput();
     void ShowKeyInput();
     void HideKeyCursor();

@@ -4,6 +4,7 @@
 #include "window/PtrnDisp.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace
@@ -12,7 +13,9 @@ namespace
 using Windows = std::vector<CPtrnDisp*>;
 
 int handlers = 0;
-Windows retired; ///< oldest first
+int layouts = 0;
+std::vector<GtkWidget*> unwanted; ///< top-level windows to destroy
+Windows retired;                  ///< oldest first
 
 /// Never destroyed: an application may have window objects that live as long as the program.
 Windows& Living()
@@ -51,6 +54,24 @@ HandlerScope::~HandlerScope()
     --handlers;
 }
 
+LayoutScope::LayoutScope()
+{
+    ++layouts;
+}
+
+LayoutScope::~LayoutScope()
+{
+    --layouts;
+}
+
+void DestroyTop(GtkWidget* top)
+{
+    if (layouts)
+        unwanted.push_back(top);
+    else
+        gtk_widget_destroy(top);
+}
+
 void RetirePtrnWnd(CPtrnDisp* wnd)
 {
     if (std::find(retired.begin(), retired.end(), wnd) == retired.end())
@@ -59,7 +80,11 @@ void RetirePtrnWnd(CPtrnDisp* wnd)
 
 void DeleteRetiredWnd(std::size_t kept)
 {
-    if (handlers > 1 || gtk_main_level() > 1 || retired.size() <= kept)
+    if (handlers > 1 || gtk_main_level() > 1)
+        return;
+    for (GtkWidget* top : std::exchange(unwanted, {}))
+        gtk_widget_destroy(top);
+    if (retired.size() <= kept)
         return;
     const Windows old(retired.begin(), retired.end() - static_cast<std::ptrdiff_t>(kept));
     for (CPtrnDisp* wnd : old) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <gtk/gtk.h>
 
 class CPtrnDisp;
 
@@ -15,6 +16,20 @@ class HandlerScope
     HandlerScope(const HandlerScope&) = delete;
     HandlerScope& operator=(const HandlerScope&) = delete;
 };
+
+/// Marks the time in which the toolkit lays a window out, and can not do without it.
+class LayoutScope
+{
+  public:
+    LayoutScope();
+    ~LayoutScope();
+    LayoutScope(const LayoutScope&) = delete;
+    LayoutScope& operator=(const LayoutScope&) = delete;
+};
+
+/// Destroys a top-level window that no window object knows any more: at once, or at the end of a tick when
+/// the toolkit is laying a window out.
+void DestroyTop(GtkWidget* top);
 
 /// Hands over an exited or replaced window. Its object lives on, so that the code that closed it may
 /// finish and may still look at it; the newest few stay until others take their place. Handing it over

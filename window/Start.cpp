@@ -86,18 +86,36 @@ int Window_Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
     return FALSE; // the toolkit has to know it too
 }
 
-/// However the toolkit window went, nothing may draw on it or destroy it again.
 int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd)
 {
-    if (wnd->Widget != widget)
-        return TRUE;
-    wnd->Widget = nullptr;
-    wnd->DrawArea = nullptr;
-    wnd->MoveWnd = 0;
-    wnd->ScrollBar = 0;
-    wnd->DropKeyInput();
-    wnd->ReleaseBuffer();
+    if (wnd->Widget == widget)
+        wnd->LeaveWidget();
     return TRUE;
+}
+
+/// However the toolkit window went, nothing may draw on it or destroy it again.
+void CPtrnDisp::LeaveWidget()
+{
+    Closed = true;
+    Widget = nullptr;
+    DrawArea = nullptr;
+    MoveWnd = 0;
+    ScrollBar = 0;
+    DropKeyInput();
+    ReleaseBuffer();
+}
+
+void CPtrnDisp::DestroyWidget()
+{
+    Exited = true;
+    if (!Widget)
+        return;
+    GtkWidget* const top = Widget;
+    for (GtkWidget* widget : {DrawArea, top})
+        g_signal_handlers_disconnect_matched(widget, G_SIGNAL_MATCH_DATA, 0, 0, nullptr, nullptr, this);
+    InputMethodRelease(top);
+    LeaveWidget();
+    DestroyTop(top);
 }
 
 void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
@@ -124,14 +142,15 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     Connect(top, "destroy", Widget_Destroy, wnd);
 
     wnd->PtrnInit();
-    if (wnd->Widget != top) // the hook has closed the window
+    // Each step calls hooks, which may close the window: the toolkit paints it when it is realized.
+    const auto open = [&] { return wnd->Widget == top; };
+    if (open())
+        gtk_widget_realize(area);
+    if (!open())
         return;
-
-    gtk_widget_realize(top);
-    gtk_widget_realize(area);
     // No background: the server would clear each newly exposed part before the back buffer is copied.
     gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
     gtk_widget_show(top);
-    gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
-    RaiseChildren(*wnd);
+    if (open())
+        gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
 }

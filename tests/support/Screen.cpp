@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+int RecordingWnd::alive;
+
 void RecordingWnd::record(const std::string& name, std::initializer_list<int> values)
 {
     std::string call = name;
@@ -78,9 +80,24 @@ void RecordingWnd::PtrnKeyFunc(int key, int flags, PTRNDATA* item)
         hooks_.keyFunc(*this, key, flags, item);
 }
 
+namespace
+{
+
+/// Whatever the toolkit complains about is a mistake of ours.
+void failWithComplaint(const char* domain, GLogLevelFlags level, const char* message, void*)
+{
+    if (level & (G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL))
+        ADD_FAILURE() << (domain ? domain : "") << ": " << message;
+    else
+        g_log_default_handler(domain, level, message, nullptr);
+}
+
+} // namespace
+
 Screen::Screen()
 {
     useToolkit();
+    g_log_set_default_handler(failWithComplaint, nullptr);
     std::string colors;
     for (int number = 0; number < CONT_COLR; number++)
         for (int shift = 16; shift >= 0; shift -= 8)
@@ -114,6 +131,7 @@ Screen::~Screen()
     DeleteRetiredWnd(0);
     DrawCntlExit();
     TestApplication::reset();
+    g_log_set_default_handler(g_log_default_handler, nullptr);
 }
 
 std::uint32_t Screen::color(int number)

@@ -37,7 +37,9 @@ class RecordingWnd : public CPtrnDisp
 {
   public:
     /// Both outlive the window.
-    RecordingWnd(Calls& calls, const Hooks& hooks) : calls_(calls), hooks_(hooks) {}
+    RecordingWnd(Calls& calls, const Hooks& hooks) : calls_(calls), hooks_(hooks) { ++alive; }
+    ~RecordingWnd() override { --alive; }
+    static int alive; ///< objects that were not deleted
     void PtrnInitFunc() override;
     void PtrnExitFunc() override;
     void PtrnDispFunc(CDraw* draw, int mode) override;
