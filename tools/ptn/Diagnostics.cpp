@@ -17,6 +17,16 @@ void Diagnostics::add(const Place& place, const std::string& what, const char* k
     lines_.push_back(line);
 }
 
+void Diagnostics::add(const Diagnostics& others)
+{
+    for (const std::string& line : others.lines_) {
+        if (!known_.insert(line).second)
+            continue;
+        ++warnings_;
+        lines_.push_back(line);
+    }
+}
+
 void Diagnostics::print(std::ostream& out) const
 {
     for (const std::string& line : lines_)

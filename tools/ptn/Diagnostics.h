@@ -22,9 +22,13 @@ class Diagnostics
     /// Adds a remark that does not stop the build.
     void warning(const Place& place, const std::string& what) { add(place, what, "warning: ", warnings_); }
 
+    /// Adds what another run has found, as remarks that do not stop anything.
+    void add(const Diagnostics& others);
+
     /// Whether there was an error.
     bool failed() const { return errors_ > 0; }
     int errors() const { return errors_; }
+    int warnings() const { return warnings_; }
 
     /// Writes "file:line: text" for each, in the order in which they were found.
     void print(std::ostream& out) const;

@@ -11,7 +11,9 @@ namespace
 constexpr int MIN_COORDINATE = -32768;
 constexpr int MAX_COORDINATE = 32767;
 
-int LongestText(const PatternItem& item)
+} // namespace
+
+int Placement::longestText(const PatternItem& item)
 {
     std::size_t longest = 0;
     for (const std::string& text : item.texts)
@@ -19,8 +21,7 @@ int LongestText(const PatternItem& item)
     return static_cast<int>(longest);
 }
 
-// The size of what the item shows; none for items that fill whatever space they get.
-std::optional<SIZE> NaturalSize(const PatternItem& item, const Resources& resources)
+std::optional<SIZE> Placement::naturalSize(const PatternItem& item, const Resources& resources)
 {
     const std::int32_t* parm = item.record.Parm;
     switch (item.record.Type) {
@@ -33,7 +34,7 @@ std::optional<SIZE> NaturalSize(const PatternItem& item, const Resources& resour
     case PTRN_RDIO:
     case PTRN_CHCK: {
         const SIZE cell = resources.fontCell(parm[CHECK_FONT]);
-        return SIZE{3 * cell.cy / 2 + cell.cx * LongestText(item), cell.cy};
+        return SIZE{3 * cell.cy / 2 + cell.cx * longestText(item), cell.cy};
     }
     case PTRN_MARK:
         return Resources::markSize(parm[MARK_NUMBER4]);
@@ -42,10 +43,11 @@ std::optional<SIZE> NaturalSize(const PatternItem& item, const Resources& resour
     }
 }
 
-// What would draw outside of itself or, worse, backwards.
-bool Fits(const std::int32_t* parm, int type)
+// Others would draw outside of themselves or, worse, backwards.
+bool Placement::fits(const PatternItem& item)
 {
-    if (type != PTRN_BARG)
+    const std::int32_t* parm = item.record.Parm;
+    if (item.record.Type != PTRN_BARG)
         return true;
     const int inset = 2 * parm[BARG_FRAME_WIDTH];
     const int width = parm[PARM_X2] - parm[PARM_X1] - inset;
@@ -53,8 +55,6 @@ bool Fits(const std::int32_t* parm, int type)
     const int along = parm[BARG_HORIZONTAL] ? width : height;
     return width >= 0 && height >= 0 && along >= parm[BARG_NEEDLE_WIDTH];
 }
-
-} // namespace
 
 void Placement::read(const Entry& entry, const std::string& label, Diagnostics& diagnostics)
 {
@@ -80,14 +80,14 @@ bool Placement::finish(PatternItem& item, const ItemSchema& schema, const Resour
         return false;
     std::int32_t* parm = item.record.Parm;
     if (item.record.Type == PTRN_FCHR && parm[FIELD_WIDTH] == 0)
-        parm[FIELD_WIDTH] = LongestText(item);
+        parm[FIELD_WIDTH] = longestText(item);
 
     if (!rect_ && !at_) {
         diagnostics.error(item.place, label + " has no place. Write 'rect', or 'at' and 'size'.");
         return false;
     }
     if (!rect_) {
-        const std::optional<SIZE> natural = NaturalSize(item, resources);
+        const std::optional<SIZE> natural = naturalSize(item, resources);
         if (!size_ && !natural) {
             diagnostics.error(item.place,
                               label + " has 'at' but no 'size'. A " + schema.name + " needs both.");
@@ -114,7 +114,7 @@ bool Placement::finish(PatternItem& item, const ItemSchema& schema, const Resour
                               (item.record.Type == PTRN_LINE ? "; no line rises to the right." : "."));
         return false;
     }
-    if (!Fits(parm, item.record.Type)) {
+    if (!fits(item)) {
         diagnostics.error(item.place, label + " is too small for its frame and needle. Make it larger.");
         return false;
     }

@@ -23,6 +23,13 @@ class Placement
     bool finish(PatternItem& item, const ItemSchema& schema, const Resources& resources,
                 const std::string& label, Diagnostics& diagnostics);
 
+    /// The size of what an item shows; none for items that fill whatever space they get.
+    static std::optional<SIZE> naturalSize(const PatternItem& item, const Resources& resources);
+    /// Bytes of the longest of an item's texts.
+    static int longestText(const PatternItem& item);
+    /// Whether the item has room for its own frame and needle.
+    static bool fits(const PatternItem& item);
+
     /// Whether corners that are moved that far are still coordinates.
     static bool reaches(const std::int32_t* parm, long long dx, long long dy);
 

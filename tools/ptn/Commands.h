@@ -1,0 +1,9 @@
+// The commands of ptn: their options, and what they print.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+/// Each adds a command to the command line. When the command is given it runs within the parsing, and
+/// `status` becomes the exit status: 0, or 1 when there was an error.
+void AddBuildCommand(CLI::App& app, int& status);
+void AddDumpCommand(CLI::App& app, int& status);

@@ -1,0 +1,17 @@
+// "ptn dump": from what the build makes back to sources.
+#pragma once
+
+#include "tools/ptn/Diagnostics.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+/// Writes the sources of a compiled project into a new folder, builds them and compares.
+/// @return how many files the sources build alike; none after an error. Files that would differ are
+///         reported as warnings
+std::optional<int> DumpProject(const std::filesystem::path& project, const std::filesystem::path& output,
+                               Diagnostics& diagnostics);
+
+/// The source of one pattern file, with the names of the project that it lies in.
+std::optional<std::string> DumpPattern(const std::filesystem::path& file, Diagnostics& diagnostics);
