@@ -70,7 +70,7 @@ GtkWidget* NewArea(GtkWidget* top, RECT rect)
 void RaiseChildren(const CPtrnDisp& wnd)
 {
     for (const CPtrnDisp* child : {wnd.ChildWnd1, wnd.ChildWnd2}) {
-        if (!child || !child->Widget || !child->Widget->window)
+        if (!child || !child->Widget || !GTK_WIDGET_REALIZED(child->Widget))
             continue;
         gdk_window_raise(child->Widget->window);
         RaiseChildren(*child);
@@ -151,6 +151,8 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     // No background: the server would clear each newly exposed part before the back buffer is copied.
     gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
     gtk_widget_show(top);
-    if (open())
-        gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
+    if (!open())
+        return;
+    gdk_window_set_decorations(top->window, static_cast<GdkWMDecoration>(0));
+    RaiseChildren(*wnd);
 }

@@ -165,6 +165,13 @@ TEST_F(KeyRoute, modifiers_go_with_the_key_as_one_value)
     }
 }
 
+TEST_F(KeyRoute, shift_and_tab_arrive_as_such)
+{
+    edit(NUMBER);
+    key(XK_Tab, {XK_Shift_L}); // the server calls it ISO_Left_Tab
+    EXPECT_THAT(callsOf({"keyfunc"}), ElementsAre("keyfunc 65289 1 100"));
+}
+
 // --- without a window manager ----------------------------------------------------------------------
 
 namespace

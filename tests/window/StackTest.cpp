@@ -225,6 +225,32 @@ TEST_F(Stack, exits_children_of_children_first)
     EXPECT_THAT(user.windows(), IsEmpty());
 }
 
+TEST_F(Stack, children_that_an_init_hook_opens_lie_above_their_window)
+{
+    hooks.init = [](CPtrnDisp& wnd) {
+        if (wnd.PtrnType == KIND_APPLICATION)
+            wnd.PtrnDispChild(1, "a", 20, 20, nullptr, 0);
+        else if (wnd.PtrnType == KIND_CHILD1)
+            wnd.PtrnDispChild(2, "b", 40, 30, nullptr, 0);
+    };
+    openTop("top");
+    const auto windows = user.windows();
+    ASSERT_EQ(windows.size(), 3u);
+    EXPECT_EQ(windows[0].title, "top");
+    EXPECT_EQ(windows[1].title, "a");
+    EXPECT_EQ(windows[2].title, "b");
+}
+
+TEST_F(Stack, the_system_window_stays_above_an_application_window_that_is_opened_later)
+{
+    know(Pattern("large").size(800, 600).header(HEDR_KIND, 0));
+    openSystem("a");
+    openTop("large");
+    const auto windows = user.windows();
+    ASSERT_EQ(windows.size(), 2u);
+    EXPECT_EQ(windows[1].title, "a");
+}
+
 // --- messages --------------------------------------------------------------------------------------
 
 TEST_F(Stack, sends_messages_by_number)
