@@ -27,12 +27,7 @@ struct Look {
     std::function<void(CPaintDraw&)> wiped = nullptr;
 };
 
-std::ostream& operator<<(std::ostream& out, const Look& look)
-{
-    return out << look.name;
-}
-
-Pattern item(int type)
+Pattern made(int type)
 {
     return Pattern("p").item(type, 10, 20, 90, 70).code("A").text("file");
 }
@@ -63,14 +58,14 @@ Look shape(const char* name, int type, bool filled)
         else
             target.DrawCrcl(10, 20, 90, 70, 3, 0, outline, fill);
     };
-    return {name, item(type).parm(SHAPE_WIDTH, 3).parm(SHAPE_FILLED, filled),
+    return {name, made(type).parm(SHAPE_WIDTH, 3).parm(SHAPE_FILLED, filled),
             [=](CPaintDraw& target, int c) { draw(target, 4 + c, filled ? 8 + c : NONE); }, nullptr,
             [=](CPaintDraw& target, const char*) { draw(target, CLEAR, CLEAR); }};
 }
 
 Look barGraph(const char* name, int needle)
 {
-    return {name, item(PTRN_BARG).parm(BARG_NEEDLE_WIDTH, needle), [=](CPaintDraw& draw, int c) {
+    return {name, made(PTRN_BARG).parm(BARG_NEEDLE_WIDTH, needle), [=](CPaintDraw& draw, int c) {
                 box(draw, 8 + c);
                 if (needle)
                     draw.DrawLine(10, 45, 90, 45, 0, needle, 0, 4 + c);
@@ -83,7 +78,7 @@ Look barGraph(const char* name, int needle)
 Look text(const char* name, int type, const std::string& shown, bool backed)
 {
     const bool field = type != PTRN_FCHR;
-    return {name, item(type).parm(FIELD_WIDTH, 6).parm(TEXT_BACKED, backed),
+    return {name, made(type).parm(FIELD_WIDTH, 6).parm(TEXT_BACKED, backed),
             [=](CPaintDraw& draw, int c) {
                 if (field && backed)
                     draw.DrawRect(10, 20, 58, 36, 0, 0, 8 + c, 8 + c);
@@ -98,7 +93,7 @@ Look text(const char* name, int type, const std::string& shown, bool backed)
 
 Look check(const char* name, int type, int mark, bool backed)
 {
-    return {name, item(type).parm(CHECK_BACKED, backed),
+    return {name, made(type).parm(CHECK_BACKED, backed),
             [=](CPaintDraw& draw, int c) {
                 const int locked = c % 2;
                 draw.DrawMark(10, 20, 26, 36, 4 + locked, backed ? 6 + locked : NONE, mark);
@@ -110,7 +105,7 @@ Look check(const char* name, int type, int mark, bool backed)
 Look mark(const char* name, bool backed)
 {
     return {name,
-            item(PTRN_MARK).parm(MARK_BACKED, backed),
+            made(PTRN_MARK).parm(MARK_BACKED, backed),
             [=](CPaintDraw& draw, int c) {
                 draw.DrawMark(10, 20, 90, 70, 4 + c, backed ? 8 + c : NONE, 350 + c);
             },
@@ -133,12 +128,12 @@ void drawScrollBar(CPaintDraw& draw, int)
 std::vector<Look> looks()
 {
     return {
-        {"group_box", item(PTRN_GBOX),
+        {"group_box", made(PTRN_GBOX),
          [](CPaintDraw& draw, int c) {
              draw.DrawGbox(10, 20, 90, 70, 2, 2, 2, 2, 8 + c, 12 + c, 16 + c, 20 + c, 4 + c);
          },
          nullptr},
-        {"line", item(PTRN_LINE).parm(LINE_WIDTH, 3).parm(LINE_TYPE, 1),
+        {"line", made(PTRN_LINE).parm(LINE_WIDTH, 3).parm(LINE_TYPE, 1),
          [](CPaintDraw& draw, int c) { draw.DrawLine(10, 20, 90, 70, 1, 3, 0, 4 + c); }, nullptr,
          [](CPaintDraw& draw, const char*) { draw.DrawLine(10, 20, 90, 70, 1, 3, 0, CLEAR); }},
         shape("rectangle", PTRN_RECT, false),
@@ -153,7 +148,7 @@ std::vector<Look> looks()
         text("backed_variable_text", PTRN_CHAR, "cell", true),
         text("numeric_field", PTRN_NUMR, "    50", false),
         text("backed_numeric_field", PTRN_NUMR, "    50", true),
-        {"push_button", item(PTRN_BUTN),
+        {"push_button", made(PTRN_BUTN),
          [](CPaintDraw& draw, int c) {
              draw.DrawButn(10, 20, 90, 70, 2, 4, 5, 6, c % 2 ? 8 : 7, NONE, 0, "file");
          },
@@ -162,13 +157,13 @@ std::vector<Look> looks()
         check("backed_radio_button", PTRN_RDIO, 350, true),
         check("check_box", PTRN_CHCK, 353, false),
         check("backed_check_box", PTRN_CHCK, 353, true),
-        {"bitmap", item(PTRN_BMAP).text("two.ppm"),
+        {"bitmap", made(PTRN_BMAP).text("two.ppm"),
          [](CPaintDraw& draw, int) { draw.DrawBmap(10, 20, 90, 70, NONE, "two.ppm"); }, nullptr},
         mark("mark", false),
         mark("backed_mark", true),
-        {"scroll_bar", item(PTRN_SBAR).parm(SBAR_ARROWS, 0), drawScrollBar, nullptr},
-        {"absent_scroll_bar", item(PTRN_SBAR).parm(SBAR_TOTAL, 10), nothing, nullptr},
-        {"spin_button", item(PTRN_SPIN),
+        {"scroll_bar", made(PTRN_SBAR).parm(SBAR_ARROWS, 0), drawScrollBar, nullptr},
+        {"absent_scroll_bar", made(PTRN_SBAR).parm(SBAR_TOTAL, 10), nothing, nullptr},
+        {"spin_button", made(PTRN_SPIN),
          [](CPaintDraw& draw, int) { draw.DrawXpm(10, 20, 90, 70, XPM_SpinButn); }, nullptr},
     };
 }
@@ -208,7 +203,7 @@ std::vector<State> states()
     return all;
 }
 
-class ItemInState : public ItemCanvas, public testing::WithParamInterface<Look>
+class ItemInState : public ItemCanvas
 {
   protected:
     ItemInState()
@@ -219,18 +214,23 @@ class ItemInState : public ItemCanvas, public testing::WithParamInterface<Look>
         setText(1, "cell");
     }
 
-    /// A new window, with the cell's state as it is.
+    void use(const Look& look)
+    {
+        load(look.pattern);
+        loaded_ = item();
+    }
+
+    /// A new window, with the cell's state as it is: the item is as it was loaded.
     void open()
     {
-        load(GetParam().pattern);
+        item() = loaded_;
         clear();
         data().DispPtrnData(canvas.draw());
     }
 
     /// Draws on the model what the item looks like; `text` is what an eraser finds in the item.
-    void modelLook(const State& state, const char* text, bool update)
+    void modelLook(const Look& look, const State& state, const char* text, bool update)
     {
-        const Look& look = GetParam();
         CPaintDraw& draw = *model.draw();
         if (state.hidden) {
             if (look.erased)
@@ -245,58 +245,71 @@ class ItemInState : public ItemCanvas, public testing::WithParamInterface<Look>
             look.drawn(draw, state.colour);
         }
     }
-};
 
-INSTANTIATE_TEST_SUITE_P(Types, ItemInState, testing::ValuesIn(looks()),
-                         [](const auto& info) { return std::string(info.param.name); });
+  private:
+    PTRNDATA loaded_{};
+};
 
 } // namespace
 
-TEST_P(ItemInState, looks_in_a_new_window_as_its_state_tells)
+TEST_F(ItemInState, looks_in_a_new_window_as_its_state_tells)
 {
-    for (const State& state : states()) {
-        setState(1, 0);
-        state.apply();
-        open();
-        modelLook(state, "file", false);
-        ASSERT_TRUE(asModelled()) << state;
+    for (const Look& look : looks()) {
+        use(look);
+        for (const State& state : states()) {
+            setState(1, 0);
+            state.apply();
+            open();
+            modelLook(look, state, "file", false);
+            ASSERT_TRUE(asModelled()) << look.name << ", " << state;
+        }
     }
 }
 
-TEST_P(ItemInState, is_changed_by_a_tick_as_its_state_tells)
+TEST_F(ItemInState, is_changed_by_a_tick_as_its_state_tells)
 {
-    for (const State& state : states()) {
-        setState(1, 0);
-        open();
-        state.apply();
-        data().UpdtPtrnData(canvas.draw());
+    for (const Look& look : looks()) {
+        use(look);
+        for (const State& state : states()) {
+            setState(1, 0);
+            open();
+            state.apply();
+            data().UpdtPtrnData(canvas.draw());
 
-        modelLook(State{}, "file", false);
-        const bool changed = Get_wData(1, nullptr, 0) != 0;
-        if (changed && !state.frozen)
-            modelLook(state, data().PtrnData[0].Text, true);
-        ASSERT_TRUE(asModelled()) << state;
+            modelLook(look, State{}, "file", false);
+            const bool changed = Get_wData(1, nullptr, 0) != 0;
+            if (changed && !state.frozen)
+                modelLook(look, state, data().PtrnData[0].Text, true);
+            ASSERT_TRUE(asModelled()) << look.name << ", " << state;
+        }
     }
 }
 
-TEST_P(ItemInState, is_erased_with_the_text_that_it_showed_last)
+TEST_F(ItemInState, keeps_the_text_that_it_showed_last_for_the_eraser)
 {
-    open();
-    const int type = val(data().PtrnData[0].Type);
-    EXPECT_STREQ(data().PtrnData[0].Text, type == PTRN_CHAR   ? "cell"
-                                          : type == PTRN_NUMR ? "    50"
-                                          : type == PTRN_BMAP ? "two.ppm"
-                                                              : "file");
+    for (const Look& look : looks()) {
+        use(look);
+        open();
+        const int type = val(data().PtrnData[0].Type);
+        EXPECT_STREQ(data().PtrnData[0].Text, type == PTRN_CHAR   ? "cell"
+                                              : type == PTRN_NUMR ? "    50"
+                                              : type == PTRN_BMAP ? "two.ppm"
+                                                                  : "file")
+            << look.name;
+    }
 }
 
-TEST_P(ItemInState, does_not_change_with_bits_that_mean_nothing)
+TEST_F(ItemInState, does_not_change_with_bits_that_mean_nothing)
 {
-    for (const int meaningless : {0x0004, 0x0400, 0x07FC, STATE_NEVER}) {
+    for (const Look& look : looks()) {
+        use(look);
         setState(1, 2);
         open();
         const Picture plain = canvas.picture();
-        setState(1, 2 | meaningless);
-        open();
-        EXPECT_TRUE(same(canvas.picture(), plain)) << meaningless;
+        for (const int meaningless : {0x0004, 0x0400, 0x07FC, STATE_NEVER}) {
+            setState(1, 2 | meaningless);
+            open();
+            EXPECT_TRUE(same(canvas.picture(), plain)) << look.name << ", " << meaningless;
+        }
     }
 }
