@@ -1,8 +1,10 @@
 #include "tools/ptn/Commands.h"
 
 #include "tools/ptn/Build.h"
+#include "tools/ptn/Check.h"
 #include "tools/ptn/Dump.h"
 #include "tools/ptn/Files.h"
+#include "tools/ptn/Help.h"
 
 #include <iostream>
 #include <memory>
@@ -67,6 +69,30 @@ int RunDump(const Paths& paths)
                                                        : DumpToFile(paths, diagnostics);
 }
 
+int RunCheck(const std::string& folder, const std::string& registry)
+{
+    Diagnostics diagnostics;
+    const int patterns = Check(folder, registry, diagnostics);
+    diagnostics.print(std::cerr);
+    const int found = diagnostics.errors() + diagnostics.warnings();
+    std::cout << folder << ": " << patterns << (patterns == 1 ? " screen, " : " screens, ")
+              << (found ? std::to_string(found) : std::string("nothing")) << " found.\n";
+    return found ? 1 : 0;
+}
+
+int RunHelp(const std::string& topic, const std::string& type)
+{
+    if (topic != "attributes") {
+        std::cerr << "ptn: no help on '" << topic << "'. Write: ptn help attributes [TYPE]\n";
+        return 1;
+    }
+    if (PrintAttributes(type, std::cout))
+        return 0;
+    std::cerr << "ptn: no type '" << type << "'. The types are:\n";
+    PrintAttributes("", std::cerr);
+    return 1;
+}
+
 } // namespace
 
 void AddBuildCommand(CLI::App& app, int& status)
@@ -97,4 +123,31 @@ void AddDumpCommand(CLI::App& app, int& status)
     dump->footer("The sources of a project are built at once and compared with it; what they do not give\n"
                  "byte for byte is reported. Without -o the source of a pattern is printed.");
     dump->callback([paths, &status] { status = RunDump(*paths); });
+}
+
+void AddCheckCommand(CLI::App& app, int& status)
+{
+    const auto folder = std::make_shared<std::string>();
+    const auto registry = std::make_shared<std::string>();
+    CLI::App* check = app.add_subcommand("check", "Look for mistakes in sources or in a compiled project");
+    check->add_option("WHAT", *folder, "Folder of sources, or project directory")
+        ->required()
+        ->check(CLI::ExistingDirectory);
+    check
+        ->add_option("--registry", *registry,
+                     "C++ source, or folder of sources, that knows the patterns by name; instead of the\n"
+                     "project's section 'registry'")
+        ->check(CLI::ExistingPath);
+    check->footer("Ends with status 1 when it has found something.");
+    check->callback([=, &status] { status = RunCheck(*folder, *registry); });
+}
+
+void AddHelpCommand(CLI::App& app, int& status)
+{
+    const auto topic = std::make_shared<std::string>();
+    const auto type = std::make_shared<std::string>();
+    CLI::App* help = app.add_subcommand("help", "Explain the attributes of items and windows");
+    help->add_option("TOPIC", *topic, "attributes")->required();
+    help->add_option("TYPE", *type, "Item type, or window");
+    help->callback([=, &status] { status = RunHelp(*topic, *type); });
 }

@@ -7,3 +7,5 @@
 /// `status` becomes the exit status: 0, or 1 when there was an error.
 void AddBuildCommand(CLI::App& app, int& status);
 void AddDumpCommand(CLI::App& app, int& status);
+void AddCheckCommand(CLI::App& app, int& status);
+void AddHelpCommand(CLI::App& app, int& status);

@@ -22,7 +22,9 @@ int main(int argc, char** argv)
 
     int status = 0;
     AddBuildCommand(app, status);
+    AddCheckCommand(app, status);
     AddDumpCommand(app, status);
+    AddHelpCommand(app, status);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& problem) {

@@ -1,0 +1,268 @@
+// "ptn check": each mistake with its message; and nothing about screens without mistakes.
+#include "pattern/ItemParm.h"
+#include "tests/ptn/Sources.h"
+#include "tests/support/PatternBuilder.h"
+#include "tests/support/Project.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <ostream>
+
+namespace
+{
+
+using testing::HasSubstr;
+
+class Check : public testing::Test
+{
+  protected:
+    // A screen "a" of 320 x 240 that the profile starts and stops with.
+    Check()
+    {
+        sources.base();
+        profile("a", "a");
+    }
+
+    void profile(const std::string& start, const std::string& stop)
+    {
+        sources.write("profile.yaml",
+                      "profile:\n  PTRN:\n    PTRNSTART: " + start + "\n    PTRNSTOP: " + stop + "\n");
+    }
+
+    static std::string screen(const std::string& items)
+    {
+        return "name: a\nwindow: { size: [320, 240] }\nitems:\n" + items;
+    }
+
+    void expectFinds(const std::string& what, const std::string& arguments = "src")
+    {
+        const PtnResult result = sources.run("check " + arguments);
+        EXPECT_EQ(result.err, what);
+        EXPECT_EQ(result.status, what.empty() ? 0 : 1);
+    }
+
+    Sources sources;
+};
+
+TEST_F(Check, finds_nothing_in_a_screen_without_mistakes)
+{
+    sources.screen(screen("  - { type: group-box, rect: [0, 0, 320, 240] }\n"
+                          "  - { type: text, at: [8, 8], text: Speed }\n"
+                          "  - { type: numeric, at: [80, 8], width: 5, data: A+1, entry: yes }\n"
+                          "  - { type: radio, at: [8, 40], text: x, data: B, value: 1 }\n"
+                          "  - { type: radio, at: [8, 60], text: y, data: B, value: 2 }\n"
+                          "  - { type: scroll-bar, rect: [8, 100, 200, 120], data: A }\n"
+                          "  - { type: button, rect: [8, 200, 80, 232], text: Close, action: close }\n"));
+    expectFinds("");
+    EXPECT_EQ(sources.run("check src").out, "src: 1 screen, nothing found.\n");
+    ASSERT_EQ(sources.build().status, 0);
+    expectFinds("", "out/ProjPath");
+}
+
+struct Case {
+    const char* name;
+    const char* items;   ///< of the screen, from line 4 on
+    const char* message; ///< the only one, without the file's name
+};
+
+void PrintTo(const Case& one, std::ostream* out)
+{
+    *out << one.name;
+}
+
+class CheckItem : public Check, public testing::WithParamInterface<Case>
+{
+};
+
+TEST_P(CheckItem, names_place_and_remedy)
+{
+    sources.screen(screen(GetParam().items));
+    expectFinds(std::string("src/screens/a.yaml") + GetParam().message + "\n");
+}
+
+const Case cases[] = {
+    {"unknown_attribute", "  - { type: line, rect: [1, 1, 2, 2], colour: hot }\n",
+     ":4: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
+    {"character_that_euc_lacks", u8"  - { type: text, at: [1, 1], text: 한 }\n",
+     u8":4: item 1 (text): 'text': EUC-JP has no '한' (U+D55C). Use another character."},
+    {"unknown_code", "  - { type: spin, rect: [1, 1, 20, 20], exact: { code: X } }\n",
+     ":4: spin at 1,1: no code 'X', so it is bound to nothing. Add it to 'codes' or use another."},
+    {"offset", "  - { type: spin, rect: [1, 1, 20, 20], exact: { code: B, offset: 3 } }\n",
+     ":4: spin at 1,1: code 'B' has 3 cells, so there is no +3. Correct the offset or extend the code."},
+    {"type", "  - { type: 16, rect: [1, 1, 20, 20] }\n",
+     ":4: item of type 16 at 1,1: no such type, so nothing is drawn. Use a type from 1 to 15."},
+    {"colour", "  - { type: line, rect: [1, 1, 20, 1], parm: { 4: 100 } }\n",
+     ":4: line at 1,1: 'color' is 100, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
+    {"font_number", "  - { type: text, at: [1, 1], text: x, parm: { 15: 20 } }\n",
+     ":4: text at 1,1: 'font' is 20, outside 0 to 19, which ends the panel when it is drawn. Correct it."},
+    {"mark", "  - { type: mark, rect: [1, 1, 33, 33], parm: { 15: 354 } }\n",
+     ":4: mark at 1,1: 'mark' is 354, outside 0 to 353, which ends the panel when it is drawn. Correct it."},
+    {"thickness", "  - { type: line, rect: [1, 1, 20, 1], parm: { 15: 0 } }\n",
+     ":4: line at 1,1: 'width' is 0, outside 1 to 98, which ends the panel when it is drawn. Correct it."},
+    {"number", "  - { type: button, rect: [1, 1, 20, 20], parm: { 27: 13 } }\n",
+     ":4: button at 1,1: 'key' is 13, outside 0 to 12. Correct it."},
+    {"font_without_a_name", "  - { type: text, at: [1, 1], text: x, parm: { 15: 7 } }\n",
+     ":4: text at 1,1: its font, number 7, has no name in language 0, so no text is drawn. Name it in "
+     "'fonts'.\nsrc/screens/a.yaml:4: text at 1,1: its font, number 7, has no name in language 1, so no text "
+     "is drawn. Name it in 'fonts'.\nsrc/screens/a.yaml:4: text at 1,1: its font, number 7, has no name in "
+     "language 2, so no text is drawn. Name it in 'fonts'."},
+    {"pass", "  - { type: line, rect: [1, 1, 20, 1], parm: { 28: 2 } }\n",
+     ":4: line at 1,1: 'pass' is 2, in which nothing is ever drawn. Write 'back' or 'front'."},
+    {"bitmap", "  - { type: bitmap, rect: [1, 1, 20, 20], exact: { text: x.png } }\n",
+     ":4: bitmap at 1,1: its bitmap 'x.png' is not among the bitmaps, so nothing is drawn. Put the file "
+     "there "
+     "or correct the name."},
+    {"text_too_long_for_the_panel",
+     "  - { type: mark, rect: [1, 1, 20, 20], exact: { text: "
+     "123456789_123456789_123456789_123456789_123456789_123456789_123456789_123456789_123456789_123456789_1 "
+     "} }\n",
+     ":4: mark at 1,1: its text has 101 bytes; the panel keeps 100. Shorten it."},
+    {"bytes_that_are_no_text", "  - { type: mark, rect: [1, 1, 20, 20], exact: { text: { bytes: FFFF } } }\n",
+     ":4: mark at 1,1: its text has bytes that are no EUC-JP. Write it anew."},
+    {"action_number", "  - { type: spin, rect: [1, 1, 20, 20], action: 17 }\n",
+     ":4: spin at 1,1: action 17 does nothing. Use one from 0 to 16."},
+    {"action_that_opens_nothing",
+     "  - { type: spin, rect: [1, 1, 20, 20], exact: { action: 8, pattern: x } }\n",
+     ":4: spin at 1,1: no screen is named 'x', which this item opens. Correct the name or add the screen."},
+    {"version_window", "  - { type: spin, rect: [1, 1, 20, 20], action: version }\n",
+     u8":4: spin at 1,1: opens the screen 'バージョン情報', which is not there. Add it, or take the action "
+     u8"away."},
+    {"scroll_bar", "  - { type: scroll-bar, rect: [1, 1, 100, 20], visible: 5, total: 5 }\n",
+     ":4: scroll-bar at 1,1: 'total' is 5 and 'visible' 5, by which the thumb's place would be divided by "
+     "zero. Make 'total' larger."},
+    {"bar_graph", "  - { type: bar-graph, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
+     ":4: bar-graph at 1,1: 'minimum' is not below 'maximum', so the bar stays empty. Exchange them."},
+    {"spin", "  - { type: spin, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
+     ":4: spin at 1,1: 'minimum' is above 'maximum', so the value jumps between them. Exchange them."},
+    {"entry_without_a_cell", "  - { type: numeric, at: [1, 1], width: 3, entry: yes }\n",
+     ":4: numeric at 1,1: 'entry' has nowhere to store what is typed. Name a cell with 'data'."},
+    {"outside", "  - { type: line, rect: [400, 1, 420, 1] }\n",
+     ":4: line at 400,1: lies outside the pattern of 320 x 240 pixels, to 420,1. Move it, or enlarge the "
+     "window."},
+    {"beyond", "  - { type: text, at: [300, 1], text: Speed }\n",
+     ":4: text at 300,1: reaches beyond the pattern of 320 x 240 pixels, to 335,15. Move it, or enlarge the "
+     "window."},
+    {"frame",
+     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: numeric, at: [20, 16], width: 6 }\n",
+     ":5: numeric at 20,16: reaches 62,30, beyond its frame, which ends at 60,40. Make it narrower, or the "
+     "frame larger."},
+    {"caption", "  - { type: button, rect: [8, 8, 60, 40], text: Overflowing, indent: 4 }\n",
+     ":4: button at 8,8: its caption needs 81 pixels and has 52. Shorten it or widen the button."},
+    {"radio",
+     "  - { type: radio, at: [8, 8], text: x, data: B+1, value: 4 }\n"
+     "  - { type: radio, at: [8, 30], text: y, data: B+1, value: 4 }\n",
+     ":5: radio at 8,30: has the value 4, as the radio at 8,8 has, so both are on together. Give it another "
+     "'value'."},
+    {"hidden_by_its_type",
+     "  - { type: button, rect: [8, 8, 60, 40], text: x }\n  - { type: mark, at: [10, 8], mark: dot }\n",
+     ":5: mark at 10,8: is hidden below the button at 8,8, which is drawn later. Move one of them, or draw "
+     "it "
+     "in the front pass."},
+    {"hidden_by_its_place",
+     "  - { type: group-box, rect: [10, 10, 20, 20] }\n  - { type: group-box, rect: [8, 8, 60, 40] }\n",
+     ":4: group-box at 10,10: is hidden below the group-box at 8,8, which is drawn later. Move one of them, "
+     "or draw it in the front pass."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(cases),
+                         [](const testing::TestParamInfo<Case>& info) { return info.param.name; });
+
+TEST_F(Check, lets_a_box_with_a_cell_of_its_own_hide_others_since_it_may_be_hidden_itself)
+{
+    sources.screen(screen("  - { type: group-box, rect: [10, 10, 20, 20] }\n"
+                          "  - { type: group-box, rect: [8, 8, 60, 40], data: A }\n"));
+    expectFinds("");
+}
+
+TEST_F(Check, finds_items_in_the_title_bar)
+{
+    sources.screen("name: a\nwindow: { size: [320, 240], title-height: 40 }\nitems:\n"
+                   "  - { type: line, rect: [8, 39, 40, 39] }\n");
+    expectFinds("src/screens/a.yaml:4: line at 8,39: lies in the title bar, which is 40 high. Move it "
+                "down.\n");
+}
+
+TEST_F(Check, finds_screens_that_nothing_opens)
+{
+    sources.screen(screen("  - { type: spin, rect: [1, 1, 20, 20], action: open-child-1, pattern: b }\n"));
+    sources.write("screens/b.yaml", "name: b\n").write("screens/c.yaml", "name: c\n");
+    expectFinds("src/screens/c.yaml:1: the screen 'c' can not be reached: no action of another screen opens "
+                "it, and no 'registry' tells what the program opens. Add an action, or remove the screen.\n");
+}
+
+TEST_F(Check, asks_the_registry_of_the_program_which_screens_it_knows)
+{
+    sources.screen(screen("  - { type: spin, rect: [1, 1, 20, 20], action: open-child-1, pattern: b }\n"));
+    sources.write("screens/b.yaml", "name: b\n")
+        .write("screens/c.yaml", u8"name: 表\n")
+        .write("screens/d.yaml", "name: d\n")
+        .write("Registry.cpp", u8"{\"a\", Make<A>}, {\"表\", Make<B>},\n");
+    const std::string expected =
+        "src/screens/a.yaml:4: spin at 1,1: the program's registry does not know 'b', so nothing opens. Add "
+        "it "
+        "there.\n"
+        "src/screens/d.yaml:1: the screen 'd' can not be reached: no action of another screen opens it and "
+        "the program's registry does not know it. Add an action, or remove the screen.\n";
+    expectFinds(expected, "--registry src/Registry.cpp src");
+    sources.write("registry.yaml", "registry: Registry.cpp\n");
+    expectFinds(expected);
+    sources.write("Registry.cpp", "\"b\" \"d\"");
+    EXPECT_THAT(
+        sources.run("check src").err,
+        HasSubstr("profile key 'PTRNSTART': the program's registry does not know 'a'. Add it there."));
+}
+
+TEST_F(Check, finds_a_profile_that_names_no_screens)
+{
+    profile("''", "x");
+    sources.screen(screen(""));
+    EXPECT_THAT(
+        sources.run("check src").err,
+        testing::AllOf(HasSubstr("src/profile.yaml:3: profile key 'PTRNSTART': no pattern is named, so "
+                                 "the panel shows nothing. Write the name of a screen.\n"),
+                       HasSubstr("src/profile.yaml:4: profile key 'PTRNSTOP': no screen is named 'x'. "
+                                 "Use the 'name' of a screen.\n")));
+}
+
+TEST_F(Check, finds_the_same_in_a_compiled_project_by_the_number_of_the_item)
+{
+    sources.screen(screen(""));
+    ASSERT_EQ(sources.build().status, 0);
+    writeFile(sources.output() + "/a.ptn", Pattern("a")
+                                               .item(PTRN_LINE, 1, 1, 9, 9)
+                                               .item(PTRN_MARK, 1, 1, 9, 9)
+                                               .parm(MARK_NUMBER4, 400)
+                                               .item(PTRN_BUTN, 20, 20, 40, 40)
+                                               .action(7, "nowhere")
+                                               .bytes());
+    expectFinds("out/ProjPath/a.ptn: item 2, mark at 1,1: 'mark' is 400, outside 0 to 353, which ends the "
+                "panel when it is drawn. Correct it.\n"
+                "out/ProjPath/a.ptn: item 3, button at 20,20: no screen is named 'nowhere', which this item "
+                "opens. Correct the name or add the screen.\n",
+                "out/ProjPath");
+}
+
+TEST_F(Check, of_a_damaged_pattern_says_so_and_goes_on)
+{
+    sources.screen(screen(""));
+    ASSERT_EQ(sources.build().status, 0);
+    writeFile(sources.output() + "/b.ptn", "short");
+    expectFinds("out/ProjPath/b.ptn: not a whole pattern file: it ends within its header. Get an undamaged "
+                "copy.\n",
+                "out/ProjPath");
+}
+
+TEST_F(Check, help_names_every_attribute_of_a_type)
+{
+    const PtnResult help = sources.run("help attributes radio");
+    EXPECT_EQ(help.status, 0);
+    for (const char* text : {"color-locked", "the value that this button stands for", "rect", "clear",
+                             "back | front; default back"})
+        EXPECT_THAT(help.out, HasSubstr(text));
+    EXPECT_THAT(sources.run("help attributes window").out, HasSubstr("kanji-seconds"));
+    EXPECT_THAT(sources.run("help attributes").out, HasSubstr("open-application"));
+    EXPECT_EQ(sources.run("help attributes lamp").status, 1);
+}
+
+} // namespace
