@@ -4,12 +4,10 @@
 
 #include <filesystem>
 #include <gmock/gmock.h>
-#include <memory>
 #include <X11/Xlib.h>
 
 using testing::AllOf;
 using testing::AnyOf;
-using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
