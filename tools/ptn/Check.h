@@ -23,6 +23,8 @@ RECT DrawnRect(const PatternItem& item, const ProjectSource& project);
 
 /// Each item for itself: values, texts, cell, bitmap, font.
 void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
+/// Only what would end the panel when it draws the pattern.
+void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
 /// Items of a screen beside each other: places, frames, radio groups, what lies below what.
 void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
 /// Screens beside each other: what opens what, and what the program knows.

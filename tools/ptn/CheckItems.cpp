@@ -3,6 +3,7 @@
 #include "pattern/ItemSchema.h"
 #include "tools/ptn/Check.h"
 #include "tools/ptn/EucName.h"
+#include "tools/ptn/Placement.h"
 
 #include <algorithm>
 
@@ -45,11 +46,12 @@ class Checker
 
     void say(const std::string& what) { diagnostics_.error(place_, label_ + ": " + what); }
 
-    void values(SchemaTable<ParmSchema> parms, const std::int32_t* values)
+    void values(SchemaTable<ParmSchema> parms, const std::int32_t* values, bool onlyFatal = false)
     {
         for (const ParmSchema& parm : parms) {
             const bool used = parm.enable < 0 || values[parm.enable] != 0;
-            if (!used || parm.index == PARM_PASS || std::string(parm.name) == "last-mark")
+            if ((onlyFatal && !EndsProgram(parm)) || !used || parm.index == PARM_PASS ||
+                std::string(parm.name) == "last-mark")
                 continue;
             for (int i = parm.index; i < parm.index + parm.count; ++i) {
                 if (IsValid(parm, values[i]))
@@ -122,6 +124,13 @@ class Checker
     Diagnostics& diagnostics_;
 };
 
+void CheckRoom(const PatternItem& item, Checker& checker)
+{
+    if (!Placement::fits(item))
+        checker.say("is too small for its frame and needle, which ends the panel when it is drawn. Make it "
+                    "larger.");
+}
+
 // What the parameters of single types may not be.
 void CheckType(const PatternItem& item, Checker& checker)
 {
@@ -174,6 +183,22 @@ template <std::size_t N> std::string FieldOf(const char (&field)[N])
 
 } // namespace
 
+void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
+{
+    Checker window(pattern.place, "the window", project, diagnostics);
+    window.values(HeaderParms(), pattern.header.Parm1, true);
+    for (std::size_t i = 0; i < pattern.items.size(); ++i) {
+        const PatternItem& item = pattern.items[i];
+        Checker checker(item.place, ItemName(item, i), project, diagnostics);
+        const ItemSchema* schema = FindItemSchema(item.record.Type);
+        if (!schema)
+            continue;
+        checker.values(schema->parms, item.record.Parm, true);
+        checker.values(CommonParms(), item.record.Parm, true);
+        CheckRoom(item, checker);
+    }
+}
+
 void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
 {
     Checker window(pattern.place, "the window", project, diagnostics);
@@ -218,6 +243,7 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         if (!FindAction(item.record.ID_Type))
             checker.say("action " + std::to_string(item.record.ID_Type) +
                         " does nothing. Use one from 0 to 16.");
+        CheckRoom(item, checker);
         CheckType(item, checker);
     }
 }

@@ -9,3 +9,4 @@ void AddBuildCommand(CLI::App& app, int& status);
 void AddDumpCommand(CLI::App& app, int& status);
 void AddCheckCommand(CLI::App& app, int& status);
 void AddHelpCommand(CLI::App& app, int& status);
+void AddRenderCommand(CLI::App& app, int& status);

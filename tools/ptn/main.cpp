@@ -24,6 +24,7 @@ int main(int argc, char** argv)
     AddBuildCommand(app, status);
     AddCheckCommand(app, status);
     AddDumpCommand(app, status);
+    AddRenderCommand(app, status);
     AddHelpCommand(app, status);
     try {
         app.parse(argc, argv);

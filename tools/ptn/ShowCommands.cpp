@@ -1,0 +1,61 @@
+// The commands that draw.
+#include "tools/ptn/Commands.h"
+#include "tools/ptn/Render.h"
+
+#include <iostream>
+#include <memory>
+
+namespace
+{
+
+struct RenderOptions {
+    std::string project;
+    std::string pattern;
+    std::string output;
+    std::string state;
+    int language = -1;
+    bool all = false;
+};
+
+int RunRender(const RenderOptions& options)
+{
+    if (options.all != options.pattern.empty()) {
+        std::cerr << "ptn: name a screen, or write --all.\n";
+        return 1;
+    }
+    RenderJob job;
+    job.project = options.project;
+    job.pattern = options.pattern;
+    job.output = !options.output.empty() ? options.output : options.all ? "." : options.pattern + ".png";
+    job.state = options.state;
+    if (options.language >= 0)
+        job.language = options.language;
+    Diagnostics diagnostics;
+    const std::vector<std::filesystem::path> files = Render(job, diagnostics);
+    diagnostics.print(std::cerr);
+    for (const auto& file : files)
+        std::cout << file.lexically_proximate(std::filesystem::current_path()).string() << "\n";
+    return diagnostics.failed() ? 1 : 0;
+}
+
+} // namespace
+
+void AddRenderCommand(CLI::App& app, int& status)
+{
+    const auto options = std::make_shared<RenderOptions>();
+    CLI::App* render = app.add_subcommand("render", "Write the picture that the panel would show");
+    render->add_option("PROJECT", options->project, "Folder of sources, or project directory")
+        ->required()
+        ->check(CLI::ExistingDirectory);
+    render->add_option("PATTERN", options->pattern, "Name of the screen");
+    render->add_option("-o,--output", options->output, "PNG file; with --all the folder for them");
+    render->add_option("-s,--state", options->state, "YAML file with the clock and the values of cells")
+        ->check(CLI::ExistingFile);
+    render->add_option("-l,--language", options->language, "Language, instead of the profile's")
+        ->check(CLI::Range(0, 2));
+    render->add_flag("-a,--all", options->all, "Every screen, and contact-sheet.png with all of them");
+    render->footer(
+        "Drawn by the framework itself, without what screen classes add. Without $DISPLAY a private\n"
+        "Xvfb is started.");
+    render->callback([options, &status] { status = RunRender(*options); });
+}
