@@ -131,14 +131,16 @@ CellRules plainNumericField(Pattern& pattern, Random& random)
     return rules;
 }
 
-CellRules plainButton(Pattern& pattern, Random& random)
+CellRules plainButton(Pattern& pattern, Random& random, int x, int y)
 {
     CellRules rules;
+    const int width = random.between(areaWidth / 2, areaWidth);
     const std::string caption = randomText(random, 6);
-    const int indent = random.between(-1, 20);
-    pattern.parm(BUTN_WIDTH, random.below(6)).text(caption).parm(BUTN_POST, indent);
+    const int indent = random.between(-1, 15);
+    pattern.parm4(PARM_X1, x, y, x + width, y + areaHeight).parm(BUTN_WIDTH, random.below(6));
+    pattern.text(caption).parm(BUTN_POST, indent);
     // A caption that reaches beyond the button stays when the button goes.
-    const bool fits = static_cast<int>(caption.size()) * largestHalf + std::max(indent, 0) <= areaWidth / 2;
+    const bool fits = static_cast<int>(caption.size()) * largestHalf + std::max(indent, 0) <= width;
     rules.hide = rules.disable = fits;
     return rules;
 }
@@ -269,7 +271,7 @@ CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
     case PTRN_BARG:
         return plainBarGraph(pattern, random, x, y);
     case PTRN_BUTN:
-        return plainButton(pattern, random);
+        return plainButton(pattern, random, x, y);
     case PTRN_BMAP:
         return plainBitmap(pattern, random);
     case PTRN_MARK:
