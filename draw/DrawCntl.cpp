@@ -3,11 +3,16 @@
 
 #include "draw/DrawCheck.h"
 #include "draw/Resource.h"
+#include "shell/Logfile.h"
+#include "shell/LogText.h"
 
 #include <cstdlib>
 
 void DrawCheckFailed(int line, const char* function, const char* condition)
 {
+    // The panel's own log tells too why it ended, with the lines that were still buffered.
+    LogText("DRAWCNTL", nullptr, 0, "%s: assertion failed: (%s)", function, condition);
+    LogfileSave();
     g_log(G_LOG_DOMAIN, G_LOG_LEVEL_ERROR, "file %s: line %d (%s): assertion failed: (%s)", "DrawCntl", line,
           function, condition);
     std::abort();
