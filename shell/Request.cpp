@@ -68,18 +68,6 @@ template <class Make> void OpenBuiltInWnd(const char* name, Make make)
         OpenSystemWnd(make(), name);
 }
 
-/// The system window lies over the application window, also over one that was opened later.
-void RaiseSystemWnd()
-{
-    const auto open = [](const CPtrnDisp* wnd) {
-        return wnd && wnd->Widget && GTK_WIDGET_REALIZED(wnd->Widget);
-    };
-    if (!open(SystmWnd) || !open(AppliWnd))
-        return;
-    gtk_window_set_transient_for(GTK_WINDOW(SystmWnd->Widget), GTK_WINDOW(AppliWnd->Widget));
-    gdk_window_raise(SystmWnd->Widget->window);
-}
-
 } // namespace
 
 void PtrnDispTopWnd(const char* name, const char* file, int line)
@@ -100,7 +88,6 @@ void PtrnDispTopWnd(const char* name, const char* file, int line)
         old->PtrnExit();
         RetirePtrnWnd(old);
     }
-    RaiseSystemWnd();
 }
 
 void PtrnDispSysWnd(const char* name, const char* file, int line)

@@ -1,7 +1,7 @@
 // The toolkit's events turned into the window's calls.
 #include "shell/Request.h"
 #include "window/InputMethod.h"
-#include "window/Keyboard.h"
+#include "window/Manager.h"
 #include "window/PtrnDisp.h"
 #include "window/Retire.h"
 

@@ -4,6 +4,7 @@
 #include "pattern/ItemParm.h"
 #include "shell/LogText.h"
 #include "window/Buffer.h"
+#include "window/Manager.h"
 #include "window/PtrnDisp.h"
 
 #include <algorithm>
@@ -99,10 +100,18 @@ void CPtrnDisp::FollowWindow()
     WindRect.bottom = Shift(WindRect.bottom, dy);
 }
 
+void CPtrnDisp::InsistOnShowing()
+{
+    constexpr int second = 10; // ticks
+    if (!Shown && ++Hidden % second == 0)
+        ShowAgain(Widget);
+}
+
 void CPtrnDisp::TimrEvent()
 {
     if (!Pixmap)
         return;
+    InsistOnShowing();
     FollowWindow();
     PtrnSetCursor(CursorType, nullptr, 0);
     PtrnTimrFunc();

@@ -213,6 +213,8 @@ class CPtrnDisp
   private:
     friend int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);
     friend int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
+    friend int Window_Map(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd);
+    friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
     /// is using it, since a hook of that may close the window.
     std::shared_ptr<CPaintDraw> Draw;
@@ -220,6 +222,8 @@ class CPtrnDisp
     bool Closed = false;     ///< the toolkit window has gone
     bool Configured = false; ///< the window has been placed anew since the last tick
     POINT Reported{};        ///< where
+    bool Shown = false;      ///< the window has come up on the screen
+    int Hidden = 0;          ///< ticks until it does
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
     void PlaceWindow();
@@ -227,6 +231,7 @@ class CPtrnDisp
     void ReleaseBuffer();
     void ClearUncovered(RECT view);
     void FollowWindow();
+    void InsistOnShowing();
     void LeaveWidget();
     void DropKeyInput();
     void ShowKeyInput();
@@ -255,4 +260,5 @@ int Mouse_Wheel(GtkWidget* widget, GdkEventScroll* event, CPtrnDisp* wnd);
 int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
 int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
 int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
+int Window_Map(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd);
 int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);

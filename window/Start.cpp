@@ -1,7 +1,8 @@
 // The toolkit window of a pattern window.
 #include "base/EucText.h"
+#include "shell/Request.h"
 #include "window/InputMethod.h"
-#include "window/Keyboard.h"
+#include "window/Manager.h"
 #include "window/PtrnDisp.h"
 #include "window/Retire.h"
 
@@ -22,12 +23,6 @@ template <class Handler> void Connect(GtkWidget* widget, const char* signal, Han
 int Refuse_Delete(GtkWidget*, GdkEvent*, CPtrnDisp*)
 {
     return TRUE;
-}
-
-int Window_Map(GtkWidget* widget, GdkEvent*, CPtrnDisp*)
-{
-    FreeKeyboard(widget, false);
-    return FALSE;
 }
 
 void Window_Unrealize(GtkWidget* widget, CPtrnDisp*)
@@ -65,6 +60,15 @@ GtkWidget* NewArea(GtkWidget* top, RECT rect)
     return area;
 }
 
+/// The system window lies over the application window, also over one that comes later.
+void KeepAbove(const CPtrnDisp& wnd, GtkWidget* parent)
+{
+    if (!wnd.Widget || !GTK_WIDGET_REALIZED(wnd.Widget))
+        return;
+    gtk_window_set_transient_for(GTK_WINDOW(wnd.Widget), GTK_WINDOW(parent));
+    gdk_window_raise(wnd.Widget->window);
+}
+
 /// Without a window manager the window shown last lies on top, also of the children that its own init hook
 /// has opened.
 void RaiseChildren(const CPtrnDisp& wnd)
@@ -84,6 +88,15 @@ int Window_Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
     wnd->Configured = true;
     wnd->Reported = {event->x, event->y};
     return FALSE; // the toolkit has to know it too
+}
+
+int Window_Map(GtkWidget* widget, GdkEvent*, CPtrnDisp* wnd)
+{
+    wnd->Shown = true;
+    FreeKeyboard(widget, false);
+    if (wnd == AppliWnd && SystmWnd)
+        KeepAbove(*SystmWnd, widget);
+    return FALSE;
 }
 
 int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd)
@@ -125,6 +138,8 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     GtkWidget* area = NewArea(top, rect);
     wnd->Widget = top;
     wnd->DrawArea = area;
+    wnd->Shown = false;
+    wnd->Hidden = 0;
 
     Connect(area, "configure_event", Configure_Event, wnd);
     Connect(area, "expose_event", Expose_Event, wnd);

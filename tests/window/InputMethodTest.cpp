@@ -402,6 +402,23 @@ TEST_F(NoInputMethod, the_x_library_s_own_composing_is_none)
     g_object_set(gtk_settings_get_default(), "gtk-im-module", "", nullptr);
 }
 
+TEST_F(NoInputMethod, a_method_whose_server_does_not_run_leaves_the_keyboard_usable)
+{
+    setenv("GTK_IM_MODULE", "xim", 1);
+    setenv("XMODIFIERS", "@im=nobody", 1);
+    g_object_set(gtk_settings_get_default(), "gtk-im-module", "xim", nullptr);
+    edit(TEXT);
+    type("Ab 1");
+    key(XK_Left);
+    key(XK_BackSpace);
+    EXPECT_EQ(text(), "Ab1     ");
+    key(XK_Return);
+    EXPECT_EQ(string(TEXT), "Ab1    ");
+    setenv("GTK_IM_MODULE", "gtk-im-context-simple", 1);
+    unsetenv("XMODIFIERS");
+    g_object_set(gtk_settings_get_default(), "gtk-im-module", "", nullptr);
+}
+
 TEST_F(NoInputMethod, real_keys_arrive_in_their_order)
 {
     type("Test 1.");

@@ -67,6 +67,7 @@ class KeyEdit : public Screen
     {
         GdkEventKey event{};
         event.type = GDK_KEY_PRESS;
+        event.window = AppliWnd->Widget->window;
         event.keyval = key;
         event.state = state;
         event.is_modifier = modifier;

@@ -1,4 +1,4 @@
-// Who has the keyboard on a display without a window manager.
+// What depends on whether a window manager runs.
 #pragma once
 
 #include <gtk/gtk.h>
@@ -9,3 +9,7 @@
 /// @param top      a realized panel window
 /// @param pressed  the operator has just pressed a button in it
 void FreeKeyboard(GtkWidget* top, bool pressed);
+
+/// Asks once more for a window to be shown: a window manager that is just starting may overlook the first
+/// time, and the window would never come up.
+void ShowAgain(GtkWidget* top);

@@ -1,4 +1,4 @@
-#include "window/Keyboard.h"
+#include "window/Manager.h"
 
 #include <gdk/gdkx.h>
 
@@ -24,4 +24,9 @@ void FreeKeyboard(GtkWidget* top, bool pressed)
     if (owner == PointerRoot || (owner != None && !pressed) || IsManaged(display))
         return;
     XSetInputFocus(display, PointerRoot, RevertToPointerRoot, CurrentTime);
+}
+
+void ShowAgain(GtkWidget* top)
+{
+    XMapWindow(GDK_WINDOW_XDISPLAY(top->window), GDK_WINDOW_XID(top->window));
 }
