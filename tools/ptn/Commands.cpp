@@ -5,6 +5,7 @@
 #include "tools/ptn/Dump.h"
 #include "tools/ptn/Files.h"
 #include "tools/ptn/Help.h"
+#include "tools/ptn/NewProject.h"
 
 #include <iostream>
 #include <memory>
@@ -93,7 +94,29 @@ int RunHelp(const std::string& topic, const std::string& type)
     return 1;
 }
 
+int RunNew(const std::string& folder)
+{
+    Diagnostics diagnostics;
+    const bool made = NewProject(folder, diagnostics);
+    diagnostics.print(std::cerr);
+    if (!made)
+        return 1;
+    std::cout << folder << ": screens to begin with, a program that shows them, and its build.\n"
+              << "To see the first screen:  ptn render " << folder << " Main\n"
+              << "To build and run it:      cmake -S " << folder << " -B " << folder
+              << "/build && cmake --build " << folder << "/build\n";
+    return 0;
+}
+
 } // namespace
+
+void AddNewCommand(CLI::App& app, int& status)
+{
+    const auto folder = std::make_shared<std::string>();
+    CLI::App* command = app.add_subcommand("new", "Make a small project to begin with");
+    command->add_option("PROJECT", *folder, "New folder; its name becomes that of the program")->required();
+    command->callback([=, &status] { status = RunNew(*folder); });
+}
 
 void AddBuildCommand(CLI::App& app, int& status)
 {

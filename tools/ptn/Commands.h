@@ -5,8 +5,10 @@
 
 /// Each adds a command to the command line. When the command is given it runs within the parsing, and
 /// `status` becomes the exit status: 0, or 1 when there was an error.
+void AddNewCommand(CLI::App& app, int& status);
 void AddBuildCommand(CLI::App& app, int& status);
 void AddDumpCommand(CLI::App& app, int& status);
 void AddCheckCommand(CLI::App& app, int& status);
 void AddHelpCommand(CLI::App& app, int& status);
 void AddRenderCommand(CLI::App& app, int& status);
+void AddWatchCommand(CLI::App& app, int& status);

@@ -1,6 +1,7 @@
 // The commands that draw.
 #include "tools/ptn/Commands.h"
 #include "tools/ptn/Render.h"
+#include "tools/ptn/Watch.h"
 
 #include <iostream>
 #include <memory>
@@ -38,6 +39,21 @@ int RunRender(const RenderOptions& options)
     return diagnostics.failed() ? 1 : 0;
 }
 
+int RunWatch(const RenderOptions& options)
+{
+    WatchJob job;
+    job.source = options.project;
+    job.pattern = options.pattern;
+    if (!options.state.empty())
+        job.arguments.insert(job.arguments.end(), {"--state", options.state});
+    if (options.language >= 0)
+        job.arguments.insert(job.arguments.end(), {"--language", std::to_string(options.language)});
+    Diagnostics diagnostics;
+    const bool watched = Watch(job, diagnostics);
+    diagnostics.print(std::cerr);
+    return watched ? 0 : 1;
+}
+
 } // namespace
 
 void AddRenderCommand(CLI::App& app, int& status)
@@ -58,4 +74,21 @@ void AddRenderCommand(CLI::App& app, int& status)
         "Drawn by the framework itself, without what screen classes add. Without $DISPLAY a private\n"
         "Xvfb is started.");
     render->callback([options, &status] { status = RunRender(*options); });
+}
+
+void AddWatchCommand(CLI::App& app, int& status)
+{
+    const auto options = std::make_shared<RenderOptions>();
+    CLI::App* watch = app.add_subcommand("watch", "Show a screen in a window and redraw it when it is saved");
+    watch->add_option("SRC", options->project, "Folder of sources")
+        ->required()
+        ->check(CLI::ExistingDirectory);
+    watch->add_option("PATTERN", options->pattern,
+                      "Name of the screen; without it the one the panel starts with");
+    watch->add_option("-s,--state", options->state, "YAML file with the clock and the values of cells")
+        ->check(CLI::ExistingFile);
+    watch->add_option("-l,--language", options->language, "Language, instead of the profile's")
+        ->check(CLI::Range(0, 2));
+    watch->footer("Errors stand in place of the picture. Closing the window ends it.");
+    watch->callback([options, &status] { status = RunWatch(*options); });
 }

@@ -28,7 +28,7 @@ std::array<int, 7> ReadClock(const Source& source, const std::array<int, 7>& bef
         diagnostics.error(source.place(), "'clock' must be a time such as 2025-03-02 09:05:07.");
         return before;
     }
-    return {year, month, day, Get_Week(year, month, day) % 7, hour, minute, second};
+    return {year, month, day, (Get_Week(year, month, day) + 6) % 7, hour, minute, second};
 }
 
 void SetValue(CellState& state, const Source& source, const std::string& what, Diagnostics& diagnostics)

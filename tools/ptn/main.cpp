@@ -21,10 +21,12 @@ int main(int argc, char** argv)
     app.require_subcommand(1);
 
     int status = 0;
+    AddNewCommand(app, status);
     AddBuildCommand(app, status);
     AddCheckCommand(app, status);
     AddDumpCommand(app, status);
     AddRenderCommand(app, status);
+    AddWatchCommand(app, status);
     AddHelpCommand(app, status);
     try {
         app.parse(argc, argv);
