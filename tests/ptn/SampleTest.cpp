@@ -17,6 +17,8 @@
 
 namespace fs = std::filesystem;
 
+using testing::SizeIs;
+
 namespace
 {
 
@@ -82,11 +84,15 @@ class Sample : public testing::Test
     std::map<std::string, Screen> screens;
 };
 
-TEST_F(Sample, has_the_screens_that_start_stop_and_version_need)
+TEST_F(Sample, has_the_screens_of_the_sample_application_and_the_framework_s_own)
 {
     for (const char* name :
-         {"テスト  ［メニュー選択］", "テスト  （図形）", "システム終了", "バージョン情報"})
+         {"テスト  ［メニュー選択］", "システム終了", "テスト  （図形）", "テスト  （マウス操作）",
+          "子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)", "ポップアップメニュー",
+          "テスト  （文字列・ボタン）", "テスト  （グラフ）", "テスト  （表・キー入力）", "テスト  （表）",
+          "バージョン情報", "メンテナンス"})
         EXPECT_TRUE(screens.count(name)) << name;
+    EXPECT_EQ(screens.size(), 14u);
 }
 
 TEST_F(Sample, has_a_profile_that_the_program_reads)
@@ -154,21 +160,25 @@ TEST_F(Sample, opens_only_patterns_that_it_has)
             EXPECT_TRUE(screens.count(item.texts[3])) << screen.first << ": " << item.texts[0];
         }
     }
-    EXPECT_GE(opened, 2);
+    EXPECT_GE(opened, 12);
 }
 
 TEST_F(Sample, can_be_stopped_from_the_menu_and_left_from_every_other_screen)
 {
+    const std::string menu = "テスト  ［メニュー選択］";
+    const std::string stop = "システム終了";    // asks before it stops
+    const std::string table = "テスト  （表）"; // lies in the frame of another screen
     for (const auto& screen : screens) {
         std::set<int> actions;
-        for (const Item& item : screen.second.items)
+        bool asks = false;
+        for (const Item& item : screen.second.items) {
             actions.insert(item.record.ID_Type);
-        const bool left = actions.count(8) || actions.count(9) || actions.count(12);
-        if (screen.first == "テスト  ［メニュー選択］") {
-            EXPECT_TRUE(actions.count(16));
-        } else if (screen.first != "システム終了") {
-            EXPECT_TRUE(left) << screen.first;
+            asks = asks || (item.record.ID_Type == 7 && item.texts[3] == stop);
         }
+        const bool left = actions.count(8) || actions.count(9) || actions.count(12);
+        EXPECT_EQ(asks, screen.first == menu) << screen.first;
+        EXPECT_EQ(actions.count(16), screen.first == stop ? 1u : 0u) << screen.first;
+        EXPECT_EQ(left, screen.first != table) << screen.first;
     }
 }
 
@@ -225,7 +235,7 @@ TEST_F(Sample, has_buttons_that_a_finger_can_press_with_captions_that_fit)
                     << screen.first << ": " << item.texts[language];
         }
     }
-    EXPECT_GE(buttons, 6);
+    EXPECT_GE(buttons, 60);
 }
 
 TEST_F(Sample, shows_every_type_of_item)
@@ -235,6 +245,93 @@ TEST_F(Sample, shows_every_type_of_item)
         for (const Item& item : screen.second.items)
             types.insert(item.record.Type);
     EXPECT_EQ(types.size(), static_cast<std::size_t>(CONT_PTRN));
+}
+
+/// Values of parameters that the items of a type have, one list per item.
+using Variants = std::set<std::vector<int>>;
+
+Variants VariantsOf(const std::map<std::string, Screen>& screens, int type, const std::vector<int>& parms,
+                    const std::vector<int>& flags = {})
+{
+    Variants found;
+    for (const auto& screen : screens)
+        for (const Item& item : screen.second.items) {
+            if (item.record.Type != type)
+                continue;
+            std::vector<int> values;
+            for (const int parm : parms)
+                values.push_back(item.record.Parm[parm]);
+            for (const int flag : flags)
+                values.push_back(item.record.Parm[flag] != 0);
+            found.insert(values);
+        }
+    return found;
+}
+
+TEST_F(Sample, shows_every_type_in_its_variants)
+{
+    EXPECT_THAT(VariantsOf(screens, PTRN_LINE, {LINE_TYPE, LINE_FOMT}), SizeIs(9))
+        << "three kinds of lines that grow in three ways";
+    for (const int shape : {PTRN_RECT, PTRN_CRCL}) {
+        EXPECT_THAT(VariantsOf(screens, shape, {SHAPE_FOMT}), SizeIs(3));
+        EXPECT_THAT(VariantsOf(screens, shape, {}, {SHAPE_FILLED}), testing::Contains(std::vector<int>{1}));
+    }
+    EXPECT_THAT(VariantsOf(screens, PTRN_RECT, {}, {SHAPE_FILLED, SHAPE_WIDTH}), SizeIs(testing::Ge(3u)));
+    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_HORIZONTAL, BARG_NEEDLE_WIDTH}), SizeIs(4));
+    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_FRAME_WIDTH}), SizeIs(2));
+    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_MAXIMUM}), SizeIs(2))
+        << "own limits, and the table's";
+    EXPECT_THAT(VariantsOf(screens, PTRN_SPIN, {}, {SPIN_MAXIMUM}), SizeIs(2))
+        << "own limits, and the table's";
+    EXPECT_THAT(VariantsOf(screens, PTRN_SBAR, {}, {SBAR_VERTICAL, SBAR_ARROWS, SBAR_PAGES}),
+                testing::IsSupersetOf(
+                    Variants{{0, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 1, 1}, {1, 0, 0}, {1, 1, 0}, {1, 1, 1}}));
+    for (const int flag :
+         {FIELD_DECIMALS, FIELD_ZEROFILL, FIELD_GROUPING, FIELD_HEX, FIELD_KEYENTRY, FIELD_NAVIGATION})
+        EXPECT_THAT(VariantsOf(screens, PTRN_NUMR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
+    for (const int flag : {FIELD_KEYENTRY, FIELD_NAVIGATION})
+        EXPECT_THAT(VariantsOf(screens, PTRN_CHAR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
+    for (const int flag : {TEXT_BACKED, TEXT_FLICKER})
+        EXPECT_THAT(VariantsOf(screens, PTRN_FCHR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
+    for (const int flag : {MARK_BACKED, MARK_FLICKER})
+        EXPECT_THAT(VariantsOf(screens, PTRN_MARK, {}, {flag}), SizeIs(2)) << "parameter " << flag;
+    for (const int flag : {BUTN_POST_ON, BUTN_WIDTH, BUTN_KEY})
+        EXPECT_THAT(VariantsOf(screens, PTRN_BUTN, {}, {flag}), SizeIs(2)) << "parameter " << flag;
+    EXPECT_THAT(VariantsOf(screens, PTRN_BMAP, {}, {BMAP_KEYED}), SizeIs(2));
+}
+
+TEST_F(Sample, shows_marks_of_every_size)
+{
+    std::set<int> groups;
+    for (const std::vector<int>& mark : VariantsOf(screens, PTRN_MARK, {MARK_NUMBER4}))
+        groups.insert(mark[0] / 50);
+    EXPECT_THAT(groups, testing::IsSupersetOf({0, 1, 2, 3, 4, 5, 6}));
+}
+
+TEST_F(Sample, has_its_texts_in_three_languages)
+{
+    for (const auto& screen : screens) {
+        const HEDRFILE& header = screen.second.header;
+        for (const char* title : {header.PtrnName1, header.PtrnName2, header.PtrnName3})
+            EXPECT_NE(std::string(title), "") << screen.first;
+        for (const Item& item : screen.second.items)
+            if (item.texts[0] != "") {
+                EXPECT_NE(item.texts[1], "") << screen.first << ": " << item.texts[0];
+                EXPECT_NE(item.texts[2], "") << screen.first << ": " << item.texts[0];
+                for (const unsigned char byte : item.texts[0] + item.texts[1] + item.texts[2])
+                    EXPECT_NE(byte, 0x8F) << screen.first << ": a character that no panel font has";
+            }
+    }
+}
+
+TEST_F(Sample, has_a_wiring_table)
+{
+    const std::string table = sources.built("Haisenhyo");
+    ASSERT_GE(table.size(), 138u);
+    std::int32_t count = 0;
+    std::memcpy(&count, table.data() + 134, 4);
+    EXPECT_GE(count, 200);
+    EXPECT_EQ(table.size(), 138u + 108u * static_cast<unsigned>(count));
 }
 
 } // namespace

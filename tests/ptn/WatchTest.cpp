@@ -1,0 +1,33 @@
+// "ptn watch" on a real display: the picture follows the source, errors take its place.
+#include "tests/ptn/Sources.h"
+#include "tests/support/Program.h"
+#include "tests/support/Toolkit.h"
+#include "tests/support/XDriver.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+std::string ScreenWith(const std::string& color)
+{
+    return "name: a\nwindow: { size: [200, 100], body-color: " + color + " }\n";
+}
+
+TEST(Watch, redraws_the_screen_when_it_is_saved_and_shows_errors_in_its_place)
+{
+    useToolkit();
+    XDriver user;
+    Sources sources;
+    sources.base().screen(ScreenWith("hot"));
+    const Program watch("ptn", "ptn", {"watch", "src", "a"});
+    const auto shown = [&](std::uint32_t color) { return user.screen().count(color) >= 200 * 100; };
+    ASSERT_TRUE(user.waitFor([&] { return shown(0xFF8000); }, "the screen")) << watch.output();
+    sources.screen(ScreenWith("black") +
+                   "items: [{ type: rectangle, rect: [0, 0, 200, 100], fill: '#00FF00' }]");
+    EXPECT_TRUE(user.waitFor([&] { return !shown(0xFF8000); }, "the error in place of it")) << watch.output();
+    sources.screen(ScreenWith("hot"));
+    EXPECT_TRUE(user.waitFor([&] { return shown(0xFF8000); }, "the screen again")) << watch.output();
+}
+
+} // namespace
