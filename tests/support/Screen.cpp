@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-int RecordingWnd::alive;
+std::set<RecordingWnd*> RecordingWnd::alive;
 
 void RecordingWnd::record(const std::string& name, std::initializer_list<int> values)
 {

@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -37,9 +38,9 @@ class RecordingWnd : public CPtrnDisp
 {
   public:
     /// Both outlive the window.
-    RecordingWnd(Calls& calls, const Hooks& hooks) : calls_(calls), hooks_(hooks) { ++alive; }
-    ~RecordingWnd() override { --alive; }
-    static int alive; ///< objects that were not deleted
+    RecordingWnd(Calls& calls, const Hooks& hooks) : calls_(calls), hooks_(hooks) { alive.insert(this); }
+    ~RecordingWnd() override { alive.erase(this); }
+    static std::set<RecordingWnd*> alive; ///< objects that were not deleted
     void PtrnInitFunc() override;
     void PtrnExitFunc() override;
     void PtrnDispFunc(CDraw* draw, int mode) override;
