@@ -92,7 +92,15 @@ void TessaryTimr()
 namespace
 {
 
-/// Counts the stop request down; at zero the windows go and the main loop ends.
+/// Ends the main loops around one that has been ended.
+gboolean QuitOuter(void*)
+{
+    gtk_main_quit();
+    return gtk_main_level() > 1;
+}
+
+/// Counts the stop request down; at zero the windows go and the main loop ends, also when the stop finds the
+/// operator in front of a message box, which has a main loop of its own.
 void CountStop()
 {
     if (WaitTimer == 0 || --WaitTimer != 0)
@@ -101,6 +109,8 @@ void CountStop()
         SystmWnd->PtrnExit();
     if (AppliWnd)
         AppliWnd->PtrnExit();
+    if (gtk_main_level() > 1)
+        g_timeout_add(1, QuitOuter, nullptr);
     gtk_main_quit();
 }
 
