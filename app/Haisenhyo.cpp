@@ -1,6 +1,7 @@
 #include "app/Haisenhyo.h"
 
 #include "app/Cells.h"
+#include "app/Places.h"
 #include "app/WireTable.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
@@ -171,12 +172,14 @@ void CHaisenhyo::PtrnMesgFunc(int no)
 int CHaisenhyo::PtrnKeyStart(PTRNDATA* item)
 {
     RefreshFieldText(item);
-    const RECT& field = item->Rect;
+    // A rectangle behind the field spans its column.
+    const RECT cell = ItemRect(*this, item->DataNo, PTRN_RECT);
+    const RECT& column = IsEmptyRect(cell) ? item->Rect : cell;
     int x = Offset.x;
-    if (field.left < x)
-        x = field.left;
-    else if (field.right > x + WindRect.width)
-        x = field.right - WindRect.width;
+    if (column.left < x)
+        x = column.left;
+    else if (column.right - x > WindRect.width)
+        x = column.right - WindRect.width;
     if (x != Offset.x) {
         PtrnSetOffset(0, x, Offset.y, nullptr, 0);
         Set_iData(kTableHScrollCell, x, nullptr, 0);

@@ -436,6 +436,23 @@ TEST_F(WireScreen, key_input_brings_its_column_into_view)
     EXPECT_EQ(tableWnd().Offset.y, 0);
 }
 
+TEST_F(WireScreen, a_rectangle_behind_the_field_tells_how_wide_its_column_is)
+{
+    project.write("Haisenhyo", wireFile({}, numberedWires(3)));
+    form().save(project);
+    table()
+        .item(PTRN_RECT, 5 * columnWidth - 8, headingHeight, 6 * columnWidth + 8, headingHeight + lineHeight)
+        .code(code, offset(cell(5, 0)))
+        .save(project);
+    start();
+    reopen();
+    tableWnd().KeyInputStart(cell(5, 0), nullptr, 0);
+    EXPECT_EQ(tableWnd().Offset.x, 6 * columnWidth + 8 - frameWidth);
+    tableWnd().PtrnSetOffset(0, 900, 0, nullptr, 0);
+    tableWnd().KeyInputStart(cell(5, 0), nullptr, 0);
+    EXPECT_EQ(tableWnd().Offset.x, 5 * columnWidth - 8);
+}
+
 TEST_F(WireScreen, key_input_may_always_start)
 {
     openTable(3);

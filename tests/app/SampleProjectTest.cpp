@@ -1,0 +1,203 @@
+// The sample project with the sample application: every screen opens, and has what its class works with.
+#include "comndata/PtrnCode.h"
+#include "config/Settings.h"
+#include "draw/Resource.h"
+#include "shell/Request.h"
+#include "tests/support/Program.h"
+#include "tests/support/Screen.h"
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+using testing::IsEmpty;
+
+namespace
+{
+
+struct Part {
+    const char* pattern;
+    int type;
+    int first;
+    int count;
+    int action;
+};
+
+constexpr int any = -1;
+
+const char* const menu = "テスト  ［メニュー選択］";
+const char* const shapes = "テスト  （図形）";
+const char* const texts = "テスト  （文字列・ボタン）";
+const char* const graphs = "テスト  （グラフ）";
+const char* const mouse = "テスト  （マウス操作）";
+const char* const form = "テスト  （表・キー入力）";
+const char* const table = "テスト  （表）";
+const char* const maintenance = "メンテナンス";
+
+/// What the screen classes expect of their patterns.
+const Part parts[] = {
+    {shapes, PTRN_MARK, 454, 14, ACTION_MESSAGE_SELF},
+    {texts, PTRN_BUTN, 104, 1, ACTION_MESSAGE_SELF},
+    {texts, PTRN_BUTN, 105, 1, ACTION_MESSAGE_SELF},
+    {texts, PTRN_RDIO, 106, 3, ACTION_MESSAGE_SELF},
+    {texts, PTRN_FCHR, 101, 1, any},
+    {texts, PTRN_CHAR, 102, 1, any},
+    {texts, PTRN_NUMR, 103, 1, any},
+    {texts, PTRN_CHCK, 114, 3, ACTION_MESSAGE_SELF},
+    {texts, PTRN_CHCK, 1551, 3, ACTION_MESSAGE_SELF},
+    {texts, PTRN_MARK, 435, 1, any},
+    {texts, PTRN_FCHR, 436, 1, any},
+    {texts, PTRN_NUMR, 1549, 1, any},
+    {texts, PTRN_NUMR, 1547, 1, any},
+    {texts, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
+    {graphs, PTRN_RECT, 113, 1, any},
+    {graphs, PTRN_LINE, 112, 1, any},
+    {mouse, PTRN_RECT, 468, 4, any},
+    {mouse, PTRN_MARK, 472, 10, ACTION_MESSAGE_SELF},
+    {mouse, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
+    {"ポップアップメニュー", PTRN_BUTN, 482, 3, ACTION_MESSAGE_PARENT},
+    {form, PTRN_CHAR, 1550, 1, any},
+    {form, PTRN_CHAR, 485, 1, any},
+    {form, PTRN_CHAR, 1548, 1, any},
+    {form, PTRN_CHAR, 100, 1, any},
+    {form, PTRN_CHAR, 109, 1, any},
+    {form, PTRN_RECT, 432, 1, any},
+    {form, PTRN_SBAR, 433, 1, ACTION_MESSAGE_CHILD1},
+    {form, PTRN_SBAR, 1571, 1, ACTION_MESSAGE_CHILD1},
+    {form, PTRN_BUTN, 434, 1, ACTION_MESSAGE_SELF},
+    {form, PTRN_BUTN, 1554, 1, ACTION_MESSAGE_SELF},
+    {form, PTRN_NUMR, 439, 15, any},
+    {table, PTRN_CHAR, 117, 15, any},
+    {table, PTRN_NUMR, 397, 15, any},
+    {table, PTRN_CHAR, 417, 15, any},
+    {table, PTRN_BUTN, 1555, 16, ACTION_MESSAGE_SELF},
+    {maintenance, PTRN_CHAR, 20, 10, ACTION_MESSAGE_SELF},
+    {maintenance, PTRN_NUMR, 30, 10, any},
+    {maintenance, PTRN_CHCK, 40, 10, ACTION_MESSAGE_SELF},
+    {maintenance, PTRN_NUMR, 50, 20, any},
+    {maintenance, PTRN_CHAR, 70, 10, any},
+    {maintenance, PTRN_SBAR, 80, 2, ACTION_MESSAGE_SELF},
+};
+
+class SampleProject : public Screen
+{
+  protected:
+    /// Compiles the project into the test's own folder, with the text language that a test asks for.
+    void compile(int language)
+    {
+        Program ptn("ptn", "ptn", {"build", Program::sourceFolder() + "/project", project.folder()});
+        ASSERT_TRUE(user.waitFor([&] { return ptn.status().has_value(); }, "the end of ptn"));
+        ASSERT_EQ(*ptn.status(), 0) << ptn.output();
+        project.set("FONT", "LANGUAGE", std::to_string(language));
+        start();
+        ASSERT_EQ(Language, language);
+        project.clearLog();
+    }
+
+    /// Log lines about anything that has failed.
+    std::vector<std::string> complaints()
+    {
+        std::vector<std::string> found;
+        for (const std::string& message : project.messages())
+            for (const char* const word : {"失敗", "エラー", "Error", "error"})
+                if (message.find(word) != std::string::npos)
+                    found.push_back(message);
+        return found;
+    }
+};
+
+class InLanguage : public SampleProject, public testing::WithParamInterface<int>
+{
+};
+
+} // namespace
+
+TEST_P(InLanguage, every_screen_opens_and_runs_without_a_complaint)
+{
+    compile(GetParam());
+    for (const char* name :
+         {menu, shapes, texts, graphs, mouse, form, table, "システム終了", "子ウィンドウ (1)",
+          "子ウィンドウ (2)", "子ウィンドウ (3)", "ポップアップメニュー"}) {
+        ASSERT_TRUE(openTop(name)) << name;
+        EXPECT_GT(AppliWnd->PtrnData->PtrnCont, 0) << name;
+        tick(11);
+        EXPECT_THAT(complaints(), IsEmpty()) << name;
+    }
+    openTop(menu);
+    for (const auto& open : {PtrnDispVersnWnd, PtrnDispMenteWnd}) {
+        open();
+        ASSERT_TRUE(SystmWnd);
+        waitShown(SystmWnd);
+        tick(11);
+        EXPECT_THAT(complaints(), IsEmpty()) << SystmWnd->PtrnName;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Language, InLanguage, testing::Values(0, 1, 2));
+
+TEST_F(SampleProject, every_pattern_has_the_items_that_its_class_works_with)
+{
+    compile(0);
+    for (const Part& part : parts) {
+        const CPtrnData data(part.pattern);
+        ASSERT_GT(data.PtrnCont, 0) << part.pattern;
+        for (int no = part.first; no < part.first + part.count; no++) {
+            bool found = false;
+            for (int i = 0; i < data.PtrnCont; i++) {
+                const PTRNDATA& item = data.PtrnData[i];
+                found = found || (item.DataNo == no && item.Type == part.type &&
+                                  (part.action == any || item.ID_Type == part.action));
+            }
+            EXPECT_TRUE(found) << part.pattern << ", cell " << no;
+        }
+    }
+}
+
+TEST_F(SampleProject, no_item_has_a_code_that_the_table_lacks)
+{
+    compile(0);
+    for (int i = 0; i < PtrnCount; i++) {
+        const CPtrnData data(PtrnName[i].name);
+        for (int k = 0; k < data.PtrnCont; k++)
+            EXPECT_GE(int{data.PtrnData[k].DataNo}, 0) << PtrnName[i].name << ", item " << k;
+    }
+}
+
+TEST_F(SampleProject, the_table_fills_its_frame_and_is_wider)
+{
+    compile(0);
+    openTop(form);
+    const CPtrnDisp* wires = AppliWnd->ChildWnd1;
+    ASSERT_TRUE(wires);
+    PTRNDATA item;
+    ASSERT_TRUE(AppliWnd->PtrnReadData(432, PTRN_RECT, &item));
+    const PTRNHEDR& header = wires->PtrnData->PtrnHedr;
+    EXPECT_EQ(header.Parm1[HEDR_HEIGHT], item.Rect.height);
+    EXPECT_GT(header.Parm1[HEDR_WIDTH], item.Rect.width);
+    EXPECT_NE(header.Parm1[HEDR_MODELESS], 0) << "so that the form stays usable";
+
+    ASSERT_TRUE(AppliWnd->PtrnReadData(433, PTRN_SBAR, &item));
+    EXPECT_EQ(item.Parm[SBAR_VISIBLE], wires->WindRect.width);
+    EXPECT_EQ(item.Parm[SBAR_TOTAL], header.Parm1[HEDR_WIDTH]);
+    ASSERT_TRUE(AppliWnd->PtrnReadData(1571, PTRN_SBAR, &item));
+    EXPECT_EQ(item.Parm[SBAR_VISIBLE], 15);
+    EXPECT_GE(item.Parm[SBAR_TOTAL], 200);
+}
+
+TEST_F(SampleProject, the_popup_menu_leads_to_the_child_windows)
+{
+    compile(0);
+    for (const char* screen : {texts, mouse}) {
+        openTop(screen);
+        for (int i = 0; i < 3; i++) {
+            AppliWnd->PtrnDispPopup(1, "ポップアップメニュー", POINT{100, 100}, nullptr, 0);
+            CPtrnDisp* popup = AppliWnd->ChildWnd1;
+            waitShown(popup);
+            PTRNDATA entry;
+            ASSERT_TRUE(popup->PtrnReadData(482 + i, PTRN_BUTN, &entry));
+            click(popup, entry.Rect.left + 100, entry.Rect.top + 20);
+            ASSERT_TRUE(AppliWnd->ChildWnd1);
+            EXPECT_EQ(std::string(AppliWnd->ChildWnd1->PtrnName),
+                      "子ウィンドウ (" + std::to_string(i + 1) + ")");
+        }
+    }
+}
