@@ -28,5 +28,7 @@
 #include "shell/Logfile.h"
 #include "shell/Request.h"
 #include "shell/Startup.h"
+#include "window/FieldText.h"
+#include "window/KeyText.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"

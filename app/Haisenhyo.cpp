@@ -1,6 +1,7 @@
 #include "app/Haisenhyo.h"
 
 #include "app/Cells.h"
+#include "app/Input.h"
 #include "app/Places.h"
 #include "app/WireTable.h"
 #include "comndata/ComnData.h"
@@ -27,7 +28,6 @@ static_assert(sizeof kSortColumns / sizeof kSortColumns[0] == kTableHeadings.cou
 constexpr int kHide = 1;
 
 constexpr int kAnyState = -1;
-constexpr int kShift = 1;
 
 /// How a key moves key input through the table. The first row that fits counts.
 struct Move {
@@ -38,9 +38,9 @@ struct Move {
     bool wraps; ///< past the last column to the next line, before the first to the previous
 };
 constexpr Move kMoves[] = {
-    {KEY_TAB, kShift, -1, 0, true},      {KEY_TAB, kAnyState, 1, 0, true},
-    {KEY_RETURN, kAnyState, 1, 0, true}, {KEY_LEFT, kAnyState, -1, 0, false},
-    {KEY_RIGHT, kAnyState, 1, 0, false}, {KEY_UP, kAnyState, 0, -1, false},
+    {KEY_TAB, MODIFIER_SHIFT, -1, 0, true}, {KEY_TAB, kAnyState, 1, 0, true},
+    {KEY_RETURN, kAnyState, 1, 0, true},    {KEY_LEFT, kAnyState, -1, 0, false},
+    {KEY_RIGHT, kAnyState, 1, 0, false},    {KEY_UP, kAnyState, 0, -1, false},
     {KEY_DOWN, kAnyState, 0, 1, false},
 };
 

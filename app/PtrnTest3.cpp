@@ -1,6 +1,7 @@
 #include "app/PtrnTest3.h"
 
 #include "app/Cells.h"
+#include "app/Input.h"
 #include "app/Places.h"
 #include "app/WireTable.h"
 #include "comndata/ComnData.h"
@@ -13,11 +14,6 @@ namespace
 
 constexpr char kTableName[] = "テスト  （表）";
 constexpr int kTableSlot = 1;
-
-constexpr int kNormalCursor = 0;
-constexpr int kBusyCursor = 2;
-
-constexpr int kShift = 1; ///< modifier value
 
 /// Where key input goes on from a header field. The fields are two columns: system number and delivery, work
 /// and board number, comment.
@@ -51,7 +47,7 @@ int Target(const Move& move, unsigned int key, int state)
 {
     switch (key) {
     case KEY_TAB:
-        return state == kShift ? move.previous : move.next;
+        return state == MODIFIER_SHIFT ? move.previous : move.next;
     case KEY_RETURN:
         return move.next;
     case KEY_UP:
@@ -135,9 +131,9 @@ void CPtrnTest3::PtrnMesgFunc(int no)
     if (no == kTableSaveCell) {
         SaveHaisenhyo();
     } else if (no == kTablePrintCell) {
-        PtrnSetCursor(kBusyCursor, nullptr, 0);
+        PtrnSetCursor(CURSOR_BUSY, nullptr, 0);
         PrintHaisenhyo();
-        PtrnSetCursor(kNormalCursor, nullptr, 0);
+        PtrnSetCursor(CURSOR_ARROW, nullptr, 0);
     }
 }
 

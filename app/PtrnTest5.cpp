@@ -1,18 +1,13 @@
 #include "app/PtrnTest5.h"
 
 #include "app/Cells.h"
+#include "app/Input.h"
 #include "app/Places.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
 
 namespace
 {
-
-enum MouseButton { MOUSE_NONE = 0, MOUSE_LEFT = 1, MOUSE_RIGHT = 2 };
-enum Modifier { MODIFIER_NONE = 0, MODIFIER_SHIFT = 1, MODIFIER_CONTROL = 2 };
-
-constexpr int kArrowCursor = 0;
-constexpr int kCrossCursor = 1;
 
 /// What lights up each of the areas while the pointer is over it.
 struct Gesture {
@@ -29,6 +24,8 @@ static_assert(sizeof kGestures / sizeof kGestures[0] == kMouseAreas.count);
 
 } // namespace
 
+// The count of cells that are cleared follows from the code that a lamp belongs to: one large code that holds
+// all lamps is cleared from the first one on, small ones with high numbers keep what they have.
 void CPtrnTest5::PtrnInitFunc()
 {
     Clear_AllData(kLeftLamps.first, nullptr, 0);
@@ -55,7 +52,7 @@ int CPtrnTest5::PtrnMouseFunc(POINT pt, int button, int state)
 {
     PTRNDATA item;
     const bool overItem = PtrnTestData(pt, &item) == 1;
-    CursorType = overItem ? kCrossCursor : kArrowCursor;
+    CursorType = overItem ? CURSOR_CROSS : CURSOR_ARROW;
     if (!overItem && button == MOUSE_RIGHT && state == MODIFIER_NONE)
         OpenPopupMenu(*this, SetRect(pt.x, pt.y, pt.x, pt.y));
 

@@ -23,6 +23,7 @@ template <class Window> CPtrnDisp* Make()
     return new Window;
 }
 
+// clang-format off
 constexpr Screen kScreens[] = {
     {"テスト  ［メニュー選択］", Make<CPtrnDisp>},
     {"システム終了", Make<CPtrnDisp>},
@@ -35,8 +36,9 @@ constexpr Screen kScreens[] = {
     {"テスト  （文字列・ボタン）", Make<CPtrnTest2>},
     {"テスト  （グラフ）", Make<CPtrnTest4>},
     {"テスト  （表・キー入力）", Make<CPtrnTest3>},
-    {"テスト  （表）", Make<CHaisenhyo>}, // one row a line
+    {"テスト  （表）", Make<CHaisenhyo>},
 };
+// clang-format on
 
 } // namespace
 

@@ -1,4 +1,5 @@
 // The sample project with the sample application: every screen opens, and has what its class works with.
+#include "comndata/ComnData.h"
 #include "comndata/PtrnCode.h"
 #include "config/Settings.h"
 #include "draw/Resource.h"
@@ -181,6 +182,17 @@ TEST_F(SampleProject, the_table_fills_its_frame_and_is_wider)
     ASSERT_TRUE(AppliWnd->PtrnReadData(1571, PTRN_SBAR, &item));
     EXPECT_EQ(item.Parm[SBAR_VISIBLE], 15);
     EXPECT_GE(item.Parm[SBAR_TOTAL], 200);
+}
+
+TEST_F(SampleProject, the_lamps_of_the_mouse_screen_stay_as_they_were)
+{
+    compile(0);
+    // Their codes are small and their numbers high, which leaves nothing to clear.
+    Set_wData(472, 1, nullptr, 0);
+    Set_wData(481, 1, nullptr, 0);
+    openTop(mouse);
+    EXPECT_EQ(Get_wData(472, nullptr, 0), 1);
+    EXPECT_EQ(Get_wData(481, nullptr, 0), 1);
 }
 
 TEST_F(SampleProject, the_popup_menu_leads_to_the_child_windows)
