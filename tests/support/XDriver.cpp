@@ -325,3 +325,21 @@ void XDriver::requestClose(unsigned long window)
     event.xclient.data.l[1] = CurrentTime;
     XSendEvent(display_, window, False, NoEventMask, &event);
 }
+
+void XDriver::requestMove(unsigned long window, int x, int y)
+{
+    const ErrorTrap trap(display_);
+    constexpr long staticGravity = 10;
+    constexpr long givesXAndY = 3L << 8;
+    constexpr long fromTheUser = 2L << 12;
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = XInternAtom(display_, "_NET_MOVERESIZE_WINDOW", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = staticGravity | givesXAndY | fromTheUser;
+    event.xclient.data.l[1] = x;
+    event.xclient.data.l[2] = y;
+    XSendEvent(display_, DefaultRootWindow(display_), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
+}

@@ -72,6 +72,8 @@ class XDriver
     ScreenWindow waitForWindow(const std::string& title);
     /// Asks a window to close, as a window manager does when its close button is pressed.
     void requestClose(unsigned long window);
+    /// Has the window manager move a window, as when its user moves it by the manager's own means.
+    void requestMove(unsigned long window, int x, int y);
 
   private:
     void fakeKey(unsigned long symbol, bool down);

@@ -119,7 +119,8 @@ TEST_F(Managed, may_fill_the_display_or_be_larger)
     know(Pattern("large").size(1500, 1200).header(HEDR_KIND, 0));
     openTop("large");
     EXPECT_THAT(place(AppliWnd), ElementsAre(0, 0, 1500, 1200));
-    EXPECT_EQ(pixel(AppliWnd, 1279, 1023), color(HEDR_BODY_COLOR));
+    EXPECT_TRUE(user.waitFor([&] { return pixel(AppliWnd, 1279, 1023) == color(HEDR_BODY_COLOR); },
+                             "the body in the display's last corner"));
 }
 
 TEST_F(Managed, may_be_smaller_than_their_pattern)
@@ -222,13 +223,7 @@ TEST_F(Managed, end_a_drag_where_the_pointer_has_carried_them_however_late_the_w
 TEST_F(Managed, are_followed_when_it_moves_them)
 {
     CPtrnDisp* wnd = openSystem("q");
-    user.pressKey(XK_Alt_L);
-    moveTo(wnd, 150, 150);
-    user.press();
-    user.settle();
-    carry(750, 550, -200, -100);
-    user.release();
-    user.releaseKey(XK_Alt_L);
+    user.requestMove(user.waitForWindow(wnd->PtrnName).id, 400, 300);
     waitPlace(wnd, 400, 300);
     user.settle();
     tick();
@@ -242,13 +237,7 @@ TEST_F(Managed, are_followed_when_it_moves_them)
 
 TEST_F(Managed, a_drag_after_it_has_moved_them_starts_where_they_are)
 {
-    user.pressKey(XK_Alt_L);
-    moveTo(AppliWnd, 150, 150);
-    user.press();
-    user.settle();
-    carry(350, 300, 100, 50);
-    user.release();
-    user.releaseKey(XK_Alt_L);
+    user.requestMove(user.waitForWindow(AppliWnd->PtrnName).id, 300, 200);
     waitPlace(AppliWnd, 300, 200);
     user.settle();
     user.move(300 + 150, 200 + 8); // without a tick in between
