@@ -1,6 +1,8 @@
 // The window slots and the requests, with real windows on a screen.
 #include "shell/Request.h"
 #include "comndata/ComnData.h"
+#include "config/Profile.h"
+#include "config/Settings.h"
 #include "shell/Startup.h"
 #include "tests/support/Screen.h"
 
@@ -85,6 +87,37 @@ TEST_F(Requests, open_the_new_application_window_before_the_old_one_goes)
     EXPECT_EQ(user.windows().size(), 1u);
 }
 
+TEST_F(Requests, let_a_new_application_window_hand_over_to_another_at_once)
+{
+    openTop("first");
+    hooks.init = [](CPtrnDisp& wnd) {
+        if (std::string(wnd.PtrnName) == "second")
+            PtrnDispTopWnd("notice", nullptr, 0);
+    };
+    calls.clear();
+    PtrnDispTopWnd("second", nullptr, 0);
+    EXPECT_STREQ(AppliWnd->PtrnName, "notice");
+    waitShown(AppliWnd);
+    EXPECT_EQ(user.windows().size(), 1u);
+    EXPECT_THAT(lifecycle(), ElementsAre("init", "init", "exit", "exit"));
+}
+
+TEST_F(Requests, take_a_name_that_lies_in_the_buffer_of_a_getter)
+{
+    project.set("PTRN", "NEXT", "second").set("PTRN", "OTHER", "first");
+    const auto registry = TestApplication::window;
+    TestApplication::window = [&](const std::string& name) {
+        ProfileReadAsc(ProfName, "PTRN", "OTHER"); // as a constructor may do
+        return registry(name);
+    };
+    PtrnDispTopWnd(ProfileReadAsc(ProfName, "PTRN", "NEXT"), nullptr, 0);
+    EXPECT_STREQ(AppliWnd->PtrnName, "second");
+    PtrnDispSysWnd(ProfileReadAsc(ProfName, "PTRN", "NEXT"), nullptr, 0);
+    EXPECT_STREQ(SystmWnd->PtrnName, "second");
+    AppliWnd->PtrnDispChild(1, ProfileReadAsc(ProfName, "PTRN", "NEXT"), nullptr, 0);
+    EXPECT_STREQ(AppliWnd->ChildWnd1->PtrnName, "second");
+}
+
 TEST_F(Requests, log_an_unknown_pattern_and_keep_the_application_window)
 {
     openTop("first");
@@ -123,6 +156,34 @@ TEST_F(Requests, close_the_system_window_even_when_the_new_name_is_unknown)
     EXPECT_EQ(SystmWnd, nullptr);
     EXPECT_EQ(SystemWnd, 0);
     EXPECT_THAT(project.messages(), ElementsAre("システムウィンドウ表示に失敗  [no such screen]"));
+}
+
+TEST_F(Requests, leave_a_system_window_open_that_the_closed_one_s_exit_hook_has_opened)
+{
+    hooks.exit = [](CPtrnDisp& wnd) {
+        if (std::string(wnd.PtrnName) == "first")
+            PtrnDispSysWnd("second", nullptr, 0);
+    };
+    openSystem("first");
+    PtrnDispSysWnd("", nullptr, 0);
+    ASSERT_TRUE(SystmWnd);
+    EXPECT_STREQ(SystmWnd->PtrnName, "second");
+    EXPECT_EQ(SystemWnd, 1);
+    user.settle();
+    EXPECT_EQ(user.windows().size(), 1u);
+}
+
+TEST_F(Requests, show_the_system_window_asked_for_whatever_the_exit_hook_of_the_other_opens)
+{
+    hooks.exit = [](CPtrnDisp& wnd) {
+        if (std::string(wnd.PtrnName) == "first")
+            PtrnDispSysWnd("second", nullptr, 0);
+    };
+    openSystem("first");
+    openSystem("notice");
+    EXPECT_STREQ(SystmWnd->PtrnName, "notice");
+    user.settle();
+    EXPECT_EQ(user.windows().size(), 1u);
 }
 
 TEST_F(Requests, open_version_and_maintenance_windows_without_the_registry)
@@ -167,6 +228,9 @@ TEST_F(Requests, count_the_stop_down_in_ticks)
     ReqSystemStop(nullptr, 0);
     EXPECT_EQ(WaitTimer, 10);
     EXPECT_EQ(SystemStop, 1);
+    project.set("TESSARY", "WAITTIMER", "2147483647");
+    ReqSystemStop(nullptr, 0);
+    EXPECT_EQ(WaitTimer, 2147483647) << "as long as can be counted";
 }
 
 TEST_F(Requests, start_the_countdown_anew_at_a_second_stop)
