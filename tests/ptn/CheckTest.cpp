@@ -1,13 +1,14 @@
 // "ptn check": each mistake with its message; and nothing about screens without mistakes.
 #include "pattern/ItemParm.h"
-#include "tests/ptn/Sources.h"
+#include "tests/ptn/Messages.h"
 #include "tests/support/PatternBuilder.h"
 #include "tests/support/Project.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <ostream>
+
+namespace fs = std::filesystem;
 
 namespace
 {
@@ -60,28 +61,18 @@ TEST_F(Check, finds_nothing_in_a_screen_without_mistakes)
     expectFinds("", "out/ProjPath");
 }
 
-struct Case {
-    const char* name;
-    const char* items;   ///< of the screen, from line 4 on
-    const char* message; ///< the only one, without the file's name
-};
-
-void PrintTo(const Case& one, std::ostream* out)
-{
-    *out << one.name;
-}
-
-class CheckItem : public Check, public testing::WithParamInterface<Case>
+/// The text is the items of the screen, from line 4 on.
+class CheckItem : public Check, public testing::WithParamInterface<MessageCase>
 {
 };
 
 TEST_P(CheckItem, names_place_and_remedy)
 {
-    sources.screen(screen(GetParam().items));
+    sources.screen(screen(GetParam().text));
     expectFinds(std::string("src/screens/a.yaml") + GetParam().message + "\n");
 }
 
-const Case cases[] = {
+const MessageCase cases[] = {
     {"unknown_attribute", "  - { type: line, rect: [1, 1, 2, 2], colour: hot }\n",
      ":4: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
     {"character_that_euc_lacks", u8"  - { type: text, at: [1, 1], text: 한 }\n",
@@ -100,6 +91,10 @@ const Case cases[] = {
      ":4: mark at 1,1: 'mark' is 354, outside 0 to 353, which ends the panel when it is drawn. Correct it."},
     {"thickness", "  - { type: line, rect: [1, 1, 20, 1], parm: { 15: 0 } }\n",
      ":4: line at 1,1: 'width' is 0, outside 1 to 98, which ends the panel when it is drawn. Correct it."},
+    {"colour_of_what_is_cleared", "  - { type: line, rect: [1, 1, 20, 1], parm: { 29: -1 } }\n",
+     ":4: line at 1,1: 'clear' is -1, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
+    {"dash", "  - { type: line, rect: [1, 1, 20, 1], parm: { 14: 3 } }\n",
+     ":4: line at 1,1: 'dash' is 3, outside 0 to 2, which ends the panel when it is drawn. Correct it."},
     {"number", "  - { type: button, rect: [1, 1, 20, 20], parm: { 27: 13 } }\n",
      ":4: button at 1,1: 'key' is 13, outside 0 to 12. Correct it."},
     {"font_without_a_name", "  - { type: text, at: [1, 1], text: x, parm: { 15: 7 } }\n",
@@ -133,10 +128,20 @@ const Case cases[] = {
      "zero. Make 'total' larger."},
     {"bar_graph", "  - { type: bar-graph, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
      ":4: bar-graph at 1,1: 'minimum' is not below 'maximum', so the bar stays empty. Exchange them."},
+    {"bar_graph_smaller_than_its_frame",
+     "  - { type: bar-graph, exact: { rect: [0, 0, 5, 50], parm: { 15: 3 } } }\n",
+     ":4: bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is drawn. "
+     "Make it larger."},
     {"spin", "  - { type: spin, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
      ":4: spin at 1,1: 'minimum' is above 'maximum', so the value jumps between them. Exchange them."},
     {"entry_without_a_cell", "  - { type: numeric, at: [1, 1], width: 3, entry: yes }\n",
      ":4: numeric at 1,1: 'entry' has nowhere to store what is typed. Name a cell with 'data'."},
+    {"text_longer_than_its_field", "  - { type: text, at: [1, 1], text: [Go, Speed], width: 4 }\n",
+     ":4: text at 1,1: its text has 5 half-width characters and its field 4. Shorten it, or make 'width' "
+     "larger."},
+    {"decimals_without_room", "  - { type: numeric, at: [1, 1], width: 3, decimals: 2 }\n",
+     ":4: numeric at 1,1: its field has 3 characters; a number with 2 decimals needs 4 or more. Make 'width' "
+     "larger."},
     {"outside", "  - { type: line, rect: [400, 1, 420, 1] }\n",
      ":4: line at 400,1: lies outside the pattern of 320 x 240 pixels, to 420,1. Move it, or enlarge the "
      "window."},
@@ -146,6 +151,10 @@ const Case cases[] = {
     {"frame",
      "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: numeric, at: [20, 16], width: 6 }\n",
      ":5: numeric at 20,16: reaches 62,30, beyond its frame, which ends at 60,40. Make it narrower, or the "
+     "frame larger."},
+    {"choice_and_its_frame",
+     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: check, at: [20, 16], text: Buzzer }\n",
+     ":5: check at 20,16: reaches 83,30, beyond its frame, which ends at 60,40. Make it narrower, or the "
      "frame larger."},
     {"caption", "  - { type: button, rect: [8, 8, 60, 40], text: Overflowing, indent: 4 }\n",
      ":4: button at 8,8: its caption needs 81 pixels and has 52. Shorten it or widen the button."},
@@ -165,8 +174,18 @@ const Case cases[] = {
      "or draw it in the front pass."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(cases),
-                         [](const testing::TestParamInfo<Case>& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(cases), CaseName);
+
+TEST_F(Check, looks_at_the_window_too)
+{
+    sources.screen("name: a\nwindow: { size: [320, 240], parm: { 19: 100 } }\n");
+    expectFinds("src/screens/a.yaml:1: the window: 'body-color' is 100, outside 0 to 99, which ends the "
+                "panel when it is drawn. Correct it.\n");
+    sources.screen("name: a\nwindow: { size: [320, 240], parm: { 8: 40, 11: 7 } }\n");
+    EXPECT_THAT(sources.run("check src").err,
+                HasSubstr("src/screens/a.yaml:1: the window: its font, number 7, has no name in language 0, "
+                          "so no text is drawn. Name it in 'fonts'.\n"));
+}
 
 TEST_F(Check, lets_a_box_with_a_cell_of_its_own_hide_others_since_it_may_be_hidden_itself)
 {
@@ -223,6 +242,9 @@ TEST_F(Check, finds_a_profile_that_names_no_screens)
                                  "the panel shows nothing. Write the name of a screen.\n"),
                        HasSubstr("src/profile.yaml:4: profile key 'PTRNSTOP': no screen is named 'x'. "
                                  "Use the 'name' of a screen.\n")));
+    profile("a", "''");
+    expectFinds("src/profile.yaml:4: profile key 'PTRNSTOP': no pattern is named, so the panel ends unseen. "
+                "Write the name of a screen.\n");
 }
 
 TEST_F(Check, finds_the_same_in_a_compiled_project_by_the_number_of_the_item)
@@ -243,13 +265,64 @@ TEST_F(Check, finds_the_same_in_a_compiled_project_by_the_number_of_the_item)
                 "out/ProjPath");
 }
 
-TEST_F(Check, of_a_damaged_pattern_says_so_and_goes_on)
+TEST_F(Check, finds_in_a_compiled_project_what_sources_do_not_let_through)
 {
     sources.screen(screen(""));
     ASSERT_EQ(sources.build().status, 0);
-    writeFile(sources.output() + "/b.ptn", "short");
-    expectFinds("out/ProjPath/b.ptn: not a whole pattern file: it ends within its header. Get an undamaged "
-                "copy.\n",
+    const std::string file = "out/ProjPath/a.ptn: ";
+    const std::pair<Pattern, std::string> cases[] = {
+        {Pattern("a").item(PTRN_BARG, 0, 0, 5, 50).parm(BARG_FRAME_WIDTH, 3),
+         "item 1, bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is "
+         "drawn. Make it larger."},
+        {Pattern("a").item(PTRN_BARG, 0, 0, 50, 12).parm(BARG_HORIZONTAL, 0).parm(BARG_NEEDLE_WIDTH, 20),
+         "item 1, bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is "
+         "drawn. Make it larger."},
+        {Pattern("a").item(PTRN_BMAP, 0, 0, 50, 12).text("x.png"),
+         "item 1, bitmap at 0,0: its bitmap 'x.png' is not among the bitmaps, so nothing is drawn. Put the "
+         "file there or correct the name."},
+        {Pattern("a").logo("x.png").header(HEDR_TITLE_HEIGHT, 40).header(HEDR_LOGO, 1),
+         "the window: its logo 'x.png' is not among the bitmaps, so nothing is drawn. Put the file there or "
+         "correct the name."},
+        {Pattern("a").bitmap("x.png"),
+         "the window: its background 'x.png' is not among the bitmaps, so nothing is drawn. Put the file "
+         "there or correct the name."},
+        {Pattern("a").title("\xFF"), "the window: its title has bytes that are no EUC-JP. Write it anew."},
+        {Pattern("a").item(PTRN_SPIN, 0, 0, 9, 9).code(std::string(21, 'C')),
+         "item 1, spin at 0,0: its code has 21 bytes; the panel keeps 20. Shorten it.\n" + file +
+             "item 1, spin at 0,0: no code 'CCCCCCCCCCCCCCCCCCCCC', so it is bound to nothing. Add it to "
+             "'codes' or use another."},
+        {Pattern("a").item(PTRN_SPIN, 0, 0, 9, 9).code("B", -1),
+         "item 1, spin at 0,0: code 'B' has 3 cells, so there is no -1. Correct the offset or extend the "
+         "code."},
+    };
+    for (const auto& one : cases) {
+        writeFile(sources.output() + "/a.ptn", one.first.bytes());
+        expectFinds(file + one.second + "\n", "out/ProjPath");
+    }
+}
+
+TEST_F(Check, of_a_damaged_file_says_so_and_goes_on)
+{
+    sources.screen(screen(""));
+    ASSERT_EQ(sources.build().status, 0);
+    const std::pair<const char*, const char*> cases[] = {
+        {"b.ptn", "not a whole pattern file: it ends within its header. Get an undamaged copy."},
+        {"Haisenhyo", "not a whole wiring table: it ends within its header. Get an undamaged copy."},
+        {"PtrnCode", "warning: its last 5 bytes are no whole record and are left out."},
+    };
+    for (const auto& one : cases) {
+        const std::string file = sources.output() + "/" + one.first;
+        const std::string before = readFile(file);
+        writeFile(file, before + "short");
+        expectFinds("out/ProjPath/" + std::string(one.first) + ": " + one.second + "\n", "out/ProjPath");
+        EXPECT_THAT(sources.run("check out/ProjPath").out, HasSubstr(": 1 screen, 1 found.\n"));
+        fs::remove(file);
+        if (!before.empty())
+            writeFile(file, before);
+    }
+    writeFile(sources.output() + "/Haisenhyo", std::string(134, '\0') + int32(7));
+    expectFinds("out/ProjPath/Haisenhyo: not a whole wiring table: it has not as many wires as it says. Get "
+                "an undamaged copy.\n",
                 "out/ProjPath");
 }
 

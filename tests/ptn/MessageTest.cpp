@@ -1,42 +1,8 @@
 // "ptn build": what it says about wrong sources, and where.
-#include "tests/ptn/Sources.h"
-
-#include <gtest/gtest.h>
-#include <ostream>
+#include "tests/ptn/Messages.h"
 
 namespace
 {
-
-struct Case {
-    const char* name;
-    const char* text;    ///< the file
-    const char* message; ///< the only message, without the file's name
-};
-
-void PrintTo(const Case& one, std::ostream* out)
-{
-    *out << one.name;
-}
-
-std::string CaseName(const testing::TestParamInfo<Case>& info)
-{
-    return info.param.name;
-}
-
-class Messages : public testing::TestWithParam<Case>
-{
-  protected:
-    // Builds and expects exactly one message, about that file.
-    void expectOnly(const std::string& file)
-    {
-        const PtnResult result = sources.build();
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.err, "src/" + file + GetParam().message + "\n1 error; out/ProjPath is unchanged.\n");
-        EXPECT_EQ(result.out, "");
-    }
-
-    Sources sources;
-};
 
 // --- sections that all screens share -----------------------------------------------------------------
 
@@ -50,7 +16,7 @@ TEST_P(ProjectMessages, name_place_and_remedy)
     expectOnly("p.yaml");
 }
 
-const Case projectCases[] = {
+const MessageCase projectCases[] = {
     {"not_yaml", "codes: [1, 2\n", ":2: not valid YAML: end of sequence flow not found."},
     {"not_a_mapping", "\n- codes\n", ":2: the file must be a mapping: write one 'name: value' per line."},
     {"key_that_is_no_name", "[a]: 1\n",
@@ -183,7 +149,7 @@ TEST_P(ScreenMessages, name_place_and_remedy)
     expectOnly("screens/a.yaml");
 }
 
-const Case screenCases[] = {
+const MessageCase screenCases[] = {
     {"no_name", "items: []\n", ": the screen has no 'name'. Write the name of its pattern."},
     {"empty_file", "", ": the screen has no 'name'. Write the name of its pattern."},
     {"empty_name", "name:\n",
@@ -238,7 +204,7 @@ TEST_P(ItemMessages, name_place_and_remedy)
     expectOnly("screens/a.yaml");
 }
 
-const Case itemCases[] = {
+const MessageCase itemCases[] = {
     {"no_item", "{}",
      ":3: item 1 has no 'type'. Write one of: group-box, line, rectangle, circle, bar-graph, text, "
      "variable-text, numeric, button, radio, check, bitmap, mark, scroll-bar, spin."},

@@ -103,8 +103,8 @@ class Checker
                 "use another.");
         else if (item.record.ID_No < 0 || item.record.ID_No >= row->count)
             say("code " + Quoted(row->name) + " has " + std::to_string(row->count) +
-                " cells, so there is no +" + std::to_string(item.record.ID_No) +
-                ". Correct the offset or extend the code.");
+                " cells, so there is no " + (item.record.ID_No < 0 ? "" : "+") +
+                std::to_string(item.record.ID_No) + ". Correct the offset or extend the code.");
     }
 
   private:
@@ -131,6 +131,18 @@ void CheckRoom(const PatternItem& item, Checker& checker)
                     "larger.");
 }
 
+// No number with decimals is shorter than "0.00".
+void CheckDecimals(const PatternItem& item, Checker& checker)
+{
+    const std::int32_t* parm = item.record.Parm;
+    const int decimals = parm[FIELD_DECIMALS];
+    const long long needed = decimals + 2LL;
+    if (item.record.Type == PTRN_NUMR && !parm[FIELD_HEX] && decimals > 0 && parm[FIELD_WIDTH] < needed)
+        checker.say("its field has " + std::to_string(parm[FIELD_WIDTH]) + " characters; a number with " +
+                    std::to_string(decimals) + " decimals needs " + std::to_string(needed) +
+                    " or more. Make 'width' larger.");
+}
+
 // What the parameters of single types may not be.
 void CheckType(const PatternItem& item, Checker& checker)
 {
@@ -150,10 +162,17 @@ void CheckType(const PatternItem& item, Checker& checker)
         if (parm[SPIN_MINIMUM] > parm[SPIN_MAXIMUM])
             checker.say("'minimum' is above 'maximum', so the value jumps between them. Exchange them.");
         break;
+    case PTRN_FCHR:
+        if (parm[FIELD_WIDTH] > 0 && Placement::longestText(item) > parm[FIELD_WIDTH])
+            checker.say("its text has " + std::to_string(Placement::longestText(item)) +
+                        " half-width characters and its field " + std::to_string(parm[FIELD_WIDTH]) +
+                        ". Shorten it, or make 'width' larger.");
+        break;
     case PTRN_CHAR:
     case PTRN_NUMR:
         if (parm[FIELD_KEYENTRY] == 1 && item.code.empty())
             checker.say("'entry' has nowhere to store what is typed. Name a cell with 'data'.");
+        CheckDecimals(item, checker);
         break;
     default:
         break;

@@ -14,9 +14,11 @@ constexpr int drawOrder[] = {PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LI
                              PTRN_BMAP, PTRN_MARK, PTRN_SBAR, PTRN_SPIN, PTRN_BUTN,
                              PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR};
 
+// Whether what it shows decides how large it is.
 bool IsText(int type)
 {
-    return type == PTRN_FCHR || type == PTRN_CHAR || type == PTRN_NUMR;
+    return type == PTRN_FCHR || type == PTRN_CHAR || type == PTRN_NUMR || type == PTRN_RDIO ||
+           type == PTRN_CHCK;
 }
 
 bool Contains(const RECT& outer, const RECT& inner)
@@ -98,7 +100,7 @@ void Layout::checkPlaces()
     }
 }
 
-// Texts and fields in the smallest box that they begin in, and captions in their buttons.
+// Texts, fields and choices in the smallest box that they begin in, and captions in their buttons.
 void Layout::checkFrames()
 {
     for (std::size_t i = 0; i < rects_.size(); ++i) {

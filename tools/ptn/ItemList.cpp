@@ -4,6 +4,7 @@
 #include "tools/ptn/Placement.h"
 
 #include <algorithm>
+#include <set>
 
 namespace
 {
@@ -176,7 +177,9 @@ Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const st
 {
     int columns = 0;
     std::vector<int> step;
+    std::set<std::string> given;
     for (const Entry& entry : Entries(grid, label + ": 'grid'", diagnostics_)) {
+        given.insert(entry.name);
         if (entry.name == "columns")
             columns = Integer(entry.value, 1, 1000, label + ": 'grid' 'columns'", diagnostics_).value_or(0);
         else if (entry.name == "step")
@@ -186,7 +189,7 @@ Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const st
                                                 Suggestion(entry.name, {"columns", "step"}) +
                                                 " Write 'columns' and 'step'.");
     }
-    if (!grid.isEmpty() && (columns == 0 || step.empty()))
+    if (!grid.isEmpty() && (!given.count("columns") || !given.count("step")))
         diagnostics_.error(grid.place(), label + ": 'grid' needs 'columns' and 'step: [dx, dy]'.");
     Items all;
     for (std::size_t i = 0; i < parts.size(); ++i) {

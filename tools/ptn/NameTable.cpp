@@ -38,6 +38,15 @@ std::optional<int> NameTable::find(const Source& source, const std::string& attr
 namespace
 {
 
+// "'no', 'text' and 'data'".
+std::string Listed(const std::vector<std::string>& keys)
+{
+    std::string list;
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        list += (i == 0 ? "" : i + 1 == keys.size() ? " and " : ", ") + Quoted(keys[i]);
+    return list;
+}
+
 // The number and the value of an entry, whichever of the two forms it has.
 std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std::string>& keys, int next,
                                        const NameTable& table, Diagnostics& diagnostics,
@@ -46,6 +55,9 @@ std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std
     const std::string& key = keys.front();
     const std::string what = std::string(table.what()) + " " + Quoted(entry.name);
     NumberedEntry read{entry.name, next, entry.place, key, entry.value, {}};
+    std::vector<std::string> known = {"no"};
+    known.insert(known.end(), keys.begin(), keys.end());
+    known.insert(known.end(), extras.begin(), extras.end());
     if (entry.value.isMap()) {
         read.value = Source();
         for (const Entry& part : Entries(entry.value, what, diagnostics)) {
@@ -62,8 +74,8 @@ std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std
                 read.extras[part.name] = part.value;
             } else {
                 diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                                  Suggestion(part.name, {"no", key}) + " Write 'no' and " +
-                                                  Quoted(key) + ".");
+                                                  Suggestion(part.name, known) + " Write " + Listed(known) +
+                                                  ".");
             }
         }
     }

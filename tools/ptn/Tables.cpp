@@ -134,6 +134,10 @@ std::string MessageTable::yaml() const
 void LimitTable::readRow(const Source& source, int& number, const CodeTable& codes,
                          const MessageTable& messages, Diagnostics& diagnostics)
 {
+    const std::vector<Entry> entries = Entries(source, "limit " + std::to_string(number), diagnostics);
+    for (const Entry& entry : entries)
+        if (entry.name == "no")
+            number = Integer(entry.value, 1, CONT_LIMTDATA, "a limit: 'no'", diagnostics).value_or(number);
     const std::string what = "limit " + std::to_string(number);
     Row row;
     int count = 1;
@@ -144,10 +148,12 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
     const auto limit = [&](const Entry& entry, int maximum) {
         return Integer(entry.value, 0, maximum, what + ": " + Quoted(entry.name), diagnostics).value_or(0);
     };
-    for (const Entry& entry : Entries(source, what, diagnostics)) {
+    bool bound = false;
+    for (const Entry& entry : entries) {
+        bound = bound || entry.name == "data";
         if (entry.name == "no")
-            number = std::max(1, limit(entry, CONT_LIMTDATA));
-        else if (entry.name == "data")
+            continue;
+        if (entry.name == "data")
             cell = codes.find(entry.value, what + ": 'data'", diagnostics);
         else if (entry.name == "count")
             count = std::max(1, limit(entry, 999999));
@@ -165,10 +171,10 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
                                                                        "below", "above", "no"}) +
                                                " Write data, count, minimum, maximum, below, above or no.");
     }
-    if (!cell) {
+    if (!bound && (source.isMap() || source.isEmpty()))
         diagnostics.error(source.place(), what + " has no cells. Name the first one with 'data'.");
+    if (!cell)
         return;
-    }
     if (count > cell->count - cell->offset)
         diagnostics.error(source.place(), what + " ends beyond its code. Lower 'count' to " +
                                               std::to_string(cell->count - cell->offset) + ".");

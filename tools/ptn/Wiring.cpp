@@ -154,6 +154,12 @@ void Wiring::readTable(const std::filesystem::path& file, const Place& place, Di
         return;
     }
     const std::vector<CsvRow> rows = ParseCsv(*text);
+    const std::size_t wires = rows.empty() ? 0 : rows.size() - 1;
+    if (wires > static_cast<std::size_t>(CONT_HAISENDATA)) {
+        diagnostics.error({file.string(), 0}, "has " + std::to_string(wires) + " wires; the program reads " +
+                                                  std::to_string(CONT_HAISENDATA) + ". Split the table.");
+        return;
+    }
     std::vector<std::string> columns;
     for (const CsvRow& row : rows) {
         const Place line{file.string(), row.line};
@@ -177,8 +183,6 @@ void Wiring::readTable(const std::filesystem::path& file, const Place& place, Di
             SetColumn(wire, columns[i], row.fields[i], line, diagnostics);
         AppendRecord(bytes_, wire);
     }
-    if (rows.size() > static_cast<std::size_t>(CONT_HAISENDATA))
-        diagnostics.error({file.string(), 0}, "has more wires than the program reads. Split the table.");
 }
 
 bool Wiring::load(const std::string& bytes, const Place& place, Diagnostics& diagnostics)
