@@ -46,9 +46,11 @@ SIZE BoundedBuffer(int width, int height)
     return {cx, std::clamp(height, 1, std::min(kLongest, kLargest / cx))};
 }
 
-std::shared_ptr<CPaintDraw> NewBuffer(GdkWindow* window, SIZE size)
+std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)
 {
-    GdkPixmap* pixmap = NewPixmap(window, size);
+    GdkPixmap* pixmap = NewPixmap(area->window, size);
+    // Not everything need be drawn on: a picture of the body may be missing.
+    gdk_draw_rectangle(pixmap, area->style->bg_gc[GTK_STATE_NORMAL], TRUE, 0, 0, size.cx, size.cy);
     return {new CPaintDraw(pixmap), [](CPaintDraw* draw) {
                 GdkDrawable* buffer = draw->window;
                 PaintDrawRelease()(draw);

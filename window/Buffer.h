@@ -4,12 +4,14 @@
 #include "base/Types.h"
 #include "draw/DrawCntl.h"
 
+#include <gtk/gtk.h>
 #include <memory>
 
 /// The size of the back buffer of a pattern: at least one pixel each way, at most what the display server
 /// allows (32767) and 32 Mi pixels in all, for which the height is cut.
 SIZE BoundedBuffer(int width, int height);
 
-/// A new back buffer with the depth of the window; its `window` is the pixmap. Pixmap and graphics context go
-/// with the last owner. When the server has no memory for it, the buffer is one pixel large; that is logged.
-std::shared_ptr<CPaintDraw> NewBuffer(GdkWindow* window, SIZE size);
+/// A new back buffer with the depth and all over the plain background of the drawing area; its `window` is
+/// the pixmap. Pixmap and graphics context go with the last owner. When the server has no memory for it, the
+/// buffer is one pixel large; that is logged.
+std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size);

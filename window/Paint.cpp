@@ -15,7 +15,7 @@ void CPtrnDisp::PaintEvent()
         return;
     ReleaseBuffer();
     const SIZE size = BoundedBuffer(Header(HEDR_WIDTH), Header(HEDR_HEIGHT));
-    const std::shared_ptr<CPaintDraw> draw = NewBuffer(DrawArea->window, size);
+    const std::shared_ptr<CPaintDraw> draw = NewBuffer(DrawArea, size);
     Draw = draw;
     Pixmap = draw->window;
 

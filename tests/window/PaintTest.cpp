@@ -91,6 +91,20 @@ TEST_F(Painting, makes_the_back_buffer_as_large_as_the_pattern)
     EXPECT_EQ(pixel(&wnd, 69, 29), color(40));
 }
 
+TEST_F(Painting, shows_the_plain_background_where_the_body_s_bitmap_is_missing)
+{
+    const auto body = [&](CPtrnDisp* wnd) { return bufferPicture(wnd, 0, 0, 200, 200).count(ground(wnd)); };
+    know(quarters("painted"));
+    know(Pattern("bare").size(200, 200).bitmap("missing"));
+    start();
+    EXPECT_EQ(body(openTop("painted")), 0);
+    AppliWnd->PtrnExit(); // the server is likely to give its buffer's memory away next
+    gdk_flush();
+    EXPECT_EQ(body(openTop("bare")), 200 * 200);
+    AppliWnd->PaintEvent();
+    EXPECT_EQ(body(AppliWnd), 200 * 200);
+}
+
 TEST_F(Painting, shows_the_part_of_the_pattern_that_the_offset_says)
 {
     know(quarters("p"));
