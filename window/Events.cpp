@@ -27,6 +27,44 @@ POINT PointOf(double x, double y)
     return {static_cast<int>(x), static_cast<int>(y)};
 }
 
+bool IsDragging(const CPtrnDisp* wnd)
+{
+    return wnd->MoveWnd == 1 || wnd->ScrollBar == 1;
+}
+
+/// A point of the screen, relative to a window that is being moved. A window manager lags behind: where the
+/// window is on the screen is not yet where it is to be, and only the pointer's place on the screen is
+/// certain.
+POINT DragPoint(const CPtrnDisp* wnd, POINT root)
+{
+    return {root.x - wnd->WindRect.left, root.y - wnd->WindRect.top};
+}
+
+/// Takes the pointer's place of this moment, after which the server reports its motion again. Where the
+/// pointer goes after the button of a drag was released is none of the drag's business.
+void AskPointer(const CPtrnDisp* wnd, POINT* pt)
+{
+    const bool moving = wnd->MoveWnd == 1;
+    POINT now{};
+    GdkModifierType state{};
+    gdk_window_get_pointer(moving ? gdk_get_default_root_window() : wnd->DrawArea->window, &now.x, &now.y,
+                           &state);
+    if (!IsDragging(wnd) || (state & GDK_BUTTON1_MASK))
+        *pt = moving ? DragPoint(wnd, now) : now;
+}
+
+/// The pointer may have moved on between the press that has started a drag and this moment, and its motion
+/// was taken for known.
+void CatchUp(CPtrnDisp* wnd, POINT pressed, int flags)
+{
+    if (!IsDragging(wnd))
+        return;
+    POINT pt = pressed;
+    AskPointer(wnd, &pt);
+    if (pt.x != pressed.x || pt.y != pressed.y)
+        wnd->MouseMove(pt, flags);
+}
+
 /// The keypad types what is printed on it. Its decimal key is left as it is: only the separator key types
 /// '.'. With Shift the server gives the tabulator another name; which way it goes is told by the flags.
 guint TranslateKey(guint key)
@@ -83,6 +121,7 @@ int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd)
     switch (event->button) {
     case 1:
         wnd->LButtonDown(pt, flags);
+        CatchUp(wnd, pt, flags);
         break;
     case 3:
         wnd->RButtonDown(pt, flags);
@@ -121,19 +160,14 @@ int Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
     return TRUE;
 }
 
-int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd)
+int Mouse_Motion(GtkWidget*, GdkEventMotion* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
     POINT pt = PointOf(event->x, event->y);
-    if (wnd->MoveWnd == 1) {
-        // A window manager lags behind the drag: where the window is on the screen is not yet where it is to
-        // be, and only the pointer's place on the screen is certain.
-        pt = PointOf(event->x_root, event->y_root);
-        if (event->is_hint)
-            gdk_window_get_pointer(gdk_get_default_root_window(), &pt.x, &pt.y, nullptr);
-        pt = {pt.x - wnd->WindRect.left, pt.y - wnd->WindRect.top};
-    } else if (event->is_hint) {
-        gdk_window_get_pointer(widget->window, &pt.x, &pt.y, nullptr);
+    if (event->is_hint) {
+        if (IsDragging(wnd))
+            pt = DragPoint(wnd, PointOf(event->x_root, event->y_root));
+        AskPointer(wnd, &pt);
     }
     wnd->MouseMove(pt, Modifiers(event->state));
     return TRUE;

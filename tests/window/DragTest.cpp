@@ -189,6 +189,39 @@ TEST_F(Dragging, ends_when_the_pointer_leaves_the_window)
     release();
 }
 
+TEST_F(Dragging, knows_of_motion_that_came_before_the_press_was_handled)
+{
+    CPtrnDisp* wnd = open(draggable("p"));
+    // All of it waits in the queue when the window gets to it.
+    user.move(400 + 140, 300 + 15);
+    user.move(400 + 150, 300 + 15);
+    user.press();
+    user.move(400 + 170, 300 + 25);
+    user.settle();
+    expectAt(wnd, 420, 310);
+    release();
+}
+
+TEST_F(Dragging, does_not_follow_the_pointer_beyond_the_release)
+{
+    CPtrnDisp* wnd = open(draggable("p"));
+    take(wnd);
+    user.move(pointer.x + 20, pointer.y + 10);
+    user.release();
+    user.move(pointer.x + 90, pointer.y + 10);
+    user.settle();
+    expectAt(wnd, 420, 310);
+    EXPECT_EQ(wnd->MoveWnd, 0);
+
+    // A click is no drag, however fast the pointer goes on.
+    user.move(420 + 150, 310 + 15);
+    user.press();
+    user.release();
+    user.move(420 + 200, 310 + 15);
+    user.settle();
+    expectAt(wnd, 420, 310);
+}
+
 TEST_F(Dragging, is_remembered_when_the_window_is_exited)
 {
     know(draggable("top"));
