@@ -147,10 +147,12 @@ int CPtrnTest3::PtrnKeyStart(PTRNDATA* item)
 
 void CPtrnTest3::PtrnKeyFunc(int key, int state, PTRNDATA* item)
 {
-    const Move* move = FindMove(item->DataNo);
-    if (!move || key == KEY_ESCAPE)
+    if (key == KEY_ESCAPE)
         return;
     TakeHeader();
+    const Move* move = FindMove(item->DataNo);
+    if (!move)
+        return;
     const int target = Target(*move, static_cast<unsigned int>(key), state);
     KeyInputStart(target == kStay ? move->from : target, nullptr, 0);
 }

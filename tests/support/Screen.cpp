@@ -129,6 +129,7 @@ Screen::~Screen()
     SystemStop = 0;
     WaitTimer = 0;
     DeleteRetiredWnd(0);
+    gdk_flush(); // else the windows stay on the screen until a later test asks the server for something
     DrawCntlExit();
     TestApplication::reset();
     g_log_set_default_handler(g_log_default_handler, nullptr);
