@@ -16,6 +16,7 @@ int CPtrnData::TestPtrnData(POINT point)
 
 int CPtrnData::TestPtrnData(POINT point, int top)
 {
+    BuildDrawOrder(); // as for a full display: a type or pass may have been changed in place
     // Types from the topmost down, but items of one type from the first in the file on, although the last
     // of them is drawn on top.
     for (int rank = CONT_PTRN - 1; rank >= 0; --rank) {

@@ -116,7 +116,7 @@ class CPtrnData
     int ReadPtrnData(int dataNo, int type, PTRNDATA* item);
 
     /// Copies a record back over the item with its Recd; a Recd outside the array is ignored. A type or a
-    /// pass changed in any other way does not change the order of drawing.
+    /// pass changed in any other way counts from the next full display or hit test on.
     void WritePtrnData(const PTRNDATA* item);
 
     static RECT SetRect(int x1, int y1, int x2, int y2) { return ::SetRect(x1, y1, x2, y2); }

@@ -48,3 +48,17 @@ TEST_F(Display, follows_a_pass_that_was_changed_in_the_array_itself)
     data().PtrnData[0].Parm[PARM_PASS] = 2;
     EXPECT_EQ(display().at(8, 8), color(34)) << "pass 2 is never drawn";
 }
+
+TEST_F(Display, hits_an_item_in_the_pass_to_which_it_was_moved_in_the_array_itself)
+{
+    Pattern pattern("p");
+    box(pattern, 0, 0, 50, 50).action(1);
+    box(pattern, 0, 0, 50, 50).action(1);
+    load(pattern);
+    ASSERT_EQ(data().TestPtrnData({8, 8}), 0);
+
+    data().PtrnData[1].Parm[PARM_PASS] = 1;
+    EXPECT_EQ(data().TestPtrnData({8, 8}), 1) << "pass 1 lies on top";
+    data().PtrnData[1].Type = PTRN_CHAR; // a field without width: only its left edge is hit
+    EXPECT_EQ(data().TestPtrnData({8, 8}), 0);
+}
