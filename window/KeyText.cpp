@@ -87,7 +87,7 @@ int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, uns
     if (item.Type == PTRN_NUMR) {
         work[width + 1] = '\0'; // the first byte is not taken over
         CopyText(text, KEYTEXT_SIZE, work + 1);
-        return cursor;
+        return std::min(cursor, width);
     }
     CopyText(text, KEYTEXT_SIZE, work);
     return std::min(cursor + added, width);
@@ -95,11 +95,11 @@ int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, uns
 
 int DeleteKey(int width, char* text, int cursor, unsigned int key)
 {
-    Pad(text, width);
     const bool back = key == KEY_BACKSPACE;
     if (back ? cursor == 0 : cursor == width - 1)
         return cursor;
 
+    Pad(text, width);
     const int steps = HalfAt(text, cursor) ? 2 : 1;
     for (int i = 0; i < steps; i++) {
         if (back)

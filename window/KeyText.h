@@ -38,7 +38,8 @@ bool PrintableKey(unsigned char byte);
 bool NumericKey(const PTRNDATA& item, const char* text, int cursor, unsigned char byte);
 
 /// Inserts one or two bytes (c2 0: one). A numeric field keeps its length: its leftmost byte drops out and
-/// the cursor stays. A text field grows and the cursor moves on. @return the new cursor
+/// the cursor stays. A text field grows and the cursor moves on, at most to the end of the field.
+/// @return the new cursor
 int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, unsigned int c2);
 
 /// BackSpace and Delete; the field is filled up with a blank. @return the new cursor

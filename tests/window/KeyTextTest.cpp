@@ -105,6 +105,8 @@ TEST_F(KeyText, a_number_that_is_longer_than_its_field_is_cut_by_the_first_key)
     field(PTRN_NUMR, 5);
     set("1234567", 5);
     EXPECT_EQ(insert('9'), "23459|");
+    set("1234567", 7);
+    EXPECT_EQ(insert('9'), "23456|") << "the cursor is held at the end of the field";
 }
 
 TEST_F(KeyText, a_number_that_is_shorter_than_the_cursor_is_filled_with_blanks)
@@ -223,6 +225,8 @@ TEST_F(KeyText, backspace_does_nothing_at_the_start)
     field(PTRN_CHAR, 5);
     set("abcde", 0);
     EXPECT_EQ(erase(KEY_BACKSPACE), "|abcde");
+    set("abc", 0);
+    EXPECT_EQ(erase(KEY_BACKSPACE), "|abc") << "a short text is not filled up either";
 }
 
 TEST_F(KeyText, backspace_removes_two_bytes_when_the_cursor_stands_on_half_a_character)
@@ -259,6 +263,9 @@ TEST_F(KeyText, delete_does_nothing_at_the_last_position_and_blanks_it_behind)
     EXPECT_EQ(erase(KEY_DELETE), "abcd|e");
     set("abcde", 5);
     EXPECT_EQ(erase(KEY_DELETE), "abcd |");
+    field(PTRN_CHAR, 1);
+    set("", 0);
+    EXPECT_EQ(erase(KEY_DELETE), "|") << "the only position is the last";
 }
 
 TEST_F(KeyText, a_delete_cuts_a_grown_text_to_its_field)
