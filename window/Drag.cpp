@@ -44,6 +44,7 @@ void CPtrnDisp::MoveWindow2(POINT pt)
     rect.height = Saturate(std::int64_t{rect.bottom} - rect.top);
 
     MovePoint = current;
+    Placed = {rect.left, rect.top};
     if (Widget)
         gtk_window_move(GTK_WINDOW(Widget), rect.left, rect.top);
 }

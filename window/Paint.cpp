@@ -82,21 +82,21 @@ void CPtrnDisp::PtrnUpdate()
         gtk_widget_queue_draw_area(DrawArea, 0, 0, WindRect.width, WindRect.height);
 }
 
-/// A window manager may have placed the window elsewhere. Reports come late, so what is true now counts.
+/// A window manager may have placed the window elsewhere. Reports come late, so what is true now counts. A
+/// place that a screen class has stored in WindRect stays until the window is really moved.
 void CPtrnDisp::FollowWindow()
 {
     if (!Configured || MoveWnd == 1)
         return;
     Configured = false;
-    if (Reported.x == WindRect.left && Reported.y == WindRect.top)
+    if (Reported.x == Placed.x && Reported.y == Placed.y)
         return;
-    POINT origin{};
-    gdk_window_get_origin(Widget->window, &origin.x, &origin.y);
-    const int dx = Saturate(std::int64_t{origin.x} - WindRect.left);
-    const int dy = Saturate(std::int64_t{origin.y} - WindRect.top);
-    WindRect.left = origin.x;
+    gdk_window_get_origin(Widget->window, &Placed.x, &Placed.y);
+    const int dx = Saturate(std::int64_t{Placed.x} - WindRect.left);
+    const int dy = Saturate(std::int64_t{Placed.y} - WindRect.top);
+    WindRect.left = Placed.x;
     WindRect.right = Shift(WindRect.right, dx);
-    WindRect.top = origin.y;
+    WindRect.top = Placed.y;
     WindRect.bottom = Shift(WindRect.bottom, dy);
 }
 

@@ -222,6 +222,7 @@ class CPtrnDisp
     bool Closed = false;     ///< the toolkit window has gone
     bool Configured = false; ///< the window has been placed anew since the last tick
     POINT Reported{};        ///< where
+    POINT Placed{};          ///< where it was put or found before
     bool Shown = false;      ///< the window has come up on the screen
     int Hidden = 0;          ///< ticks until it does
 

@@ -138,6 +138,7 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     GtkWidget* area = NewArea(top, rect);
     wnd->Widget = top;
     wnd->DrawArea = area;
+    wnd->Placed = {rect.left, rect.top};
     wnd->Shown = false;
     wnd->Hidden = 0;
 

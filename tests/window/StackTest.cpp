@@ -93,6 +93,17 @@ TEST_F(Stack, replaces_a_child_without_its_exit_hook_and_without_remembering_its
     EXPECT_EQ(user.windows().size(), 2u);
 }
 
+TEST_F(Stack, remembers_the_place_that_a_screen_class_has_stored)
+{
+    CPtrnDisp* child = openChild(AppliWnd, 1, "a");
+    user.settle(); // the server has told where the window is
+    child->WindRect.left = 12;
+    child->WindRect.top = 34;
+    tick();
+    AppliWnd->PtrnCloseWnd(1, nullptr, 0);
+    EXPECT_THAT(readFile(project.profile()), HasSubstr("=12,34\n"));
+}
+
 TEST_F(Stack, leaves_the_children_of_a_replaced_child_on_the_screen)
 {
     CPtrnDisp* first = openChild(AppliWnd, 1, "a");
