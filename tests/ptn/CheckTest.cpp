@@ -77,6 +77,8 @@ const MessageCase cases[] = {
      ":4: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
     {"character_that_euc_lacks", u8"  - { type: text, at: [1, 1], text: 한 }\n",
      u8":4: item 1 (text): 'text': EUC-JP has no '한' (U+D55C). Use another character."},
+    {"character_that_fonts_lack", u8"  - { type: text, at: [1, 1], text: [a, b, Spülen] }\n",
+     u8":4: text at 1,1: its text has 'ü', which the fonts of a panel lack. Use another character."},
     {"unknown_code", "  - { type: spin, rect: [1, 1, 20, 20], exact: { code: X } }\n",
      ":4: spin at 1,1: no code 'X', so it is bound to nothing. Add it to 'codes' or use another."},
     {"offset", "  - { type: spin, rect: [1, 1, 20, 20], exact: { code: B, offset: 3 } }\n",
@@ -120,6 +122,9 @@ const MessageCase cases[] = {
     {"action_that_opens_nothing",
      "  - { type: spin, rect: [1, 1, 20, 20], exact: { action: 8, pattern: x } }\n",
      ":4: spin at 1,1: no screen is named 'x', which this item opens. Correct the name or add the screen."},
+    {"pattern_without_an_action", "  - { type: spin, rect: [1, 1, 20, 20], action: close, pattern: a }\n",
+     ":4: spin at 1,1: names the screen 'a', but its action opens none. Write an action such as "
+     "open-application, or remove 'pattern'."},
     {"version_window", "  - { type: spin, rect: [1, 1, 20, 20], action: version }\n",
      u8":4: spin at 1,1: opens the screen 'バージョン情報', which is not there. Add it, or take the action "
      u8"away."},
@@ -335,7 +340,12 @@ TEST_F(Check, help_names_every_attribute_of_a_type)
         EXPECT_THAT(help.out, HasSubstr(text));
     EXPECT_THAT(sources.run("help attributes window").out, HasSubstr("kanji-seconds"));
     EXPECT_THAT(sources.run("help attributes").out, HasSubstr("open-application"));
-    EXPECT_EQ(sources.run("help attributes lamp").status, 1);
+    EXPECT_EQ(sources.run("help radio").out, help.out);
+    for (const char* topic : {"lamp", "attributes lamp"}) {
+        const PtnResult unknown = sources.run(std::string("help ") + topic);
+        EXPECT_EQ(unknown.status, 1);
+        EXPECT_THAT(unknown.err, testing::StartsWith("ptn: no type 'lamp'. The types are:\n"));
+    }
 }
 
 } // namespace

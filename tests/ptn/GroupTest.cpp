@@ -40,6 +40,21 @@ TEST_F(Group, puts_arguments_offsets_and_copies_into_its_items)
         plain);
 }
 
+TEST_F(Group, or_an_item_may_begin_with_its_type)
+{
+    const std::string plain =
+        built("items:\n"
+              "  - { type: text, at: [10, 20], text: [x, y], color: hot }\n"
+              "  - { type: spin, rect: [11, 62, 21, 72], data: A, repeat: { count: 2 } }\n");
+    EXPECT_EQ(built("items:\n"
+                    "  - text: { at: [10, 20], text: [x, y], color: hot }\n"
+                    "  - spin:\n"
+                    "      rect: [11, 62, 21, 72]\n"
+                    "      data: A\n"
+                    "      repeat: { count: 2 }\n"),
+              plain);
+}
+
 TEST_F(Group, puts_the_entries_of_a_grid_in_rows)
 {
     const std::string plain = built("items:\n"
@@ -62,6 +77,18 @@ TEST_F(Group, that_uses_itself_ends_with_a_message)
     const PtnResult result = sources.build();
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, testing::HasSubstr("A group can not use itself."));
+}
+
+TEST_F(Group, has_its_mistakes_told_once_however_often_it_is_used)
+{
+    sources.base().screen("name: a\ngroups:\n  g:\n    parameters: [cell]\n    items:\n"
+                          "      - { type: spin, rect: [1, 1, 9, 9], data: $cell, colour: hot }\n"
+                          "items:\n  - { use: g, cell: A }\n  - { use: g, cell: B+7 }\n");
+    EXPECT_EQ(sources.build().err,
+              "src/screens/a.yaml:6: item 1.1 (spin): unknown attribute 'colour'. Correct or remove it.\n"
+              "src/screens/a.yaml:9: item 2.1 (spin): 'data': code 'B' has 3 cells, so there is no +7. Write "
+              "at most +2 or extend the code.\n"
+              "2 errors; out/ProjPath is unchanged.\n");
 }
 
 TEST_F(Group, names_parameters_that_are_missing_or_unknown)

@@ -17,7 +17,21 @@ TEST_P(ProjectMessages, name_place_and_remedy)
 }
 
 const MessageCase projectCases[] = {
-    {"not_yaml", "codes: [1, 2\n", ":2: not valid YAML: end of sequence flow not found."},
+    {"not_yaml", "codes: [1, 2\n",
+     ":2: not valid YAML: end of sequence flow not found. Look for a missing ',', '}', ']' or quote; a text "
+     "with '#' or ': ' in it needs quotes."},
+    {"not_yaml_but_indented_with_tabs", "codes:\n\tA: 1\n",
+     ":2: not valid YAML: illegal map value. Indent with blanks, not with tabs."},
+    {"not_yaml_for_a_colon", "messages:\n  a: Stop: look\n",
+     ":2: not valid YAML: illegal map value. A text with ': ' in it needs quotes."},
+    {"not_yaml_for_an_at_sign", "messages:\n  a: @look\n",
+     ":2: not valid YAML: unknown token. A text that begins with '@', '%' or '`' needs quotes."},
+    {"not_yaml_for_an_asterisk", "messages:\n  a: *look\n",
+     ":2: not valid YAML: the referenced anchor is not defined. A text that begins with '*' or '&' needs "
+     "quotes."},
+    {"not_yaml_for_its_indentation", "messages:\n  a: Stop\n b: Look\n",
+     ":3: not valid YAML: end of map not found. Look at this line and the one before it; what belongs "
+     "together is indented alike."},
     {"not_a_mapping", "\n- codes\n", ":2: the file must be a mapping: write one 'name: value' per line."},
     {"key_that_is_no_name", "[a]: 1\n",
      ":1: the file has a key that is not a plain name. Write a name before the ':'."},
@@ -221,7 +235,11 @@ const MessageCase itemCases[] = {
     {"attribute_without_value", "{ type: line, rect: [1, 1, 2, 2], color: }",
      ":3: item 1 (line): 'color' has no value. Write one, or remove the line."},
     {"corner", "{ type: line, rect: [1, 1, 2, 2], x1: 4 }",
-     ":3: item 1 (line): write the corners as rect: [x1, y1, x2, y2], not as 'x1'."},
+     ":3: item 1 (line): write its place as rect: [x1, y1, x2, y2] or at: [x, y], not as 'x1'."},
+    {"other_words_for_its_place", "{ type: line, rect: [1, 1, 2, 2], from: [1, 1] }",
+     ":3: item 1 (line): write its place as rect: [x1, y1, x2, y2] or at: [x, y], not as 'from'."},
+    {"short_form", "line: { rect: [1, 1, 2, 2], colour: hot }",
+     ":3: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
     {"colour_name", "{ type: line, rect: [1, 1, 2, 2], color: whit }",
      ":3: item 1 (line): 'color': this project has no color 'whit'. Did you mean 'white'? Define it in "
      "'colors' or "

@@ -226,7 +226,9 @@ TEST_F(Output, needs_two_arguments_and_a_folder_of_sources)
     EXPECT_EQ(sources.run("build src").status, 2);
     EXPECT_EQ(sources.run("build nowhere out").status, 2);
     EXPECT_EQ(sources.run("build --nonsense src out").status, 2);
-    EXPECT_EQ(sources.run("knit src out").status, 2);
+    EXPECT_EQ(sources.run("bulid src out").status, 2);
+    EXPECT_EQ(sources.run("bulid src out").err,
+              "ptn: no command 'bulid'. Did you mean 'build'? Run with --help for more information.\n");
 }
 
 TEST_F(Output, is_explained_by_the_help)
@@ -236,6 +238,13 @@ TEST_F(Output, is_explained_by_the_help)
     EXPECT_EQ(sources.run("build --help").status, 0);
     EXPECT_THAT(sources.run("build --help").out, HasSubstr("SRC"));
     EXPECT_THAT(sources.run("build --help").out, HasSubstr("--quiet"));
+    EXPECT_EQ(sources.run("help").out, sources.run("--help").out);
+    for (const char* command : {"new", "build", "check", "dump", "render", "watch", "help"}) {
+        const PtnResult help = sources.run(std::string(command) + " --help");
+        EXPECT_EQ(help.status, 0);
+        EXPECT_THAT(help.out, HasSubstr(std::string("Usage: ptn ") + command + " ["));
+        EXPECT_EQ(sources.run(std::string("help ") + command).out, help.out);
+    }
     EXPECT_EQ(sources.run("--version").status, 0);
     EXPECT_THAT(sources.run("--version").out, testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }

@@ -91,6 +91,18 @@ TEST_F(Render, writes_every_screen_and_a_sheet_of_all)
     EXPECT_GT(sheet->count(0xFF8000) + sheet->count(0xFFFFFF), 0);
 }
 
+TEST_F(Render, draws_the_screen_that_the_panel_starts_with_unless_another_is_named)
+{
+    sources.write("screens/b.yaml", "name: b\nwindow: { size: [80, 30] }\n");
+    EXPECT_EQ(sources.run("render src").err, "the profile names no screen to start with. Name the screen to "
+                                             "draw.\n");
+    sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: b } }\n");
+    EXPECT_EQ(sources.run("render src").out, "b.png\n");
+    EXPECT_EQ(Picture::load(sources.root() + "/b.png")->width(), 80);
+    EXPECT_EQ(sources.run("render src -o shot.png").out, "shot.png\n");
+    EXPECT_EQ(sources.run("render src b --all").err, "ptn: name a screen, or write --all.\n");
+}
+
 TEST_F(Render, shows_the_texts_of_the_language_that_is_asked_for)
 {
     sources.screen("name: a\nwindow: { size: [64, 48], body-color: white }\nitems:\n"

@@ -69,12 +69,7 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     }
 
     const ProjectSource project = ReadProject(source, diagnostics);
-    std::vector<Pattern> patterns;
-    for (const std::string& file : YamlFiles(source / "screens"))
-        if (std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics))
-            patterns.push_back(std::move(*pattern));
-    project.profile.checkPatterns(CheckPatterns(patterns, diagnostics), diagnostics);
-
+    const std::vector<Pattern> patterns = ReadScreens(source, project, diagnostics).patterns;
     const fs::path profile = folder.parent_path() / (project.program + ".ini");
     const std::string profileBytes =
         project.profile.bytes(folder.parent_path().string(), folder.filename().string(), project.resources,

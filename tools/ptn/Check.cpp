@@ -42,10 +42,9 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
         read = ReadCompiled(folder, diagnostics);
     } else {
         read.project = ReadProject(folder, diagnostics);
-        for (const std::string& file : YamlFiles(folder / "screens"))
-            if (std::optional<Pattern> pattern = ReadScreen(file, read.project, diagnostics))
-                read.patterns.push_back(std::move(*pattern));
-        read.project.profile.checkPatterns(CheckPatterns(read.patterns, diagnostics), diagnostics);
+        ScreenSet screens = ReadScreens(folder, read.project, diagnostics);
+        read.patterns = std::move(screens.patterns);
+        read.complete = screens.complete;
     }
     if (!registry.empty())
         read.project.registry = QuotedTexts(registry, {registry, 0}, diagnostics);
@@ -53,6 +52,7 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
         CheckItems(pattern, read.project, diagnostics);
         CheckLayout(pattern, read.project, diagnostics);
     }
-    CheckScreens(read.patterns, read.project, diagnostics);
+    if (read.complete)
+        CheckScreens(read.patterns, read.project, diagnostics);
     return static_cast<int>(read.patterns.size());
 }

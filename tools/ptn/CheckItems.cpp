@@ -83,6 +83,8 @@ class Checker
         Diagnostics found;
         if (!ToEuc(EucToUtf8(text), text.size(), "", {}, found) || Utf8ToEuc(EucToUtf8(text)) != text)
             say(std::string(what) + " has bytes that are no EUC-JP. Write it anew.");
+        else
+            drawable(text, what);
     }
 
     void bitmap(const std::string& name, const char* what)
@@ -116,6 +118,16 @@ class Checker
         for (int font = 0; font < CONT_FONT; ++font)
             any = any || !project_.resources.fontNames(font).at(language).empty();
         return any;
+    }
+
+    // Characters of three bytes are in no font of a panel, which shows two others in their place.
+    void drawable(const std::string& text, const char* what)
+    {
+        constexpr char threeBytes = '\x8F';
+        const std::size_t at = text.find(threeBytes);
+        if (at != std::string::npos)
+            say(std::string(what) + " has " + Quoted(EucToUtf8(text.substr(at, 3))) +
+                ", which the fonts of a panel lack. Use another character.");
     }
 
     Place place_;
@@ -259,7 +271,12 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
                 checker.bitmap(text, "its bitmap");
         if (FontOf(item) >= 0)
             checker.font(FontOf(item));
-        if (!FindAction(item.record.ID_Type))
+        const ActionSchema* action = FindAction(item.record.ID_Type);
+        if (!item.name.empty() && !(action && action->opens))
+            checker.say("names the screen " + Quoted(EucToUtf8(item.name)) +
+                        ", but its action opens none. Write an action such as open-application, or remove "
+                        "'pattern'.");
+        if (!action)
             checker.say("action " + std::to_string(item.record.ID_Type) +
                         " does nothing. Use one from 0 to 16.");
         CheckRoom(item, checker);

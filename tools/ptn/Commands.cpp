@@ -81,15 +81,20 @@ int RunCheck(const std::string& folder, const std::string& registry)
     return found ? 1 : 0;
 }
 
-int RunHelp(const std::string& topic, const std::string& type)
+// Of a command, of the attributes of a type, or of everything.
+int RunHelp(const CLI::App& app, const std::string& topic, const std::string& type)
 {
-    if (topic != "attributes") {
-        std::cerr << "ptn: no help on '" << topic << "'. Write: ptn help attributes [TYPE]\n";
-        return 1;
-    }
-    if (PrintAttributes(type, std::cout))
+    if (topic.empty()) {
+        std::cout << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);
         return 0;
-    std::cerr << "ptn: no type '" << type << "'. The types are:\n";
+    }
+    if (const CLI::App* command = FindCommand(app, topic)) {
+        std::cout << command->help(app.get_name());
+        return 0;
+    }
+    if (PrintAttributes(topic == "attributes" ? type : topic, std::cout))
+        return 0;
+    std::cerr << "ptn: no type '" << (topic == "attributes" ? type : topic) << "'. The types are:\n";
     PrintAttributes("", std::cerr);
     return 1;
 }
@@ -109,6 +114,12 @@ int RunNew(const std::string& folder)
 }
 
 } // namespace
+
+const CLI::App* FindCommand(const CLI::App& app, const std::string& name)
+{
+    const auto found = app.get_subcommands([&](const CLI::App* one) { return one->get_name() == name; });
+    return found.empty() ? nullptr : found.front();
+}
 
 void AddNewCommand(CLI::App& app, int& status)
 {
@@ -169,8 +180,8 @@ void AddHelpCommand(CLI::App& app, int& status)
 {
     const auto topic = std::make_shared<std::string>();
     const auto type = std::make_shared<std::string>();
-    CLI::App* help = app.add_subcommand("help", "Explain the attributes of items and windows");
-    help->add_option("TOPIC", *topic, "attributes")->required();
-    help->add_option("TYPE", *type, "Item type, or window");
-    help->callback([=, &status] { status = RunHelp(*topic, *type); });
+    CLI::App* help = app.add_subcommand("help", "Explain commands, and the attributes of items and windows");
+    help->add_option("TOPIC", *topic, "A command, or attributes");
+    help->add_option("TYPE", *type, "Of attributes: item type, or window");
+    help->callback([=, &app, &status] { status = RunHelp(app, *topic, *type); });
 }

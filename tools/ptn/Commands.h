@@ -3,6 +3,9 @@
 
 #include <CLI/CLI.hpp>
 
+/// The command of that name; null when there is none.
+const CLI::App* FindCommand(const CLI::App& app, const std::string& name);
+
 /// Each adds a command to the command line. When the command is given it runs within the parsing, and
 /// `status` becomes the exit status: 0, or 1 when there was an error.
 void AddNewCommand(CLI::App& app, int& status);

@@ -118,6 +118,8 @@ Compiled ReadCompiled(const fs::path& given, Diagnostics& diagnostics)
                 ParsePattern(file.stem().string(), ReadBytes(file).value_or(""),
                              {(given / EucToUtf8(file.filename().string())).string(), 0}, diagnostics))
             compiled.patterns.push_back(std::move(*pattern));
+        else
+            compiled.complete = false;
     const Used used = UsedNumbers(compiled.patterns);
     project.codes.load(read("PtrnCode"), place("PtrnCode"), diagnostics);
     project.resources.loadColors(read("PtrnColr"), used.colors);

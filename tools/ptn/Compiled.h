@@ -10,6 +10,7 @@
 struct Compiled {
     ProjectSource project;
     std::vector<Pattern> patterns; ///< in the order of their names
+    bool complete = true;          ///< no pattern was left out because it is damaged
     std::filesystem::path profile; ///< empty when none was found
 };
 

@@ -3,6 +3,20 @@
 #include <algorithm>
 #include <ostream>
 
+namespace
+{
+
+// Where "item 1.2.3" at the beginning ends. A line of a group is an item of every use; it is one mistake.
+std::size_t ItemLabelEnd(const std::string& what)
+{
+    static const std::string label = "item ";
+    if (what.compare(0, label.size(), label) != 0)
+        return 0;
+    return std::min(what.find_first_not_of("0123456789.", label.size()), what.size());
+}
+
+} // namespace
+
 void Diagnostics::add(const Place& place, const std::string& what, const char* kind, int& count)
 {
     std::string line = place.file;
@@ -10,9 +24,11 @@ void Diagnostics::add(const Place& place, const std::string& what, const char* k
         line += ":" + std::to_string(place.line);
     if (!line.empty())
         line += ": ";
-    line += kind + what;
-    if (!known_.insert(line).second)
+    line += kind;
+    const std::size_t label = place.line > 0 ? ItemLabelEnd(what) : 0;
+    if (!known_.insert(line + what.substr(label)).second)
         return;
+    line += what;
     ++count;
     lines_.push_back(line);
 }

@@ -15,7 +15,7 @@ struct Place {
 class Diagnostics
 {
   public:
-    /// Adds an error. The same text at the same place is kept once.
+    /// Adds an error. The same text at the same place is kept once, of whichever item it is.
     /// @param what  UTF-8: what is wrong, and what to do about it
     void error(const Place& place, const std::string& what) { add(place, what, "", errors_); }
 

@@ -243,7 +243,7 @@ Items ListReader::readPart(const std::vector<Entry>& entries, const Source& sour
 Items ListReader::readEntry(const Source& source, const std::string& number, int depth)
 {
     std::string label = "item " + number;
-    const std::vector<Entry> entries = Entries(source, label, diagnostics_);
+    const std::vector<Entry> entries = SpelledOut(Entries(source, label, diagnostics_), label, diagnostics_);
     if (source.isEmpty()) {
         diagnostics_.error(source.place(), label + " is empty. Write its type and attributes, or remove it.");
         return {};

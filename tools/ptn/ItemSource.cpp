@@ -6,12 +6,16 @@
 #include "tools/ptn/Placement.h"
 
 #include <algorithm>
+#include <set>
 
 namespace
 {
 
 const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   "size",   "text",
                                            "action", "pattern", "data", "parm", "repeat", "exact"};
+
+/// What others call the place; the first four are in the schema.
+const std::set<std::string> placeWords = {"x1", "y1", "x2", "y2", "x", "y", "from", "to", "pos", "position"};
 
 /// A type that only its number names has no attributes but the common ones.
 const ItemSchema unknownType = {0, "item of an unknown type", ItemText::None, {}, ""};
@@ -100,19 +104,20 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
 {
     Layer own{label_, {}};
     for (const Entry& entry : entries) {
-        const bool corner =
-            entry.name == "x1" || entry.name == "y1" || entry.name == "x2" || entry.name == "y2";
-        if (corner) {
+        if (placeWords.count(entry.name)) {
             diagnostics_.error(entry.place, label_ +
-                                                ": write the corners as rect: [x1, y1, x2, y2], not as " +
+                                                ": write its place as rect: [x1, y1, x2, y2] or at: [x, y], "
+                                                "not as " +
                                                 Quoted(entry.name) + ".");
         } else if (std::find(itemKeys.begin(), itemKeys.end(), entry.name) != itemKeys.end()) {
             readKey(entry);
         } else if (attributes_.find(entry.name)) {
             own.entries.push_back(entry);
         } else {
-            std::vector<std::string> names = attributes_.names();
-            names.insert(names.end(), itemKeys.begin(), itemKeys.end());
+            std::vector<std::string> names = itemKeys;
+            for (const std::string& name : attributes_.names())
+                if (!placeWords.count(name))
+                    names.push_back(name);
             diagnostics_.error(entry.place, label_ + ": unknown attribute " + Quoted(entry.name) + "." +
                                                 Suggestion(entry.name, names) + " Correct or remove it.");
         }
@@ -206,6 +211,16 @@ std::optional<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
 }
 
 } // namespace
+
+std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::string& label,
+                              Diagnostics& diagnostics)
+{
+    if (entries.size() != 1 || !entries[0].value.isMap() || !FindItemSchema(entries[0].name.c_str()))
+        return entries;
+    std::vector<Entry> own = Entries(entries[0].value, label, diagnostics);
+    own.insert(own.begin(), {"type", entries[0].place, Source(nullptr, YAML::Node(entries[0].name))});
+    return own;
+}
 
 std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries,
                                     std::string& label, const ItemContext& context)

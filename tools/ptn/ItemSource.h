@@ -15,6 +15,10 @@ struct ItemContext {
     Diagnostics& diagnostics;
 };
 
+/// The entries of an item; those of "text: { ... }" as of "{ type: text, ... }", any others as they are.
+std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::string& label,
+                              Diagnostics& diagnostics);
+
 /// Reads an item that has a type. "repeat" is left to the caller.
 /// @param label  how messages call it, such as "item 3"; the type is added to it
 /// @return none, with errors reported, when the item can not be made

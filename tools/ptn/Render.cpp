@@ -145,18 +145,24 @@ PicturePtr Draw(const Pattern& pattern)
     return pixmap.picture();
 }
 
-std::vector<const Pattern*> Chosen(const Compiled& compiled, const std::string& name,
-                                   Diagnostics& diagnostics)
+std::vector<const Pattern*> Chosen(const Compiled& compiled, const RenderJob& job, Diagnostics& diagnostics)
 {
+    std::string name = job.pattern;
+    if (name.empty())
+        name = EucToUtf8(compiled.project.profile.value("PTRN", "PTRNSTART"));
     std::vector<const Pattern*> chosen;
     std::vector<std::string> names;
     for (const Pattern& pattern : compiled.patterns) {
         names.push_back(EucToUtf8(pattern.name));
-        if (name.empty() || names.back() == name)
+        if (job.all || names.back() == name)
             chosen.push_back(&pattern);
     }
     if (!chosen.empty())
         return chosen;
+    if (name.empty()) {
+        diagnostics.error({"", 0}, "the profile names no screen to start with. Name the screen to draw.");
+        return chosen;
+    }
     std::string list;
     for (const std::string& one : names)
         list += (list.empty() ? "" : ", ") + Quoted(one);
@@ -169,13 +175,13 @@ std::vector<const Pattern*> Chosen(const Compiled& compiled, const std::string& 
 
 std::vector<fs::path> Render(const RenderJob& job, Diagnostics& diagnostics)
 {
-    const fs::path output = fs::absolute(job.output);
+    const fs::path here = fs::current_path();
     const std::string state = job.state.empty() ? "" : fs::absolute(job.state).string();
     Stage stage(job, diagnostics);
     const ScreenState cells = ReadState(state, stage.compiled.project.codes, diagnostics);
     if (diagnostics.failed())
         return {};
-    const std::vector<const Pattern*> chosen = Chosen(stage.compiled, job.pattern, diagnostics);
+    const std::vector<const Pattern*> chosen = Chosen(stage.compiled, job, diagnostics);
     if (diagnostics.failed())
         return {};
     fs::current_path(fs::path(ProjPath).parent_path());
@@ -194,10 +200,11 @@ std::vector<fs::path> Render(const RenderJob& job, Diagnostics& diagnostics)
     };
     for (const Pattern* pattern : chosen) {
         pictures.push_back(Draw(*pattern));
-        save(job.pattern.empty() ? output / (EucToUtf8(pattern->name) + ".png") : output, pictures.back());
+        const fs::path name = EucToUtf8(pattern->name) + ".png";
+        save(here / (job.all ? job.output / name : job.output.empty() ? name : job.output), pictures.back());
     }
-    if (job.pattern.empty())
-        save(output / "contact-sheet.png", ContactSheet(pictures));
+    if (job.all)
+        save(here / job.output / "contact-sheet.png", ContactSheet(pictures));
     ComnDataExit();
     DrawCntlExit();
     return files;

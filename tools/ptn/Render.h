@@ -10,8 +10,9 @@
 
 struct RenderJob {
     std::filesystem::path project; ///< sources, or a compiled project
-    std::string pattern;           ///< UTF-8; empty for all
-    std::filesystem::path output;  ///< PNG file; for all, the folder
+    std::string pattern;           ///< UTF-8; empty for the one that the panel starts with
+    bool all = false;              ///< every pattern, and a sheet of all
+    std::filesystem::path output;  ///< PNG file; for all, the folder; empty: named after the pattern, here
     std::string state;             ///< file with the values of cells; empty for none
     std::optional<int> language;   ///< instead of that of the profile
 };

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace
 {
@@ -177,18 +178,27 @@ std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& pro
     return ScreenReader(project, diagnostics).read(source);
 }
 
-std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagnostics& diagnostics)
+namespace
+{
+
+// Reports patterns of the same name. @return the names in EUC-JP
+std::set<std::string> CheckNames(const std::vector<Pattern>& patterns, Diagnostics& diagnostics)
 {
     std::map<std::string, Place> places;
+    std::set<std::string> names;
     for (const Pattern& pattern : patterns) {
+        names.insert(pattern.name);
         const auto added = places.emplace(pattern.name, pattern.place);
         if (!added.second)
             diagnostics.error(pattern.place, "this name is also that of " + added.first->second.file +
                                                  ". Give one of them another.");
     }
-    std::set<std::string> names;
-    for (const auto& place : places)
-        names.insert(place.first);
+    return names;
+}
+
+void CheckOpened(const std::vector<Pattern>& patterns, const std::set<std::string>& names,
+                 Diagnostics& diagnostics)
+{
     for (const Pattern& pattern : patterns) {
         for (const PatternItem& item : pattern.items) {
             const ActionSchema* action = FindAction(item.record.ID_Type);
@@ -198,5 +208,25 @@ std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagno
                                       ", which this item opens. Correct 'pattern' or add the screen.");
         }
     }
-    return names;
+}
+
+} // namespace
+
+ScreenSet ReadScreens(const std::filesystem::path& folder, const ProjectSource& project,
+                      Diagnostics& diagnostics)
+{
+    ScreenSet screens;
+    for (const std::string& file : YamlFiles(folder / "screens")) {
+        std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics);
+        if (pattern)
+            screens.patterns.push_back(std::move(*pattern));
+        else
+            screens.complete = false;
+    }
+    const std::set<std::string> names = CheckNames(screens.patterns, diagnostics);
+    if (screens.complete) {
+        CheckOpened(screens.patterns, names, diagnostics);
+        project.profile.checkPatterns(names, diagnostics);
+    }
+    return screens;
 }

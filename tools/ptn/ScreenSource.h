@@ -4,8 +4,8 @@
 #include "tools/ptn/Pattern.h"
 #include "tools/ptn/ProjectSource.h"
 
+#include <filesystem>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,6 +18,14 @@ std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& 
 std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
                                   Diagnostics& diagnostics);
 
-/// Reports patterns of the same name, and actions that open a pattern which is not there.
-/// @return the names in EUC-JP
-std::set<std::string> CheckPatterns(const std::vector<Pattern>& patterns, Diagnostics& diagnostics);
+/// The screens of a project.
+struct ScreenSet {
+    std::vector<Pattern> patterns;
+    bool complete = true; ///< none was left out because it could not be read
+};
+
+/// Reads every file in the folder "screens" of the sources. Reports patterns of the same name, and actions
+/// and profile keys that name a pattern which is not there; the latter two only of a complete set, since
+/// they may name the one that could not be read.
+ScreenSet ReadScreens(const std::filesystem::path& folder, const ProjectSource& project,
+                      Diagnostics& diagnostics);

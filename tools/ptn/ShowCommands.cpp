@@ -20,14 +20,15 @@ struct RenderOptions {
 
 int RunRender(const RenderOptions& options)
 {
-    if (options.all != options.pattern.empty()) {
+    if (options.all && !options.pattern.empty()) {
         std::cerr << "ptn: name a screen, or write --all.\n";
         return 1;
     }
     RenderJob job;
     job.project = options.project;
     job.pattern = options.pattern;
-    job.output = !options.output.empty() ? options.output : options.all ? "." : options.pattern + ".png";
+    job.all = options.all;
+    job.output = options.output;
     job.state = options.state;
     if (options.language >= 0)
         job.language = options.language;
@@ -63,7 +64,8 @@ void AddRenderCommand(CLI::App& app, int& status)
     render->add_option("PROJECT", options->project, "Folder of sources, or project directory")
         ->required()
         ->check(CLI::ExistingDirectory);
-    render->add_option("PATTERN", options->pattern, "Name of the screen");
+    render->add_option("PATTERN", options->pattern,
+                       "Name of the screen; without it the one the panel starts with");
     render->add_option("-o,--output", options->output, "PNG file; with --all the folder for them");
     render->add_option("-s,--state", options->state, "YAML file with the clock and the values of cells")
         ->check(CLI::ExistingFile);

@@ -31,6 +31,23 @@ std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t 
     return std::nullopt;
 }
 
+// What mostly is behind a message of the YAML reader, which knows only what it had expected.
+const char* YamlRemedy(const std::string& problem, const std::string& text)
+{
+    const auto has = [&](const char* part) { return problem.find(part) != std::string::npos; };
+    if (text.find("\n\t") != std::string::npos || text.compare(0, 1, "\t") == 0)
+        return "Indent with blanks, not with tabs.";
+    if (has("flow"))
+        return "Look for a missing ',', '}', ']' or quote; a text with '#' or ': ' in it needs quotes.";
+    if (has("unknown token"))
+        return "A text that begins with '@', '%' or '`' needs quotes.";
+    if (has("illegal map value"))
+        return "A text with ': ' in it needs quotes.";
+    if (has("alias") || has("anchor"))
+        return "A text that begins with '*' or '&' needs quotes.";
+    return "Look at this line and the one before it; what belongs together is indented alike.";
+}
+
 } // namespace
 
 std::vector<std::string> ArgumentNames(const std::string& text)
@@ -131,7 +148,8 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
         return Source(std::make_shared<const std::string>(file), YAML::Load(text));
     } catch (const YAML::Exception& problem) {
         // Without a position the mark's line is -1.
-        diagnostics.error({file, problem.mark.line + 1}, "not valid YAML: " + problem.msg + ".");
+        diagnostics.error({file, problem.mark.line + 1},
+                          "not valid YAML: " + problem.msg + ". " + YamlRemedy(problem.msg, text));
         return std::nullopt;
     }
 }

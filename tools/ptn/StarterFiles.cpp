@@ -67,10 +67,18 @@ styles:
   item: { clear: card } # of every item
   # of every item of a type
   group-box: { face: card, top: light, left: light, bottom: dark, right: dark }
-  text: { color: text, font: normal }
-  numeric: { color: value, back: field, font: large }
+  line: { color: dark }
+  rectangle: { outline: dark }
+  circle: { outline: dark }
   bar-graph: { bar: primary, back: light, frame: dark }
+  text: { color: text, font: normal }
+  variable-text: { color: text, back: light, font: normal }
+  numeric: { color: value, back: field, font: large }
   button: { light: light, dark: dark, face: button, color: text, color-locked: soft, font: normal }
+  radio: { color: text, color-locked: soft, back: card, back-locked: card, font: normal }
+  check: { color: text, color-locked: soft, back: card, back-locked: card, font: normal }
+  mark: { color: primary, back: card }
+  scroll-bar: { light: light, dark: dark, face: body, thumb: button }
   # by name: "style: heading"
   heading: { color: primary, font: large }
   small: { color: soft, font: small }

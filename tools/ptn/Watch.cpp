@@ -1,8 +1,6 @@
 #include "tools/ptn/Watch.h"
 
-#include "base/EucText.h"
 #include "tools/ptn/Files.h"
-#include "tools/ptn/ProjectSource.h"
 #include "tools/ptn/TemporaryFolder.h"
 
 #include <cerrno>
@@ -106,19 +104,13 @@ gboolean Watcher::onSettled(gpointer self)
     return FALSE;
 }
 
-// The pattern that the sources start with; empty when they do not tell.
-std::string StartPattern(const std::string& source)
-{
-    Diagnostics ignored;
-    return EucToUtf8(ReadProject(source, ignored).profile.value("PTRN", "PTRNSTART"));
-}
-
 // In a process of its own, which a screen that ends the panel ends instead of the watching.
 void Watcher::draw()
 {
     const std::string picture = (folder_.path() / "picture.png").string();
-    const std::string pattern = job_.pattern.empty() ? StartPattern(job_.source) : job_.pattern;
-    std::vector<std::string> words = {"/proc/self/exe", "render", job_.source, pattern, "-o", picture};
+    std::vector<std::string> words = {"/proc/self/exe", "render", job_.source, "-o", picture};
+    if (!job_.pattern.empty())
+        words.push_back(job_.pattern);
     words.insert(words.end(), job_.arguments.begin(), job_.arguments.end());
     std::vector<char*> arguments;
     for (std::string& word : words)

@@ -1,5 +1,6 @@
 // ptn: the authoring tool. Its messages are UTF-8; the texts of this program itself are plain ASCII.
 #include "tools/ptn/Commands.h"
+#include "tools/ptn/Diagnostics.h"
 
 #include <CLI/CLI.hpp>
 #include <iostream>
@@ -11,6 +12,19 @@ namespace
 constexpr int EXIT_ERRORS = 1;
 /// The command line is wrong.
 constexpr int EXIT_USAGE = 2;
+
+// A first word that is no command; the parser would only say that one is required.
+bool IsUnknownCommand(const CLI::App& app, const std::string& word)
+{
+    if (word.empty() || word[0] == '-' || FindCommand(app, word))
+        return false;
+    std::vector<std::string> names;
+    for (const CLI::App* command : app.get_subcommands({}))
+        names.push_back(command->get_name());
+    std::cerr << "ptn: no command '" << word << "'." << Suggestion(word, names)
+              << " Run with --help for more information.\n";
+    return true;
+}
 
 } // namespace
 
@@ -28,6 +42,8 @@ int main(int argc, char** argv)
     AddRenderCommand(app, status);
     AddWatchCommand(app, status);
     AddHelpCommand(app, status);
+    if (argc > 1 && IsUnknownCommand(app, argv[1]))
+        return EXIT_USAGE;
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& problem) {
