@@ -2,87 +2,16 @@
 // seen and operated.
 #include "config/Profile.h"
 #include "pattern/ItemParm.h"
-#include "pattern/PtrnFile.h"
-#include "tests/ptn/Sources.h"
-#include "tests/support/Program.h"
-#include "tests/support/Project.h"
+#include "tests/ptn/SampleScreens.h"
 
 #include <cstring>
-#include <filesystem>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <map>
 #include <set>
-#include <vector>
-
-namespace fs = std::filesystem;
-
-using testing::SizeIs;
 
 namespace
 {
 
 /// What a finger hits without aiming.
 constexpr int FINGER = 40;
-
-struct Item {
-    PTRNFILE record;
-    std::vector<std::string> texts; ///< three languages, ID_Name, ID_Code
-};
-
-struct Screen {
-    HEDRFILE header;
-    std::vector<Item> items;
-};
-
-Screen Parse(const std::string& bytes)
-{
-    Screen screen{};
-    std::memcpy(&screen.header, bytes.data(), sizeof screen.header);
-    std::size_t at = sizeof screen.header;
-    for (int i = 0; i < screen.header.DataCount; ++i, at += sizeof(PTRNFILE)) {
-        Item item{};
-        std::memcpy(&item.record, bytes.data() + at, sizeof item.record);
-        screen.items.push_back(item);
-    }
-    EXPECT_EQ(at + static_cast<std::size_t>(screen.header.TextSize), bytes.size());
-    for (Item& item : screen.items) {
-        for (int i = 0; i < 5; ++i) {
-            item.texts.emplace_back(bytes.c_str() + at);
-            at += item.texts.back().size() + 1;
-        }
-    }
-    EXPECT_EQ(at, bytes.size());
-    return screen;
-}
-
-RECT Corners(const Item& item)
-{
-    const std::int32_t* parm = item.record.Parm;
-    return SetRect(parm[PARM_X1], parm[PARM_Y1], parm[PARM_X2], parm[PARM_Y2]);
-}
-
-class Sample : public testing::Test
-{
-  protected:
-    void SetUp() override
-    {
-        const PtnResult result = sources.run("build " + Program::sourceFolder() + "/project out/ProjPath");
-        ASSERT_EQ(result.status, 0) << result.err;
-        ASSERT_EQ(result.err, "");
-        for (const auto& entry : fs::directory_iterator(sources.output()))
-            if (entry.path().extension() == ".ptn")
-                screens[entry.path().stem().string()] = Parse(readFile(entry.path().string()));
-    }
-
-    std::string profile(const char* section, const char* key)
-    {
-        return ProfileReadAsc(sources.profile().c_str(), section, key);
-    }
-
-    Sources sources;
-    std::map<std::string, Screen> screens;
-};
 
 TEST_F(Sample, has_the_screens_of_the_sample_application_and_the_framework_s_own)
 {
@@ -97,10 +26,13 @@ TEST_F(Sample, has_the_screens_of_the_sample_application_and_the_framework_s_own
 
 TEST_F(Sample, has_a_profile_that_the_program_reads)
 {
-    EXPECT_EQ(profile("TESSARY", "PROJECT"), sources.output());
-    EXPECT_EQ(profile("PTRN", "PTRNSTART"), "テスト  ［メニュー選択］");
-    EXPECT_EQ(profile("PTRN", "PTRNSTOP"), "システム終了");
-    EXPECT_EQ(profile("LOG", "LOGFILE"), sources.root() + "/out/log");
+    const auto profileText = [this](const char* section, const char* key) {
+        return std::string(ProfileReadAsc(sources.profile().c_str(), section, key));
+    };
+    EXPECT_EQ(profileText("TESSARY", "PROJECT"), sources.output());
+    EXPECT_EQ(profileText("PTRN", "PTRNSTART"), "テスト  ［メニュー選択］");
+    EXPECT_EQ(profileText("PTRN", "PTRNSTOP"), "システム終了");
+    EXPECT_EQ(profileText("LOG", "LOGFILE"), sources.root() + "/out/log");
     EXPECT_EQ(ProfileReadInt(sources.profile().c_str(), "TESSARY", "WAITTIMER"), 3);
     int width = 0;
     int height = 0;
@@ -113,7 +45,7 @@ TEST_F(Sample, has_a_profile_that_the_program_reads)
     for (const char* key : {"CURSOR_FG", "CURSOR_BG"})
         EXPECT_EQ(ProfileRead(sources.profile().c_str(), "COLOR", key, "iii", &red, &green, &blue), 3) << key;
     for (const char* font : {"FONTNAME0", "FONTNAME1", "FONTNAME2", "FONTNAME20", "FONTNAME42"})
-        EXPECT_NE(profile("FONT", font), "") << font;
+        EXPECT_NE(profileText("FONT", font), "") << font;
 }
 
 TEST_F(Sample, has_codes_for_the_cells_1_to_1571)
@@ -153,7 +85,7 @@ TEST_F(Sample, opens_only_patterns_that_it_has)
 {
     int opened = 0;
     for (const auto& screen : screens) {
-        for (const Item& item : screen.second.items) {
+        for (const SampleItem& item : screen.second.items) {
             if (item.record.ID_Type < 5 || item.record.ID_Type > 8)
                 continue;
             ++opened;
@@ -168,7 +100,7 @@ TEST_F(Sample, can_be_stopped_and_left_from_every_screen_that_is_not_part_of_ano
     bool stops = false;
     for (const auto& screen : screens) {
         std::set<int> actions;
-        for (const Item& item : screen.second.items)
+        for (const SampleItem& item : screen.second.items)
             actions.insert(item.record.ID_Type);
         stops = stops || actions.count(16);
         const bool start = screen.first == "テスト  ［メニュー選択］";
@@ -185,7 +117,7 @@ TEST_F(Sample, keeps_every_item_within_its_screen_and_below_the_title_bar)
     for (const auto& screen : screens) {
         const std::int32_t* window = screen.second.header.Parm1;
         for (std::size_t i = 0; i < screen.second.items.size(); ++i) {
-            const RECT rect = Corners(screen.second.items[i]);
+            const RECT rect = screen.second.items[i].corners();
             EXPECT_GE(rect.left, 0) << screen.first << ", item " << i + 1;
             EXPECT_GE(rect.top, window[HEDR_TITLE_HEIGHT]) << screen.first << ", item " << i + 1;
             EXPECT_LE(rect.right, window[HEDR_WIDTH]) << screen.first << ", item " << i + 1;
@@ -204,8 +136,8 @@ TEST_F(Sample, lets_no_text_field_or_control_overlap_another)
             for (std::size_t j = i + 1; j < items.size(); ++j) {
                 if (!solid.count(items[i].record.Type) || !solid.count(items[j].record.Type))
                     continue;
-                const RECT a = Corners(items[i]);
-                const RECT b = Corners(items[j]);
+                const RECT a = items[i].corners();
+                const RECT b = items[j].corners();
                 const bool apart =
                     a.right <= b.left || b.right <= a.left || a.bottom <= b.top || b.bottom <= a.top;
                 EXPECT_TRUE(apart) << screen.first << ", items " << i + 1 << " and " << j + 1;
@@ -218,11 +150,11 @@ TEST_F(Sample, has_buttons_that_a_finger_can_press_with_captions_that_fit)
 {
     int buttons = 0;
     for (const auto& screen : screens) {
-        for (const Item& item : screen.second.items) {
+        for (const SampleItem& item : screen.second.items) {
             if (item.record.Type != PTRN_BUTN)
                 continue;
             ++buttons;
-            const RECT rect = Corners(item);
+            const RECT rect = item.corners();
             EXPECT_GE(rect.width, FINGER) << screen.first << ": " << item.texts[0];
             EXPECT_GE(rect.height, FINGER) << screen.first << ": " << item.texts[0];
             const int indent = item.record.Parm[BUTN_POST_ON] ? item.record.Parm[BUTN_POST] : 0;
@@ -236,83 +168,13 @@ TEST_F(Sample, has_buttons_that_a_finger_can_press_with_captions_that_fit)
     EXPECT_GE(buttons, 50);
 }
 
-TEST_F(Sample, shows_every_type_of_item)
-{
-    std::set<int> types;
-    for (const auto& screen : screens)
-        for (const Item& item : screen.second.items)
-            types.insert(item.record.Type);
-    EXPECT_EQ(types.size(), static_cast<std::size_t>(CONT_PTRN));
-}
-
-/// Values of parameters that the items of a type have, one list per item.
-using Variants = std::set<std::vector<int>>;
-
-Variants VariantsOf(const std::map<std::string, Screen>& screens, int type, const std::vector<int>& parms,
-                    const std::vector<int>& flags = {})
-{
-    Variants found;
-    for (const auto& screen : screens)
-        for (const Item& item : screen.second.items) {
-            if (item.record.Type != type)
-                continue;
-            std::vector<int> values;
-            for (const int parm : parms)
-                values.push_back(item.record.Parm[parm]);
-            for (const int flag : flags)
-                values.push_back(item.record.Parm[flag] != 0);
-            found.insert(values);
-        }
-    return found;
-}
-
-TEST_F(Sample, shows_every_type_in_its_variants)
-{
-    EXPECT_THAT(VariantsOf(screens, PTRN_LINE, {LINE_TYPE, LINE_FOMT}), SizeIs(9))
-        << "three kinds of lines that grow in three ways";
-    for (const int shape : {PTRN_RECT, PTRN_CRCL}) {
-        EXPECT_THAT(VariantsOf(screens, shape, {SHAPE_FOMT}), SizeIs(3));
-        EXPECT_THAT(VariantsOf(screens, shape, {}, {SHAPE_FILLED}), testing::Contains(std::vector<int>{1}));
-    }
-    EXPECT_THAT(VariantsOf(screens, PTRN_RECT, {}, {SHAPE_FILLED, SHAPE_WIDTH}), SizeIs(testing::Ge(3u)));
-    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_HORIZONTAL, BARG_NEEDLE_WIDTH}), SizeIs(4));
-    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_FRAME_WIDTH}), SizeIs(2));
-    EXPECT_THAT(VariantsOf(screens, PTRN_BARG, {}, {BARG_MAXIMUM}), SizeIs(2))
-        << "own limits, and the table's";
-    EXPECT_THAT(VariantsOf(screens, PTRN_SPIN, {}, {SPIN_MAXIMUM}), SizeIs(2))
-        << "own limits, and the table's";
-    EXPECT_THAT(VariantsOf(screens, PTRN_SBAR, {}, {SBAR_VERTICAL, SBAR_ARROWS, SBAR_PAGES}),
-                testing::IsSupersetOf(
-                    Variants{{0, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 1, 1}, {1, 0, 0}, {1, 1, 0}, {1, 1, 1}}));
-    for (const int flag :
-         {FIELD_DECIMALS, FIELD_ZEROFILL, FIELD_GROUPING, FIELD_HEX, FIELD_KEYENTRY, FIELD_NAVIGATION})
-        EXPECT_THAT(VariantsOf(screens, PTRN_NUMR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
-    for (const int flag : {FIELD_KEYENTRY, FIELD_NAVIGATION})
-        EXPECT_THAT(VariantsOf(screens, PTRN_CHAR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
-    for (const int flag : {TEXT_BACKED, TEXT_FLICKER})
-        EXPECT_THAT(VariantsOf(screens, PTRN_FCHR, {}, {flag}), SizeIs(2)) << "parameter " << flag;
-    for (const int flag : {MARK_BACKED, MARK_FLICKER})
-        EXPECT_THAT(VariantsOf(screens, PTRN_MARK, {}, {flag}), SizeIs(2)) << "parameter " << flag;
-    for (const int flag : {BUTN_POST_ON, BUTN_WIDTH, BUTN_KEY})
-        EXPECT_THAT(VariantsOf(screens, PTRN_BUTN, {}, {flag}), SizeIs(2)) << "parameter " << flag;
-    EXPECT_THAT(VariantsOf(screens, PTRN_BMAP, {}, {BMAP_KEYED}), SizeIs(2));
-}
-
-TEST_F(Sample, shows_marks_of_every_size)
-{
-    std::set<int> groups;
-    for (const std::vector<int>& mark : VariantsOf(screens, PTRN_MARK, {MARK_NUMBER4}))
-        groups.insert(mark[0] / 50);
-    EXPECT_THAT(groups, testing::IsSupersetOf({0, 1, 2, 3, 4, 5, 6}));
-}
-
 TEST_F(Sample, has_its_texts_in_three_languages)
 {
     for (const auto& screen : screens) {
         const HEDRFILE& header = screen.second.header;
         for (const char* title : {header.PtrnName1, header.PtrnName2, header.PtrnName3})
             EXPECT_NE(std::string(title), "") << screen.first;
-        for (const Item& item : screen.second.items)
+        for (const SampleItem& item : screen.second.items)
             if (item.texts[0] != "") {
                 EXPECT_NE(item.texts[1], "") << screen.first << ": " << item.texts[0];
                 EXPECT_NE(item.texts[2], "") << screen.first << ": " << item.texts[0];
