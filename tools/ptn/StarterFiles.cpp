@@ -24,6 +24,8 @@ codes:
   SETPOINT: 1 # 101
   PUMP: 4 # 102-105
 
+flags: {} # cells whose accesses appear in the log, such as SETPOINT: yes
+
 profile:
   TESSARY: { DISPSIZE: [640, 480], WAITTIMER: 2 }
   PTRN: { PTRNSTART: Main, PTRNSTOP: Stop }
