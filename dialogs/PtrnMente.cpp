@@ -220,4 +220,7 @@ void CPtrnMente::SetDispData2(int first)
         for (const int column : kDataColumns)
             Set_Disable(column + line, 1, 0, nullptr, 0);
     }
+    // What is being typed stays on top of a value that changes.
+    if (KeyInputMode == 1)
+        OR_wData(KeyInputPtrn.DataNo, STATE_FROZEN, nullptr, 0);
 }

@@ -115,6 +115,26 @@ TEST_F(Maintenance, records_an_edit_of_a_logged_number)
     EXPECT_THAT(project.messages(), Contains("WRITE  [CODE01+4] 0x0009"));
 }
 
+TEST_F(Maintenance, shows_what_is_typed_while_the_value_changes)
+{
+    addCodes(1);
+    open();
+    tick();
+    clickLine(valueX, 4);
+    type("5");
+    tick(); // the cursor appears
+    const auto field = [] { return bufferPicture(SystmWnd, valueX, top + 4 * spacing, 80, 16); };
+    const Picture typed = field();
+    Set_fData(104, 77.5F, nullptr, 0);
+    tick(2);
+    EXPECT_TRUE(same(field(), typed));
+    EXPECT_EQ(value(64), 77.5F) << "the list goes on below it";
+    key(XK_Escape);
+    tick();
+    EXPECT_FALSE(same(field(), typed));
+    EXPECT_EQ(word(64), 0);
+}
+
 TEST_F(Maintenance, writes_nothing_at_any_other_key)
 {
     addCodes(1);
