@@ -1,11 +1,9 @@
 // The sample project with the sample application: every screen opens, and has what its class works with.
-#include "comndata/ComnData.h"
+#include "tests/app/SampleProject.h"
+
 #include "comndata/PtrnCode.h"
 #include "config/Settings.h"
 #include "draw/Resource.h"
-#include "shell/Request.h"
-#include "tests/support/Program.h"
-#include "tests/support/Screen.h"
 
 #include <gmock/gmock.h>
 #include <unistd.h>
@@ -79,16 +77,13 @@ const Part parts[] = {
     {maintenance, PTRN_SBAR, 80, 2, ACTION_MESSAGE_SELF},
 };
 
-class SampleProject : public Screen
+class Sample : public SampleProject
 {
   protected:
-    /// Compiles the project into the test's own folder, with the text language that a test asks for.
-    void compile(int language)
+    /// Compiles and loads the project, with the text language that a test asks for.
+    void load(int language)
     {
-        Program ptn("ptn", "ptn", {"build", Program::sourceFolder() + "/project", project.folder()});
-        ASSERT_TRUE(user.waitFor([&] { return ptn.status().has_value(); }, "the end of ptn"));
-        ASSERT_EQ(*ptn.status(), 0) << ptn.output();
-        project.set("FONT", "LANGUAGE", std::to_string(language));
+        compile(language);
         start();
         ASSERT_EQ(Language, language);
         project.clearLog();
@@ -106,7 +101,7 @@ class SampleProject : public Screen
     }
 };
 
-class InLanguage : public SampleProject, public testing::WithParamInterface<int>
+class InLanguage : public Sample, public testing::WithParamInterface<int>
 {
 };
 
@@ -114,7 +109,7 @@ class InLanguage : public SampleProject, public testing::WithParamInterface<int>
 
 TEST_P(InLanguage, every_screen_opens_and_runs_without_a_complaint)
 {
-    compile(GetParam());
+    load(GetParam());
     for (const char* name :
          {menu, shapes, texts, graphs, mouse, form, table, "システム終了", "子ウィンドウ (1)",
           "子ウィンドウ (2)", "子ウィンドウ (3)", "ポップアップメニュー"}) {
@@ -135,9 +130,9 @@ TEST_P(InLanguage, every_screen_opens_and_runs_without_a_complaint)
 
 INSTANTIATE_TEST_SUITE_P(Language, InLanguage, testing::Values(0, 1, 2));
 
-TEST_F(SampleProject, every_pattern_has_the_items_that_its_class_works_with)
+TEST_F(Sample, every_pattern_has_the_items_that_its_class_works_with)
 {
-    compile(0);
+    load(0);
     for (const Part& part : parts) {
         const CPtrnData data(part.pattern);
         ASSERT_GT(data.PtrnCont, 0) << part.pattern;
@@ -153,9 +148,9 @@ TEST_F(SampleProject, every_pattern_has_the_items_that_its_class_works_with)
     }
 }
 
-TEST_F(SampleProject, no_item_has_a_code_that_the_table_lacks)
+TEST_F(Sample, no_item_has_a_code_that_the_table_lacks)
 {
-    compile(0);
+    load(0);
     for (int i = 0; i < PtrnCount; i++) {
         const CPtrnData data(PtrnName[i].name);
         for (int k = 0; k < data.PtrnCont; k++)
@@ -163,9 +158,9 @@ TEST_F(SampleProject, no_item_has_a_code_that_the_table_lacks)
     }
 }
 
-TEST_F(SampleProject, the_table_fills_its_frame_and_is_wider)
+TEST_F(Sample, the_table_fills_its_frame_and_is_wider)
 {
-    compile(0);
+    load(0);
     openTop(form);
     const CPtrnDisp* wires = AppliWnd->ChildWnd1;
     ASSERT_TRUE(wires);
@@ -184,9 +179,9 @@ TEST_F(SampleProject, the_table_fills_its_frame_and_is_wider)
     EXPECT_GE(item.Parm[SBAR_TOTAL], 200);
 }
 
-TEST_F(SampleProject, the_lamps_of_the_mouse_screen_stay_as_they_were)
+TEST_F(Sample, the_lamps_of_the_mouse_screen_stay_as_they_were)
 {
-    compile(0);
+    load(0);
     // Their codes are small and their numbers high, which leaves nothing to clear.
     Set_wData(472, 1, nullptr, 0);
     Set_wData(481, 1, nullptr, 0);
@@ -195,9 +190,9 @@ TEST_F(SampleProject, the_lamps_of_the_mouse_screen_stay_as_they_were)
     EXPECT_EQ(Get_wData(481, nullptr, 0), 1);
 }
 
-TEST_F(SampleProject, the_popup_menu_leads_to_the_child_windows)
+TEST_F(Sample, the_popup_menu_leads_to_the_child_windows)
 {
-    compile(0);
+    load(0);
     for (const char* screen : {texts, mouse}) {
         openTop(screen);
         for (int i = 0; i < 3; i++) {
