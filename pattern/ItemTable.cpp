@@ -11,7 +11,17 @@ namespace
 {
 
 /// Names the entries of a row, so that the table can be read without its declaration.
-struct Row : ItemOps {
+class Row : public ItemOps
+{
+    // Before its users: some compilers can not evaluate the table otherwise.
+    template <typename Entry> constexpr Row with(Entry ItemOps::*place, Entry value) const
+    {
+        Row row = *this;
+        row.*place = value;
+        return row;
+    }
+
+  public:
     constexpr explicit Row(PtrnType type) { Type = type; }
     constexpr Row disp(decltype(Disp) member) const { return with(&ItemOps::Disp, member); }
     constexpr Row dispUpdt(decltype(DispUpdt) member) const { return with(&ItemOps::DispUpdt, member); }
@@ -22,14 +32,6 @@ struct Row : ItemOps {
     constexpr Row held(decltype(Part) part, decltype(Step) step) const
     {
         return with(&ItemOps::Part, part).with(&ItemOps::Step, step);
-    }
-
-  private:
-    template <typename Entry> constexpr Row with(Entry ItemOps::*place, Entry value) const
-    {
-        Row row = *this;
-        row.*place = value;
-        return row;
     }
 };
 
