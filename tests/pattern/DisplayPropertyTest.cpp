@@ -3,7 +3,6 @@
 //
 // Which items and changes these are is written down in RandomItems.cpp, next to each type; what the others
 // leave of their older pictures, and why, in DisplayHistoryTest.cpp.
-#include "draw/Resource.h"
 #include "tests/pattern/LoadedPattern.h"
 #include "tests/pattern/RandomItems.h"
 #include "tests/support/Canvas.h"
@@ -24,16 +23,7 @@ class PlainItems : public LoadedPattern
   protected:
     PlainItems() : canvas(columns * boxWidth, rows * boxHeight), fresh(columns * boxWidth, rows * boxHeight)
     {
-        usePalette();
-        useFont(0, 16);
-        useFont(1, 24);
-        Random random(1);
-        for (MARKDATA& mark : MarkData)
-            for (BYTE& bits : mark.mark)
-                bits = static_cast<BYTE>(random.bits());
-        MarkDataSet();
-        MarkDataInit();
-        writeBitmaps(project);
+        useRandomArtwork(project, 1);
     }
 
     /// Every type at least once, none on top of another; some share a cell, some are bound to nothing.

@@ -1,6 +1,8 @@
 #include "tests/pattern/RandomItems.h"
 
+#include "draw/Resource.h"
 #include "pattern/ItemSchema.h"
+#include "tests/support/Canvas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -298,8 +300,17 @@ CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
     }
 }
 
-void writeBitmaps(Project& project)
+void useRandomArtwork(Project& project, unsigned seed)
 {
+    usePalette();
+    useFont(0, 16);
+    useFont(1, 24);
+    Random random(seed);
+    for (MARKDATA& mark : MarkData)
+        for (BYTE& bits : mark.mark)
+            bits = static_cast<BYTE>(random.bits());
+    MarkDataSet();
+    MarkDataInit();
     std::filesystem::create_directories(project.folder() + "/Bitmap");
     project.write("Bitmap/two.ppm", "P6\n2 1\n255\n" + std::string("\x34\x78\x21\x11\x22\x33", 6));
     project.write("Bitmap/four.ppm",

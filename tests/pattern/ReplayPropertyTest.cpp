@@ -1,7 +1,6 @@
 // What a window draws of any pattern, with items on top of each other and cells in any state, follows from
 // the rules for the single items: this test keeps its own copies of the items, decides by itself what is
 // drawn in a tick, when and in which order, and draws it with the members of the fifteen types.
-#include "draw/Resource.h"
 #include "tests/pattern/LoadedPattern.h"
 #include "tests/pattern/RandomItems.h"
 #include "tests/support/Canvas.h"
@@ -171,19 +170,7 @@ class Replay
 class AnyPattern : public LoadedPattern
 {
   protected:
-    AnyPattern() : canvas(width, height)
-    {
-        usePalette();
-        useFont(0, 16);
-        useFont(1, 24);
-        Random random(2);
-        for (MARKDATA& mark : MarkData)
-            for (BYTE& bits : mark.mark)
-                bits = static_cast<BYTE>(random.bits());
-        MarkDataSet();
-        MarkDataInit();
-        writeBitmaps(project);
-    }
+    AnyPattern() : canvas(width, height) { useRandomArtwork(project, 2); }
 
     static Pattern randomPattern(Random& random, int count)
     {

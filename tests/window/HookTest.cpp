@@ -92,6 +92,17 @@ class HookDeeds : public Screen, public testing::WithParamInterface<int>
         }
     }
 
+    /// Makes the display hook do a deed before it draws, in paints (mode 0) or in ticks (mode 1).
+    void displays(int which, const Deed& deed)
+    {
+        hooks.disp = [which, deed](CPtrnDisp& wnd, CDraw* draw, int mode) {
+            if (mode != which)
+                return;
+            deed(wnd);
+            draw->DrawRect(10, 10, 100, 100, 1, 0, 1, 2);
+        };
+    }
+
     /// Runs a test with every deed: the hook does it once, then uses what it was given as if nothing had
     /// happened.
     void withEveryDeed(const std::function<void(const Deed&)>& arm,
@@ -180,45 +191,19 @@ TEST_P(HookDeeds, of_the_exit_hook)
 
 TEST_P(HookDeeds, of_the_display_hook_in_a_paint)
 {
-    withEveryDeed(
-        [this](const Deed& deed) {
-            hooks.disp = [deed](CPtrnDisp& wnd, CDraw* draw, int mode) {
-                if (mode != 0)
-                    return;
-                deed(wnd);
-                draw->DrawRect(10, 10, 100, 100, 1, 0, 1, 2);
-            };
-        },
-        [](CPtrnDisp* wnd) { wnd->PaintEvent(); });
+    withEveryDeed([this](const Deed& deed) { displays(0, deed); }, [](CPtrnDisp* wnd) { wnd->PaintEvent(); });
 }
 
 TEST_P(HookDeeds, of_the_display_hook_in_the_first_paint)
 {
-    withEveryDeed(
-        [this](const Deed& deed) {
-            hooks.disp = [deed](CPtrnDisp& wnd, CDraw* draw, int mode) {
-                if (mode != 0)
-                    return;
-                deed(wnd);
-                draw->DrawRect(10, 10, 100, 100, 1, 0, 1, 2);
-            };
-        },
-        // Only the framework can take a window from the toolkit while it lays it out.
-        [](CPtrnDisp*) {}, true, "destroy");
+    withEveryDeed([this](const Deed& deed) { displays(0, deed); },
+                  // Only the framework can take a window from the toolkit while it lays it out.
+                  [](CPtrnDisp*) {}, true, "destroy");
 }
 
 TEST_P(HookDeeds, of_the_display_hook_in_a_tick)
 {
-    withEveryDeed(
-        [this](const Deed& deed) {
-            hooks.disp = [deed](CPtrnDisp& wnd, CDraw* draw, int mode) {
-                if (mode != 1)
-                    return;
-                deed(wnd);
-                draw->DrawRect(10, 10, 100, 100, 1, 0, 1, 2);
-            };
-        },
-        [this](CPtrnDisp*) { tick(); });
+    withEveryDeed([this](const Deed& deed) { displays(1, deed); }, [this](CPtrnDisp*) { tick(); });
 }
 
 TEST_P(HookDeeds, of_the_timer_hook)
