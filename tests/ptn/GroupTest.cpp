@@ -89,6 +89,13 @@ TEST_F(Group, has_its_mistakes_told_once_however_often_it_is_used)
               "src/screens/a.yaml:9: item 2.1 (spin): 'data': code 'B' has 3 cells, so there is no +7. Write "
               "at most +2 or extend the code.\n"
               "2 errors; out/ProjPath is unchanged.\n");
+    sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: a, PTRNSTOP: a } }\n");
+    sources.screen("name: a\ngroups:\n  g:\n    items:\n"
+                   "      - { type: spin, rect: [1, 1, 9, 9], minimum: 9, maximum: 3 }\n"
+                   "items:\n  - { use: g }\n  - { use: g, at: [100, 0] }\n");
+    EXPECT_EQ(sources.run("check src").err,
+              "src/screens/a.yaml:5: spin at 1,1: 'minimum' is above 'maximum', so the value jumps between "
+              "them. Exchange them.\n");
 }
 
 TEST_F(Group, names_parameters_that_are_missing_or_unknown)

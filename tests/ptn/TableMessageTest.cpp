@@ -68,7 +68,8 @@ const MessageCase tableCases[] = {
      ":3: limit 1: 'above': this project has no message 'high'. Define it in 'messages' or use one that is "
      "there."},
     {"limit_with_a_wrong_key", "limits:\n  - { data: A, min: 1 }\n",
-     ":2: limit 1: unknown 'min'. Write data, count, minimum, maximum, below, above or no."},
+     ":2: limit 1: unknown 'min'. Did you mean 'minimum'? Write data, count, minimum, maximum, below, above "
+     "or no."},
     {"limit_number_twice", "limits:\n  - { data: A, no: 7 }\n  - { data: A, no: 7 }\n",
      ":3: limit 7 has a number that is taken or above 500. Give it another 'no'."},
     {"limit_after_the_last", "limits:\n  - { data: A, no: 500 }\n  - { data: A }\n",

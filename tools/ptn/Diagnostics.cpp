@@ -6,13 +6,18 @@
 namespace
 {
 
-// Where "item 1.2.3" at the beginning ends. A line of a group is an item of every use; it is one mistake.
+// Where "item 1.2.3" or "button at 16,64" at the beginning ends. A line of a group is an item of every use of
+// it, and yet one mistake.
 std::size_t ItemLabelEnd(const std::string& what)
 {
-    static const std::string label = "item ";
-    if (what.compare(0, label.size(), label) != 0)
+    static const std::string item = "item ";
+    if (what.compare(0, item.size(), item) == 0)
+        return std::min(what.find_first_not_of("0123456789.", item.size()), what.size());
+    static const std::string at = " at ";
+    const std::size_t type = what.find_first_not_of("abcdefghijklmnopqrstuvwxyz-");
+    if (type == std::string::npos || what.compare(type, at.size(), at) != 0)
         return 0;
-    return std::min(what.find_first_not_of("0123456789.", label.size()), what.size());
+    return std::min(what.find_first_not_of("0123456789,-", type + at.size()), what.size());
 }
 
 } // namespace
@@ -71,6 +76,21 @@ std::size_t EditDistance(const std::string& a, const std::string& b)
     return rows[a.size()][b.size()];
 }
 
+// The candidate that the name is short for; null when there is none or more than one.
+const std::string* OnlyLongForm(const std::string& name, const std::vector<std::string>& candidates)
+{
+    constexpr std::size_t shortest = 3;
+    const std::string* found = nullptr;
+    for (const std::string& candidate : candidates) {
+        if (name.size() < shortest || candidate.compare(0, name.size(), name) != 0)
+            continue;
+        if (found)
+            return nullptr;
+        found = &candidate;
+    }
+    return found;
+}
+
 } // namespace
 
 std::string Suggestion(const std::string& name, const std::vector<std::string>& candidates)
@@ -88,6 +108,8 @@ std::string Suggestion(const std::string& name, const std::vector<std::string>& 
             best = &candidate;
         }
     }
+    if (!best)
+        best = OnlyLongForm(name, candidates);
     return best ? " Did you mean " + Quoted(*best) + "?" : "";
 }
 

@@ -42,7 +42,8 @@ class Diagnostics
     int warnings_ = 0;
 };
 
-/// " Did you mean 'x'?" with the candidate that is closest to `name`, or nothing when none is close.
+/// " Did you mean 'x'?" with the candidate that is closest to `name` or the only one that it is short for, or
+/// nothing when there is none.
 std::string Suggestion(const std::string& name, const std::vector<std::string>& candidates);
 
 /// A name in quotes, as messages show it.

@@ -118,8 +118,10 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
             for (const std::string& name : attributes_.names())
                 if (!placeWords.count(name))
                     names.push_back(name);
+            const bool cell = entry.name == "code" || entry.name == "cell";
             diagnostics_.error(entry.place, label_ + ": unknown attribute " + Quoted(entry.name) + "." +
-                                                Suggestion(entry.name, names) + " Correct or remove it.");
+                                                Suggestion(cell ? "data" : entry.name, names) +
+                                                " Correct or remove it.");
         }
     }
     attributes_.apply(own);
