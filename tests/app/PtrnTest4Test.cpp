@@ -1,6 +1,7 @@
 // Graphs: the trend that the screen draws in the frame of an item.
 #include "tests/app/SampleScreen.h"
 
+#include <algorithm>
 #include <set>
 
 namespace
@@ -100,6 +101,33 @@ TEST_F(Trend, each_series_keeps_to_its_band_and_moves_in_it)
         EXPECT_GE(*rows[series].begin(), lowest[series]);
         EXPECT_LE(*rows[series].rbegin(), lowest[series] + 9);
         EXPECT_GT(rows[series].size(), 5u) << "series " << series;
+    }
+}
+
+TEST_F(Trend, samples_lie_at_hundredths_of_the_frame_s_width_and_height)
+{
+    constexpr int wide = 250; // neither is a multiple of 100
+    constexpr int high = 130;
+    Pattern("テスト  （グラフ）")
+        .size(300, 200)
+        .item(PTRN_RECT, left, top, left + wide, top + high)
+        .code(code, offset(113))
+        .save(project);
+    start();
+    openTop("テスト  （グラフ）");
+    tick(40 * ticksPerSample);
+    const Picture picture = shown();
+    for (int series = 0; series < 4; series++) {
+        std::set<int> rows;
+        for (int value = lowest[series]; value < lowest[series] + 10; value++)
+            rows.insert(high * value / 100);
+        for (int i = 0; i < 40; i++) {
+            const int x = left + wide * i / 100;
+            const auto hit = std::find_if(rows.begin(), rows.end(), [&](int row) {
+                return picture.at(x, top + row) == color(50 + series);
+            });
+            EXPECT_NE(hit, rows.end()) << "series " << series << ", sample " << i;
+        }
     }
 }
 
