@@ -1,12 +1,21 @@
 // The sample application's registry and hooks.
 #include "window/Registry.h"
+
+#include "app/Haisenhyo.h"
+#include "app/PtrnTest1.h"
+#include "app/PtrnTest2.h"
+#include "app/PtrnTest3.h"
+#include "app/PtrnTest4.h"
+#include "app/PtrnTest5.h"
 #include "comndata/ComnData.h"
 #include "comndata/PtrnCode.h"
 #include "tests/support/Project.h"
 #include "window/PtrnDisp.h"
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <memory>
+#include <typeinfo>
 
 namespace
 {
@@ -16,6 +25,15 @@ using WindowPtr = std::unique_ptr<CPtrnDisp>;
 WindowPtr window(const char* name)
 {
     return WindowPtr(GetPtrnWnd(name));
+}
+
+template <class Screen> void expectClass(std::initializer_list<const char*> names)
+{
+    for (const char* name : names) {
+        const WindowPtr made = window(name);
+        ASSERT_TRUE(made) << name;
+        EXPECT_EQ(typeid(*made.get()), typeid(Screen)) << name;
+    }
 }
 
 class UserHooks : public testing::Test
@@ -41,18 +59,16 @@ class UserHooks : public testing::Test
 
 } // namespace
 
-TEST(Registry, knows_every_screen_of_the_sample)
+TEST(Registry, knows_the_class_of_every_screen_of_the_sample)
 {
-    const char* const names[] = {
-        "テスト  ［メニュー選択］",   "システム終了",
-        "テスト  （図形）",           "テスト  （マウス操作）",
-        "子ウィンドウ (1)",           "子ウィンドウ (2)",
-        "子ウィンドウ (3)",           "ポップアップメニュー",
-        "テスト  （文字列・ボタン）", "テスト  （グラフ）",
-        "テスト  （表・キー入力）",   "テスト  （表）",
-    };
-    for (const char* name : names)
-        EXPECT_TRUE(window(name)) << name;
+    expectClass<CPtrnDisp>({"テスト  ［メニュー選択］", "システム終了", "子ウィンドウ (1)",
+                            "子ウィンドウ (2)", "子ウィンドウ (3)", "ポップアップメニュー"});
+    expectClass<CPtrnTest1>({"テスト  （図形）"});
+    expectClass<CPtrnTest2>({"テスト  （文字列・ボタン）"});
+    expectClass<CPtrnTest3>({"テスト  （表・キー入力）"});
+    expectClass<CPtrnTest4>({"テスト  （グラフ）"});
+    expectClass<CPtrnTest5>({"テスト  （マウス操作）"});
+    expectClass<CHaisenhyo>({"テスト  （表）"});
 }
 
 TEST(Registry, compares_names_byte_for_byte)

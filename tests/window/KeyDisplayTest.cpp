@@ -99,6 +99,27 @@ TEST_F(KeyDisplay, a_cursor_that_moves_leaves_no_trace)
     EXPECT_TRUE(same(drawn(TEXT), expected));
 }
 
+TEST_F(KeyDisplay, each_bit_of_the_mode_draws_its_own_part)
+{
+    edit(TEXT);
+    key(XK_Right);
+    Canvas canvas(100, line + 4);
+    const PaintDrawPtr draw(new CPaintDraw(AppliWnd->Pixmap));
+    const auto expectDrawn = [&](int mode) {
+        AppliWnd->KeyInputDisp(draw.get(), mode);
+        EXPECT_TRUE(same(drawn(TEXT), canvas.picture())) << mode;
+    };
+    canvas->DrawRect(0, 0, 100, line + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
+    canvas->DrawRect(0, 0, 64, line, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
+    expectDrawn(1);
+    canvas->DrawText(0, 0, 0, HEDR_EDIT_COLOR, HEDR_EDIT_BACK, "abc");
+    expectDrawn(2);
+    canvas->DrawLine(cell, 0, cell, line, 0, 1, 0, HEDR_EDIT_COLOR);
+    expectDrawn(4);
+    canvas->DrawLine(cell, 0, cell, line, 0, 1, 0, HEDR_EDIT_BACK);
+    expectDrawn(8);
+}
+
 TEST_F(KeyDisplay, two_byte_characters_are_two_cells_wide)
 {
     edit(TEXT);
