@@ -41,10 +41,10 @@ void ReadMarkImage(const std::filesystem::path& file, SIZE size, const std::stri
         return;
     }
     const int channels = gdk_pixbuf_get_n_channels(picture.get());
+    const int stride = gdk_pixbuf_get_rowstride(picture.get());
     const guchar* pixels = gdk_pixbuf_get_pixels(picture.get());
     for (int bit = 0; bit < width * height; ++bit) {
-        const guchar* pixel =
-            pixels + bit / width * gdk_pixbuf_get_rowstride(picture.get()) + bit % width * channels;
+        const guchar* pixel = &pixels[bit / width * stride + bit % width * channels];
         if (IsDark(pixel, gdk_pixbuf_get_has_alpha(picture.get())))
             mark.mark[bit / 8] |= static_cast<BYTE>(1 << bit % 8);
     }

@@ -49,7 +49,7 @@ std::string SavePicture(GdkPixbuf* picture, const std::string& file)
     GError* problem = nullptr;
     if (gdk_pixbuf_save(picture, file.c_str(), "png", &problem, nullptr))
         return "";
-    const std::string text = problem->message;
+    std::string text = problem->message;
     g_error_free(problem);
     return text;
 }
