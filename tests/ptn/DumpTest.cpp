@@ -245,6 +245,29 @@ TEST_F(Dump, leaves_a_folder_alone_that_has_something_in_it)
     EXPECT_EQ(dump.err, "src: this folder is not empty. Name a new one for the sources.\n");
 }
 
+TEST_F(Dump, needs_a_compiled_project_and_a_place_for_the_sources)
+{
+    sources.base();
+    EXPECT_EQ(sources.run("dump src -o new").err,
+              "src: this is no compiled project. Name one, or a *.ptn file.\n");
+    ASSERT_EQ(sources.build().status, 0);
+    EXPECT_EQ(sources.run("dump out/ProjPath").err, "ptn: name a folder for the sources with -o.\n");
+    writeFile("file", "");
+    const PtnResult dump = sources.run("dump out/ProjPath -o file/new");
+    EXPECT_EQ(dump.status, 1);
+    EXPECT_EQ(dump.err, "file/new: Not a directory. Check the folder's rights and space.\n");
+}
+
+TEST_F(Dump, of_a_pattern_tells_when_its_source_can_not_be_written)
+{
+    writeFile("p.ptn", Pattern("p").bytes());
+    EXPECT_EQ(sources.run("dump p.ptn -o src").err,
+              "src: Is a directory. Check the folder's rights and space.\n");
+    sources.run("dump p.ptn 2>said >/dev/full || echo $? >status; true");
+    EXPECT_EQ(readFile("said"), "ptn: the output can not be written. Check where it goes.\n");
+    EXPECT_EQ(readFile("status"), "1\n");
+}
+
 TEST_F(Dump, refuses_pattern_files_that_are_not_as_long_as_they_say)
 {
     const std::string whole = Pattern("p").item(PTRN_LINE, 1, 1, 9, 9).text("a").bytes();

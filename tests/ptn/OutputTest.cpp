@@ -102,13 +102,27 @@ TEST_F(Output, is_refused_where_no_folder_can_be_made)
     EXPECT_THAT(result.err, HasSubstr("Check the folder's rights and space."));
 }
 
+TEST_F(Output, is_not_left_half_made_where_it_can_not_be_written)
+{
+    build();
+    fs::remove(sources.profile());
+    fs::create_directories(sources.profile() + "/in-the-way");
+    sources.screen("name: b\n");
+    const auto before = Tree(sources.root() + "/out");
+    const PtnResult result = sources.build();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, sources.profile() + ": Is a directory. Check the folder's rights and space.\n" +
+                              "1 error; out/ProjPath is unchanged.\n");
+    EXPECT_EQ(Tree(sources.root() + "/out"), before);
+}
+
 TEST_F(Output, leaves_no_temporary_folder_behind)
 {
     build();
     sources.screen("name: b\n");
     build();
-    for (const auto& entry : fs::directory_iterator(sources.root() + "/out"))
-        EXPECT_EQ(entry.path().filename().string().find(".ptn-"), std::string::npos) << entry.path();
+    for (const auto& entry : fs::recursive_directory_iterator(sources.root() + "/out"))
+        EXPECT_FALSE(entry.is_directory() && entry.path().filename().string()[0] == '.') << entry.path();
 }
 
 TEST_F(Output, keeps_what_the_panel_and_others_have_written_there)

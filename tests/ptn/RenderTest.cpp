@@ -143,6 +143,19 @@ TEST_F(Render, says_what_is_wrong_with_a_state_file)
         EXPECT_THAT(result.err, HasSubstr(text));
 }
 
+TEST_F(Render, says_where_it_can_not_write)
+{
+    fs::create_directories(sources.root() + "/a.png");
+    PtnResult result = sources.run("render src a");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, testing::EndsWith("Is a directory. Check the folder's rights and space.\n"));
+    writeFile("file", "");
+    result = sources.run("render src --all -o file/shots");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err,
+              sources.root() + "/file/shots: Not a directory. Check the folder's rights and space.\n");
+}
+
 TEST_F(Render, says_what_to_install_where_there_is_no_display)
 {
     const std::string path = std::getenv("PATH");

@@ -53,6 +53,6 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
         CheckLayout(pattern, read.project, diagnostics);
     }
     if (read.complete)
-        CheckScreens(read.patterns, read.project, diagnostics);
+        CheckScreens(read.patterns, read.project, {folder.string(), 0}, diagnostics);
     return static_cast<int>(read.patterns.size());
 }

@@ -28,5 +28,6 @@ void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnos
 /// Items of a screen beside each other: places, frames, radio groups, what lies below what.
 void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
 /// Screens beside each other: what opens what, and what the program knows.
-void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project,
+/// @param whole  the place of what is nowhere in particular
+void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project, const Place& whole,
                   Diagnostics& diagnostics);

@@ -20,8 +20,9 @@ constexpr int MAINTENANCE_ACTION = 14;
 class Screens
 {
   public:
-    Screens(const std::vector<Pattern>& patterns, const ProjectSource& project, Diagnostics& diagnostics)
-        : patterns_(patterns), project_(project), diagnostics_(diagnostics)
+    Screens(const std::vector<Pattern>& patterns, const ProjectSource& project, const Place& whole,
+            Diagnostics& diagnostics)
+        : patterns_(patterns), project_(project), whole_(whole), diagnostics_(diagnostics)
     {
         for (const Pattern& pattern : patterns)
             byName_.emplace(pattern.name, &pattern);
@@ -41,6 +42,7 @@ class Screens
 
     const std::vector<Pattern>& patterns_;
     const ProjectSource& project_;
+    const Place& whole_;
     Diagnostics& diagnostics_;
     std::map<std::string, const Pattern*> byName_;
     std::set<std::string> reached_;
@@ -49,7 +51,7 @@ class Screens
 void Screens::checkProfile()
 {
     for (const char* key : {"PTRNSTART", "PTRNSTOP"}) {
-        Place place;
+        Place place = whole_;
         const std::string name = project_.profile.value("PTRN", key, &place);
         const std::string what = "profile key " + Quoted(key) + ": ";
         if (name.empty())
@@ -141,10 +143,10 @@ void Screens::checkReach()
 
 } // namespace
 
-void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project,
+void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project, const Place& whole,
                   Diagnostics& diagnostics)
 {
-    Screens screens(patterns, project, diagnostics);
+    Screens screens(patterns, project, whole, diagnostics);
     screens.checkProfile();
     screens.checkActions();
     screens.checkReach();

@@ -146,7 +146,7 @@ std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const st
 
     if (const std::optional<int> number = ParseInteger(text)) {
         for (const Row& row : rows_)
-            if (row.first <= *number && *number < row.first + row.count)
+            if (row.covers(*number))
                 return Cell{row.code, *number - row.first, row.count};
         return complain("no code covers cell " + text + ". Use a cell of 'codes' or extend it.");
     }
@@ -162,7 +162,7 @@ std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const st
             return Cell{row.code, *offset, row.count};
         return complain("code " + Quoted(name) + " has " + std::to_string(row.count) +
                         " cells, so there is no +" + std::to_string(*offset) + ". Write at most +" +
-                        std::to_string(row.count - 1) + " or extend the code.");
+                        std::to_string(row.count - 1LL) + " or extend the code.");
     }
     std::vector<std::string> names;
     for (const Row& row : rows_)
@@ -222,7 +222,7 @@ int CodeTable::cells() const
 std::string CodeTable::nameOf(int cell) const
 {
     for (const Row& row : rows_)
-        if (row.first <= cell && cell - row.first < row.count)
+        if (row.covers(cell))
             return row.name + "+" + std::to_string(cell - row.first);
     return "";
 }
@@ -232,7 +232,7 @@ std::string CodeTable::yaml() const
     if (rows_.empty())
         return "";
     std::string text = "codes:\n";
-    int next = 1;
+    long long next = 1;
     for (const Row& row : rows_) {
         std::vector<std::string> parts;
         if (row.first != next)
@@ -243,7 +243,7 @@ std::string CodeTable::yaml() const
         const bool plain = parts.size() == 1;
         text += "  " + YamlScalar(row.name) + ": " + (plain ? std::to_string(row.count) : YamlMap(parts)) +
                 " # from cell " + std::to_string(row.first) + "\n";
-        next = row.first + row.count;
+        next = row.end();
     }
     return text;
 }

@@ -37,6 +37,10 @@ class CodeTable
         int count = 0;
         Place place;
         int line = 0; ///< first line of the code on the maintenance screen
+
+        /// The cell after the last one; a damaged table may have it beyond an int.
+        long long end() const { return 0LL + first + count; }
+        bool covers(int cell) const { return first <= cell && cell < end(); }
     };
     const std::vector<Row>& rows() const { return rows_; }
     /// The row of a code as pattern files name it, as the program finds it; null when there is none.

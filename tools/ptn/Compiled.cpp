@@ -76,7 +76,8 @@ void LoadProfile(const fs::path& folder, Compiled& compiled)
         return;
     compiled.project.program = compiled.profile.stem().string();
     const std::map<int, std::string> fonts = compiled.project.profile.load(
-        ReadBytes(compiled.profile).value_or(""), folder.parent_path().string(), folder.filename().string());
+        ReadBytes(compiled.profile).value_or(""), folder.parent_path().string(), folder.filename().string(),
+        compiled.profile.lexically_proximate(fs::current_path()).string());
     const auto name = [&](int number) {
         const auto font = fonts.find(number);
         return font == fonts.end() ? std::string() : font->second;

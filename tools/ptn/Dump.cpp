@@ -98,6 +98,10 @@ fs::path Folder(const fs::path& given)
 
 std::optional<int> DumpProject(const fs::path& project, const fs::path& output, Diagnostics& diagnostics)
 {
+    if (!IsCompiled(project)) {
+        diagnostics.error({project.string(), 0}, "this is no compiled project. Name one, or a *.ptn file.");
+        return std::nullopt;
+    }
     std::error_code missing;
     if (fs::exists(output, missing) && !fs::is_empty(output, missing)) {
         diagnostics.error({output.string(), 0}, "this folder is not empty. Name a new one for the sources.");
@@ -106,17 +110,11 @@ std::optional<int> DumpProject(const fs::path& project, const fs::path& output, 
     Compiled compiled = ReadCompiled(project, diagnostics);
     if (diagnostics.failed())
         return std::nullopt;
-    try {
-        for (const auto& file : SourceFiles(compiled)) {
-            fs::create_directories((output / file.first).parent_path());
-            WriteBytes(output / file.first, file.second);
-        }
-        return CompareBuild(Folder(project), output, diagnostics);
-    } catch (const fs::filesystem_error& problem) {
-        diagnostics.error({problem.path1().string(), 0},
-                          problem.code().message() + ". Check the folder's rights and space.");
-        return std::nullopt;
+    for (const auto& file : SourceFiles(compiled)) {
+        fs::create_directories((output / file.first).parent_path());
+        WriteBytes(output / file.first, file.second);
     }
+    return CompareBuild(Folder(project), output, diagnostics);
 }
 
 std::optional<std::string> DumpPattern(const fs::path& file, Diagnostics& diagnostics)

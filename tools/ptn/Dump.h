@@ -10,6 +10,7 @@
 /// Writes the sources of a compiled project into a new folder, builds them and compares.
 /// @return how many files the sources build alike; none after an error. Files that would differ are
 ///         reported as warnings
+/// Throws std::filesystem::filesystem_error when the sources can not be written.
 std::optional<int> DumpProject(const std::filesystem::path& project, const std::filesystem::path& output,
                                Diagnostics& diagnostics);
 

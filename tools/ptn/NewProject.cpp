@@ -38,19 +38,13 @@ bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
         diagnostics.error({folder.string(), 0}, "this folder is not empty. Name a new one.");
         return false;
     }
-    try {
-        for (const StarterFile& file : StarterFiles()) {
-            std::string text = file.text;
-            Replace(text, "@NAME@", name);
-            Replace(text, "@TESSARY@", PTN_TESSARY);
-            Replace(text, "@BUILD@", PTN_BUILD);
-            fs::create_directories((place / file.name).parent_path());
-            WriteBytes(place / file.name, text);
-        }
-    } catch (const fs::filesystem_error& problem) {
-        diagnostics.error({problem.path1().string(), 0},
-                          problem.code().message() + ". Check the folder's rights and space.");
-        return false;
+    for (const StarterFile& file : StarterFiles()) {
+        std::string text = file.text;
+        Replace(text, "@NAME@", name);
+        Replace(text, "@TESSARY@", PTN_TESSARY);
+        Replace(text, "@BUILD@", PTN_BUILD);
+        fs::create_directories((place / file.name).parent_path());
+        WriteBytes(place / file.name, text);
     }
     return true;
 }

@@ -13,9 +13,10 @@ struct StarterFile {
     const char* text; ///< UTF-8
 };
 
-/// All of them: sources of four screens, a program that shows them, and its build.
+/// All of them: sources of three screens, a program that shows them, and its build.
 const std::vector<StarterFile>& StarterFiles();
 
 /// Writes the project into a new folder, whose name becomes that of the program.
 /// @return whether it is there now
+/// Throws std::filesystem::filesystem_error when it can not be written.
 bool NewProject(const std::filesystem::path& folder, Diagnostics& diagnostics);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <sstream>
@@ -29,6 +30,26 @@ std::string CheckSum(const std::string& bytes)
     return std::to_string(sum);
 }
 
+/// Holds signals to end back as long as it lives, so that no half of a build is left.
+class SignalsLater
+{
+  public:
+    SignalsLater()
+    {
+        sigset_t ending;
+        sigemptyset(&ending);
+        for (const int signal : {SIGHUP, SIGINT, SIGTERM})
+            sigaddset(&ending, signal);
+        sigprocmask(SIG_BLOCK, &ending, &before_);
+    }
+    ~SignalsLater() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsLater(const SignalsLater&) = delete;
+    SignalsLater& operator=(const SignalsLater&) = delete;
+
+  private:
+    sigset_t before_;
+};
+
 // A list that was tampered with must not lead out of the folder.
 bool StaysInside(const fs::path& name)
 {
@@ -50,9 +71,10 @@ int RemoveOld(const fs::path& folder, const std::string& before, const OutputFil
 
 } // namespace
 
-Staging::Staging(const fs::path& folder) : folder_(folder)
+// Within the folder, which may be the only one of its file system; files can only be moved within one.
+Staging::Staging(const fs::path& folder) : folder_(folder), made_(fs::create_directories(folder))
 {
-    std::string name = folder.string() + ".ptn-XXXXXX";
+    std::string name = (folder / ".ptn-XXXXXX").string();
     if (!mkdtemp(name.data()))
         throw fs::filesystem_error("can not be made", name, std::error_code(errno, std::generic_category()));
     temporary_ = name;
@@ -62,6 +84,8 @@ Staging::~Staging()
 {
     std::error_code ignored;
     fs::remove_all(temporary_, ignored);
+    if (made_)
+        fs::remove(folder_, ignored); // which fails unless it has stayed empty
 }
 
 void Staging::add(const std::string& name, const std::string& bytes)
@@ -90,9 +114,8 @@ int Staging::moveIn()
 OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const OutputFiles& seeds,
                          const fs::path& profile, const std::string& profileBytes)
 {
-    // The folder itself may be a link to another file system; files can only be moved within one.
-    const fs::path place = fs::weakly_canonical(folder);
-    fs::create_directories(place.parent_path());
+    const SignalsLater uninterrupted;
+    const fs::path place = fs::weakly_canonical(folder); // it may be a link
     Staging project(place);
     Staging beside(profile.parent_path());
 

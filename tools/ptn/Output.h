@@ -9,12 +9,12 @@
 /// Bytes by path, which is relative to the project directory.
 using OutputFiles = std::map<std::string, std::string>;
 
-/// New files, written beside their folder first and moved in when everything is complete. What is not
-/// moved in is removed again.
+/// New files, written into a hidden folder first and moved to their places when everything is complete. What
+/// is not moved is removed again, and so is the folder itself when it was made for them.
 class Staging
 {
   public:
-    /// @param folder  where the files will go; it need not exist, its parent must
+    /// @param folder  where the files will go; made when needed
     explicit Staging(const std::filesystem::path& folder);
     ~Staging();
     Staging(const Staging&) = delete;
@@ -28,6 +28,7 @@ class Staging
 
   private:
     std::filesystem::path folder_;
+    bool made_ = false; ///< the folder was not there before
     std::filesystem::path temporary_;
     std::vector<std::string> names_;
 };
@@ -44,6 +45,7 @@ struct OutputReport {
 /// @param seeds  files that the program goes on writing: they are written when they are missing or when
 ///               they have changed since the build that wrote them last; what the program has made of them
 ///               stays otherwise
+/// A signal to end that arrives meanwhile has its effect afterwards.
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
 OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
                          const OutputFiles& seeds, const std::filesystem::path& profile,

@@ -165,7 +165,7 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
 }
 
 std::map<int, std::string> ProfileSource::load(const std::string& bytes, const std::string& folder,
-                                               const std::string& project)
+                                               const std::string& project, const std::string& file)
 {
     std::map<int, std::string> fonts;
     for (const IniSection& section : ParseIni(bytes)) {
@@ -184,7 +184,7 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
             if (font >= 0 && font < 3 * FONTS_PER_LANGUAGE)
                 fonts[font] = key.value;
             else if (!own)
-                keys_.push_back({section.name, key.name, value, {"", key.line}});
+                keys_.push_back({section.name, key.name, value, {file, key.line}});
         }
     }
     return fonts;

@@ -33,10 +33,11 @@ class ProfileSource
     /// Takes a profile apart.
     /// @param folder   absolute path of the folder that it lies in
     /// @param project  name of the project directory in it
+    /// @param file     how messages name the profile
     /// @return the X names of fonts by key number; those that can not stand in "fonts" go back with
     /// `keepFont`
     std::map<int, std::string> load(const std::string& bytes, const std::string& folder,
-                                    const std::string& project);
+                                    const std::string& project, const std::string& file);
     /// Keeps a font name as a plain key.
     void keepFont(int number, const std::string& name);
     /// The section "profile".

@@ -94,7 +94,7 @@ ScreenState ReadState(const std::string& file, const CodeTable& codes, Diagnosti
                 if (!cell)
                     continue;
                 CellState one;
-                one.cell = codes.row(cell->code)->first + cell->offset;
+                one.cell = static_cast<int>(0LL + codes.row(cell->code)->first + cell->offset);
                 ReadCell(entry, one, diagnostics);
                 state.cells.push_back(one);
             }

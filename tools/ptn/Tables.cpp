@@ -232,7 +232,7 @@ std::string LimitTable::yaml(const MessageTable& messages) const
         std::vector<std::string> parts = {
             "no: " + std::to_string(entry.first),
             "data: " + YamlScalar(EucToUtf8(row.code) + "+" + std::to_string(row.offsets[1])),
-            "count: " + std::to_string(row.offsets[0] - row.offsets[1] + 1),
+            "count: " + std::to_string(1LL + row.offsets[0] - row.offsets[1]),
             "minimum: " + std::to_string(row.limits[0]), "maximum: " + std::to_string(row.limits[1])};
         if (row.errors[0])
             parts.push_back("below: " + YamlScalar(messages.names().nameOf(row.errors[0])));

@@ -3,6 +3,7 @@
 #include "tools/ptn/Diagnostics.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <iostream>
 
 namespace
@@ -48,8 +49,16 @@ int main(int argc, char** argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& problem) {
         return app.exit(problem) == 0 ? 0 : EXIT_USAGE;
+    } catch (const std::filesystem::filesystem_error& problem) {
+        std::cerr << problem.path1().string() << ": " << problem.code().message()
+                  << ". Check the folder's rights and space.\n";
+        return EXIT_ERRORS;
     } catch (const std::exception& problem) {
         std::cerr << "ptn: " << problem.what() << "\n";
+        return EXIT_ERRORS;
+    }
+    if (!std::cout.flush()) {
+        std::cerr << "ptn: the output can not be written. Check where it goes.\n";
         return EXIT_ERRORS;
     }
     return status;
