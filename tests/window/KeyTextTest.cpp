@@ -348,6 +348,9 @@ TEST_F(KeyText, a_blank_in_the_last_position_is_dropped_and_all_others_stay)
         set(before, 0);
         EXPECT_EQ(drop(), after) << "'" << before << "'";
     }
+    field(PTRN_CHAR, 1);
+    set(" ", 0);
+    EXPECT_EQ(drop(), "") << "the first position may be the last";
 }
 
 TEST_F(KeyText, a_field_without_width_loses_no_blank)
