@@ -24,12 +24,20 @@ class Panel : public testing::Test
     {
         std::string colors;
         for (int number = 0; number < 100; number++)
-            colors += int32(number * 600) + int32(65535 - number * 600) + int32(number * 300);
+            for (int shift = 16; shift >= 0; shift -= 8)
+                colors += int32(static_cast<int>(color(number) >> shift & 0xFF) * 257);
         project.write("PtrnColr", colors);
         project.set("TESSARY", "DISPSIZE", "1280,1024");
         project.set("PTRN", "PTRNSTART", menu);
         project.set("FONT", "FONTNAME0", "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
         project.code("DATA", 200);
+    }
+
+    /// 0xRRGGBB of a colour number.
+    static std::uint32_t color(int number)
+    {
+        const auto part = static_cast<std::uint32_t>(number) * 2;
+        return part << 16 | (0xFF - part) << 8 | part / 2;
     }
 
     void run() { program.emplace("panel", project.root() + "/panel"); }

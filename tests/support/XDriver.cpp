@@ -3,12 +3,14 @@
 #include "base/EucText.h"
 #include "tests/support/XServer.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <gdk/gdk.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <thread>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 #include <X11/XKBlib.h>
@@ -94,7 +96,8 @@ std::string title(Display* display, Window window)
 std::string pictureOfFailure()
 {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    const std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "screen";
+    std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "screen";
+    std::replace(name.begin(), name.end(), '/', '.'); // of a test with parameters
     return std::string(TESSARY_BUILD "/") + name + ".png";
 }
 
@@ -133,6 +136,26 @@ void XDriver::release(unsigned button)
 {
     XTestFakeButtonEvent(display_, button, False, CurrentTime);
     XSync(display_, False);
+    // A window manager holds back the press, and the release with it, until it has looked at them. The server
+    // may lose what follows before that, which no user's hand is fast enough for.
+    const auto deadline = Clock::now() + patience;
+    while (isPressed(button)) {
+        if (Clock::now() > deadline) {
+            ADD_FAILURE() << "button " << button << " stays pressed";
+            return;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
+bool XDriver::isPressed(unsigned button)
+{
+    Window window = 0;
+    int ignored = 0;
+    unsigned state = 0;
+    XQueryPointer(display_, DefaultRootWindow(display_), &window, &window, &ignored, &ignored, &ignored,
+                  &ignored, &state);
+    return state & (Button1Mask << (button - 1));
 }
 
 void XDriver::click(unsigned button)

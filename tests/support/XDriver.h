@@ -36,6 +36,7 @@ class XDriver
 
     /// Pointer, in pixels of the screen. Buttons: 1 left, 2 middle, 3 right, 4 wheel up, 5 wheel down.
     void move(int x, int y);
+    /// A release returns when the server has come to it: a window manager may hold it back with its press.
     void press(unsigned button = 1);
     void release(unsigned button = 1);
     void click(unsigned button = 1);
@@ -76,6 +77,7 @@ class XDriver
     void requestMove(unsigned long window, int x, int y);
 
   private:
+    bool isPressed(unsigned button);
     void fakeKey(unsigned long symbol, bool down);
     _XDisplay* display_;
 };

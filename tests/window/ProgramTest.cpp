@@ -67,7 +67,7 @@ class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
             .save(project);
         run();
         user.waitForWindow(menu);
-        showDigits(); // painted
+        user.waitFor([&] { return user.pixel(12, 152) == color(TEXT_BACK4); }, "the menu to be painted");
     }
 
     /// Clicks and waits for the window that opens.
