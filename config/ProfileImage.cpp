@@ -200,7 +200,7 @@ int ProfileReadLine(char (&line)[SIZE_PROFLINE + 1])
     int length = 0;
     const int most = std::min(ProfSize - ProfPont, SIZE_PROFLINE);
     while (ProfLeng < most) {
-        const char byte = ProfBuff[static_cast<std::size_t>(ProfPont + ProfLeng++)];
+        const char byte = ProfBuff.get()[ProfPont + ProfLeng++];
         if (byte == '\0' || byte == '\n')
             break;
         // The rest of the line is consumed behind this terminator, where it can not be seen.
