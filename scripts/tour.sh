@@ -33,7 +33,7 @@ until_done() {
 }
 
 # The windows on the screen; every window that the panel opens has a new number.
-windows() { xdotool search --onlyvisible --pid "$panel" 2>/dev/null | sort; }
+windows() { { xdotool search --onlyvisible --pid "$panel" 2>/dev/null || true; } | sort; }
 has_windows() { [ -n "$(windows)" ]; }
 has_other_windows() { [ "$(windows)" != "$1" ]; }
 
