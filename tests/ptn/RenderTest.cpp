@@ -137,10 +137,15 @@ TEST_F(Render, says_what_is_wrong_with_a_state_file)
     writeFile("state.yaml", "clock: noon\ncells:\n  C: 1\n  A: { colour: 1 }\nvalues: 1\n");
     const PtnResult result = sources.run("render src a --state state.yaml");
     EXPECT_EQ(result.status, 1);
-    for (const char* text : {"state.yaml:1: 'clock' must be a time such as 2025-03-02 09:05:07.",
-                             "state.yaml:3: 'cells': no code 'C'.",
-                             "state.yaml:4: cell 'A': unknown 'colour'.", "state.yaml:5: unknown 'values'."})
-        EXPECT_THAT(result.err, HasSubstr(text));
+    EXPECT_EQ(result.err,
+              "state.yaml:1: 'clock' must be a time such as 2025-03-02 09:05:07.\n"
+              "state.yaml:3: 'cells': no code 'C'. Did you mean 'A'? Add it to 'codes' or use another.\n"
+              "state.yaml:4: cell 'A': unknown 'colour'. Did you mean 'color'? Write value, text, color, "
+              "blink, disabled or hidden.\n"
+              "state.yaml:5: unknown 'values'. A state has 'clock' and 'cells'.\n");
+    sources.screen("name: a\nitems: [{ type: spinn }]\n");
+    EXPECT_THAT(sources.run("render src a --state state.yaml").err, testing::Not(HasSubstr("state.yaml")))
+        << "what the codes are is not known then";
 }
 
 TEST_F(Render, says_where_it_can_not_write)

@@ -176,9 +176,10 @@ std::vector<const Pattern*> Chosen(const Compiled& compiled, const RenderJob& jo
 std::vector<fs::path> Render(const RenderJob& job, Diagnostics& diagnostics)
 {
     const fs::path here = fs::current_path();
-    const std::string state = job.state.empty() ? "" : fs::absolute(job.state).string();
     Stage stage(job, diagnostics);
-    const ScreenState cells = ReadState(state, stage.compiled.project.codes, diagnostics);
+    if (diagnostics.failed())
+        return {};
+    const ScreenState cells = ReadState(job.state, stage.compiled.project.codes, diagnostics);
     if (diagnostics.failed())
         return {};
     const std::vector<const Pattern*> chosen = Chosen(stage.compiled, job, diagnostics);
