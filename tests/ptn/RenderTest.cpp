@@ -64,6 +64,8 @@ TEST_F(Render, draws_values_and_states_of_a_file)
 {
     writeFile("state.yaml", "cells:\n  A+1: { color: 1 }\n  B: 50\n");
     EXPECT_TRUE(same(render("--state state.yaml"), expected(0xFF8000, 20)));
+    writeFile("state.yaml", "cells:\n  A: [3, { color: 1 }, 4]\n  B: [50, 7]\n");
+    EXPECT_TRUE(same(render("--state state.yaml"), expected(0xFF8000, 20)));
     writeFile("state.yaml", "cells:\n  A+1: { hidden: yes }\n  6: { value: 100 }\n");
     // A hidden item is painted over with its clear colour, number 0.
     EXPECT_TRUE(same(render("--state state.yaml"), expected(0x000000, 0)));
@@ -134,7 +136,7 @@ TEST_F(Render, names_the_screens_when_there_is_no_such_one)
 
 TEST_F(Render, says_what_is_wrong_with_a_state_file)
 {
-    writeFile("state.yaml", "clock: noon\ncells:\n  C: 1\n  A: { colour: 1 }\nvalues: 1\n");
+    writeFile("state.yaml", "clock: noon\ncells:\n  C: 1\n  A: { colour: 1 }\n  B+1: [1, 2, 3]\nvalues: 1\n");
     const PtnResult result = sources.run("render src a --state state.yaml");
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err,
@@ -142,7 +144,8 @@ TEST_F(Render, says_what_is_wrong_with_a_state_file)
               "state.yaml:3: 'cells': no code 'C'. Did you mean 'A'? Add it to 'codes' or use another.\n"
               "state.yaml:4: cell 'A': unknown 'colour'. Did you mean 'color'? Write value, text, color, "
               "blink, disabled or hidden.\n"
-              "state.yaml:5: unknown 'values'. A state has 'clock' and 'cells'.\n");
+              "state.yaml:5: cell 'B+1': 3 values go beyond its code. Write at most 2.\n"
+              "state.yaml:6: unknown 'values'. A state has 'clock' and 'cells'.\n");
     sources.screen("name: a\nitems: [{ type: spinn }]\n");
     EXPECT_THAT(sources.run("render src a --state state.yaml").err, testing::Not(HasSubstr("state.yaml")))
         << "what the codes are is not known then";

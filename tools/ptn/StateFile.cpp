@@ -41,18 +41,18 @@ void SetValue(CellState& state, const Source& source, const std::string& what, D
     state.text = ToEuc(text, LONGEST_TEXT, what, source.place(), diagnostics).value_or("");
 }
 
-void ReadCell(const Entry& entry, CellState& state, Diagnostics& diagnostics)
+void ReadCell(const std::string& name, const Source& source, CellState& state, Diagnostics& diagnostics)
 {
-    const std::string what = "cell " + Quoted(entry.name);
-    if (!entry.value.isMap()) {
-        SetValue(state, entry.value, what, diagnostics);
+    const std::string what = "cell " + Quoted(name);
+    if (!source.isMap()) {
+        SetValue(state, source, what, diagnostics);
         return;
     }
     const auto bit = [&](const Entry& part, int mask) {
         if (Boolean(part.value, what + ": " + Quoted(part.name), diagnostics).value_or(false))
             state.word |= static_cast<unsigned short>(mask);
     };
-    for (const Entry& part : Entries(entry.value, what, diagnostics)) {
+    for (const Entry& part : Entries(source, what, diagnostics)) {
         if (part.name == "value")
             SetValue(state, part.value, what, diagnostics);
         else if (part.name == "text")
@@ -74,6 +74,29 @@ void ReadCell(const Entry& entry, CellState& state, Diagnostics& diagnostics)
     }
 }
 
+// One cell, or a list for it and those behind it.
+void ReadCells(const Entry& entry, const CodeTable& codes, ScreenState& state, Diagnostics& diagnostics)
+{
+    const auto cell = codes.find(entry.name, "'cells'", entry.place, diagnostics);
+    if (!cell)
+        return;
+    const std::vector<Source> values =
+        entry.value.isList() ? entry.value.members() : std::vector<Source>{entry.value};
+    if (values.size() > static_cast<std::size_t>(cell->count - cell->offset)) {
+        diagnostics.error(entry.place, "cell " + Quoted(entry.name) + ": " + std::to_string(values.size()) +
+                                           " values go beyond its code. Write at most " +
+                                           std::to_string(cell->count - cell->offset) + ".");
+        return;
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        CellState one;
+        one.cell =
+            static_cast<int>(0LL + codes.row(cell->code)->first + cell->offset + static_cast<long long>(i));
+        ReadCell(entry.name, values[i], one, diagnostics);
+        state.cells.push_back(one);
+    }
+}
+
 } // namespace
 
 ScreenState ReadState(const std::string& file, const CodeTable& codes, Diagnostics& diagnostics)
@@ -89,15 +112,8 @@ ScreenState ReadState(const std::string& file, const CodeTable& codes, Diagnosti
         if (part.name == "clock") {
             state.clock = ReadClock(part.value, state.clock, diagnostics);
         } else if (part.name == "cells") {
-            for (const Entry& entry : Entries(part.value, "'cells'", diagnostics)) {
-                const auto cell = codes.find(entry.name, "'cells'", entry.place, diagnostics);
-                if (!cell)
-                    continue;
-                CellState one;
-                one.cell = static_cast<int>(0LL + codes.row(cell->code)->first + cell->offset);
-                ReadCell(entry, one, diagnostics);
-                state.cells.push_back(one);
-            }
+            for (const Entry& entry : Entries(part.value, "'cells'", diagnostics))
+                ReadCells(entry, codes, state, diagnostics);
         } else {
             diagnostics.error(part.place, "unknown " + Quoted(part.name) + "." +
                                               Suggestion(part.name, {"clock", "cells"}) +

@@ -22,6 +22,7 @@ struct ScreenState {
 };
 
 /// Reads "clock: 2025-03-02 09:05:07" and "cells", which gives a value, a text, or
-/// "{value, text, color: 0..3, blink, disabled, hidden}" for each cell. Without a file the clock stands at
+/// "{value, text, color: 0..3, blink, disabled, hidden}" for each cell, or a list of these for the cell and
+/// those behind it. Without a file the clock stands at
 /// 9 o'clock on 1 January 2025 and all cells are empty.
 ScreenState ReadState(const std::string& file, const CodeTable& codes, Diagnostics& diagnostics);
