@@ -70,7 +70,7 @@ std::string Goldens::diffFile(const std::string& name) const
 testing::AssertionResult Goldens::renewed(const Picture& picture, const std::string& name) const
 {
     std::error_code ignored;
-    fs::create_directories(folder_, ignored);
+    fs::create_directories(fs::path(goldenFile(name)).parent_path(), ignored);
     if (!picture.save(goldenFile(name), versions()))
         return testing::AssertionFailure() << "can not write " << goldenFile(name);
     return testing::AssertionFailure()
@@ -94,7 +94,7 @@ testing::AssertionResult Goldens::check(const Picture& picture, const std::strin
         return renewed(picture, name);
 
     testing::AssertionResult result = testing::AssertionFailure() << name << ": " << alike.message();
-    fs::create_directories(results_, ignored);
+    fs::create_directories(fs::path(actualFile(name)).parent_path(), ignored);
     const auto leave = [&](const char* what, const Picture& file, const std::string& path) {
         result << "\n  " << what << (file.save(path) ? path : "can not write " + path);
     };

@@ -32,7 +32,7 @@ void expectGolden(const Picture& picture, const std::string& name, const char* f
 class Goldens
 {
   public:
-    /// @param folder   holds <name>.png
+    /// @param folder   holds <name>.png; a name may be that of a file in a folder within
     /// @param results  receives <name>.actual.png and <name>.diff.png; made when needed
     /// @param renew    write pictures that differ or are missing
     Goldens(std::string folder, std::string results, bool renew);
