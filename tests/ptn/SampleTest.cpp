@@ -1,6 +1,7 @@
 // The sample project of this source tree: it builds, and its screens are laid out so that all of them can be
 // seen and operated.
 #include "config/Profile.h"
+#include "draw/HitTest.h"
 #include "pattern/ItemParm.h"
 #include "tests/ptn/SampleScreens.h"
 
@@ -144,6 +145,26 @@ TEST_F(Sample, lets_no_text_field_or_control_overlap_another)
             }
         }
     }
+}
+
+TEST_F(Sample, keeps_every_text_within_the_boxes_that_it_begins_in)
+{
+    const std::set<int> texts = {PTRN_FCHR, PTRN_CHAR, PTRN_NUMR, PTRN_RDIO, PTRN_CHCK};
+    int inside = 0;
+    for (const auto& screen : screens)
+        for (const SampleItem& box : screen.second.items)
+            for (const SampleItem& item : screen.second.items) {
+                if (box.type() != PTRN_GBOX || !texts.count(item.type()))
+                    continue;
+                const RECT outer = box.corners();
+                const RECT text = item.corners(); // of its longest language
+                if (!PointInRect({text.left, text.top}, outer))
+                    continue;
+                ++inside;
+                EXPECT_LE(text.right, outer.right) << screen.first << ": " << item.texts[0] << item.data();
+                EXPECT_LE(text.bottom, outer.bottom) << screen.first << ": " << item.texts[0] << item.data();
+            }
+    EXPECT_GE(inside, 200);
 }
 
 TEST_F(Sample, has_buttons_that_a_finger_can_press_with_captions_that_fit)
