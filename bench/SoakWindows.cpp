@@ -6,6 +6,7 @@
 // Needs the X server of $DISPLAY, with or without a window manager. Ends with 1 when the server holds more
 // than after the first hundred, or resident memory has grown by more than 1 % since the first thousand.
 #include "bench/BenchProject.h"
+#include "bench/Holdings.h"
 #include "shell/Request.h"
 #include "shell/Startup.h"
 #include "window/PtrnDisp.h"
@@ -13,10 +14,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <gdk/gdkx.h>
-#include <map>
-#include <unistd.h>
-#include <X11/extensions/XRes.h>
 
 CPtrnDisp* GetPtrnWnd(const char*)
 {
@@ -31,44 +28,6 @@ void UserTimr() {}
 
 namespace
 {
-
-struct Held {
-    long resident = 0; ///< KiB
-    std::map<std::string, unsigned> server;
-    unsigned long pixmaps = 0; ///< bytes
-};
-
-long Resident()
-{
-    long total = 0;
-    long resident = 0;
-    if (std::FILE* file = std::fopen("/proc/self/statm", "r")) {
-        if (std::fscanf(file, "%ld %ld", &total, &resident) != 2)
-            resident = 0;
-        std::fclose(file);
-    }
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
-}
-
-Held Measure()
-{
-    Held held;
-    Display* display = gdk_x11_get_default_xdisplay();
-    XSync(display, False);
-    const XID own = GDK_WINDOW_XID(gdk_display_get_default_group(gdk_display_get_default()));
-    int count = 0;
-    XResType* types = nullptr;
-    XResQueryClientResources(display, own, &count, &types);
-    for (int i = 0; i < count; i++) {
-        char* kind = XGetAtomName(display, types[i].resource_type);
-        held.server[kind] = types[i].count;
-        XFree(kind);
-    }
-    XFree(types);
-    XResQueryClientPixmapBytes(display, own, &held.pixmaps);
-    held.resident = Resident();
-    return held;
-}
 
 void HandleEvents()
 {
@@ -91,14 +50,6 @@ void Open(int round)
     HandleEvents();
 }
 
-void Print(int openings, const Held& held)
-{
-    std::printf("%9d %10ld %12lu", openings, held.resident, held.pixmaps / 1024);
-    for (const auto& [kind, count] : held.server)
-        std::printf("  %s %u", kind.c_str(), count);
-    std::printf("\n");
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -111,26 +62,22 @@ int main(int argc, char** argv)
     HandleEvents();
 
     std::printf("Child windows of 100 items, opened and closed\n");
-    std::printf("%9s %10s %12s  %s\n", "openings", "RSS (KiB)", "pixmaps (KiB)", "resources of the X server");
-    Held hundred;
-    Held thousand;
+    PrintHoldingsHead("openings");
+    Holdings hundred;
+    Holdings thousand;
     const auto start = std::chrono::steady_clock::now();
     for (int i = 1; i <= openings; i++) {
         Open(i);
         if (i == 100)
-            Print(i, hundred = Measure());
+            PrintHoldings(i, hundred = MeasureHoldings());
         else if (i == 1000)
-            Print(i, thousand = Measure());
+            PrintHoldings(i, thousand = MeasureHoldings());
         else if (i % 2500 == 0 && i < openings)
-            Print(i, Measure());
+            PrintHoldings(i, MeasureHoldings());
     }
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    const Held end = Measure();
-    Print(openings, end);
+    const Holdings end = MeasureHoldings();
+    PrintHoldings(openings, end);
     std::printf("%.1f ms each\n", time.count() / openings);
-
-    const bool leaks = end.server != hundred.server || end.pixmaps != hundred.pixmaps ||
-                       end.resident > thousand.resident + thousand.resident / 100;
-    std::printf("%s\n", leaks ? "MISSED: something is left behind" : "nothing is left behind");
-    return leaks ? 1 : 0;
+    return Verdict(ServerHoldsMore(end, hundred) || MemoryHasGrown(end, thousand));
 }

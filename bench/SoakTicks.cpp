@@ -1,0 +1,94 @@
+// A day of ticks of a busy screen, one after another: resident memory and resources of the X server at the
+// end, against those after the first thousand. Every tick a tenth of the items, of all types, show another
+// value, text, colour or state.
+//
+//   bench_soak_ticks [TICKS]
+//
+// Needs the X server of $DISPLAY, with or without a window manager. Ends with 1 when the server holds more
+// than after the first thousand ticks, or resident memory has grown by more than 1 % since.
+#include "bench/BenchProject.h"
+#include "bench/Holdings.h"
+#include "shell/Request.h"
+#include "shell/Startup.h"
+#include "window/PtrnDisp.h"
+#include "window/Registry.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace
+{
+
+constexpr int dayOfTicks = 864000;
+constexpr int items = 100;
+constexpr SIZE size = {640, 512};
+
+/// The state of an item: its four colours in turn, now and then locked, hidden or frozen.
+WORD State(int step)
+{
+    constexpr WORD others[] = {0, STATE_DISABLE, 0, STATE_HIDDEN, 0, STATE_FROZEN};
+    return static_cast<WORD>(step % 4 | others[step / 4 % std::size(others)]);
+}
+
+void ChangeCells()
+{
+    static int tick = 0;
+    tick++;
+    for (int i = tick % 10; i < items; i += 10) {
+        const int no = BenchProject::firstCell + i;
+        const int step = tick / 10 + i;
+        Set_wData(no, State(step), nullptr, 0);
+        Set_fData(no, static_cast<float>(step % 101), nullptr, 0);
+        Set_sData(no, ("温度" + std::to_string(step % 1000)).c_str(), nullptr, 0);
+    }
+}
+
+void HandleEvents()
+{
+    while (g_main_context_iteration(nullptr, FALSE))
+        ;
+}
+
+} // namespace
+
+CPtrnDisp* GetPtrnWnd(const char*)
+{
+    return new CPtrnDisp;
+}
+int UserInit()
+{
+    return 1;
+}
+void UserExit() {}
+void UserTimr()
+{
+    ChangeCells();
+}
+
+int main(int argc, char** argv)
+{
+    const int ticks = std::max(argc > 1 ? std::atoi(argv[1]) : dayOfTicks, 2000);
+    const BenchProject project(items);
+    project.screen("busy", items, items, size);
+    PtrnDispTopWnd("busy", nullptr, 0);
+    while (!AppliWnd->Pixmap)
+        g_main_context_iteration(nullptr, TRUE);
+
+    std::printf("Ticks of a screen of %d items, a tenth of which change at each\n", items);
+    PrintHoldingsHead("ticks");
+    Holdings thousand;
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 1; i <= ticks; i++) {
+        Timer_Event(nullptr);
+        HandleEvents();
+        if (i == 1000)
+            PrintHoldings(i, thousand = MeasureHoldings());
+        else if (i % 100000 == 0 && i < ticks)
+            PrintHoldings(i, MeasureHoldings());
+    }
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    const Holdings end = MeasureHoldings();
+    PrintHoldings(ticks, end);
+    std::printf("%.2f ms each\n", time.count() / ticks);
+    return Verdict(ServerHoldsMore(end, thousand) || MemoryHasGrown(end, thousand));
+}

@@ -1,0 +1,22 @@
+// The fields as a panel: a program with a pattern, started like any other with the profile beside it.
+#include "bench/compare/Fields.h"
+#include "comndata/ComnData.h"
+#include "window/PtrnDisp.h"
+#include "window/Registry.h"
+
+CPtrnDisp* GetPtrnWnd(const char*)
+{
+    return new CPtrnDisp;
+}
+int UserInit()
+{
+    return 1;
+}
+void UserExit() {}
+
+void UserTimr()
+{
+    const int tick = NextTick();
+    for (int field = 0; field < fieldCount; field++)
+        Set_fData(DTNO_SYSTEM + field, FieldValue(tick, field), nullptr, 0);
+}
