@@ -3,10 +3,12 @@
 #include "comndata/ComnData.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "dialogs/PtrnMente.h"
 #include "shell/Startup.h"
 #include "tests/support/Screen.h"
 
 #include <gmock/gmock.h>
+#include <typeinfo>
 
 using testing::Contains;
 using testing::Each;
@@ -193,9 +195,12 @@ TEST_F(Requests, open_version_and_maintenance_windows_without_the_registry)
     ASSERT_TRUE(SystmWnd);
     EXPECT_STREQ(SystmWnd->PtrnName, "バージョン情報");
     EXPECT_EQ(SystmWnd->PtrnType, KIND_SYSTEM);
+    EXPECT_EQ(SystmWnd->ParentWnd, AppliWnd);
+    EXPECT_EQ(typeid(*SystmWnd), typeid(CPtrnDisp));
     PtrnDispMenteWnd();
     ASSERT_TRUE(SystmWnd);
     EXPECT_STREQ(SystmWnd->PtrnName, "メンテナンス");
+    EXPECT_EQ(typeid(*SystmWnd), typeid(CPtrnMente));
     EXPECT_EQ(SystemWnd, 1);
     EXPECT_TRUE(project.log().empty());
 }
@@ -207,6 +212,7 @@ TEST_F(Requests, close_the_system_window_when_the_version_pattern_is_missing)
     PtrnDispVersnWnd();
     EXPECT_EQ(SystmWnd, nullptr);
     EXPECT_EQ(SystemWnd, 0);
+    EXPECT_THAT(lifecycle(), ElementsAre("init", "exit"));
     EXPECT_TRUE(project.log().empty());
 }
 
@@ -264,7 +270,8 @@ TEST_F(Requests, take_the_windows_down_and_leave_the_main_loop_when_the_countdow
     PtrnDispSysWnd("second", nullptr, 0);
     ReqSystemStop(nullptr, 0); // without a notice the system window is gone now
     PtrnDispSysWnd("second", nullptr, 0);
-    calls.clear();
+    std::vector<std::string> exited;
+    hooks.exit = [&](CPtrnDisp& wnd) { exited.push_back(wnd.PtrnName); };
 
     // The main loop with its ticks, as the program runs them.
     const guint timer = gtk_timeout_add(100, Timer_Event, nullptr);
@@ -273,7 +280,16 @@ TEST_F(Requests, take_the_windows_down_and_leave_the_main_loop_when_the_countdow
     EXPECT_EQ(WaitTimer, 0);
     EXPECT_EQ(AppliWnd->Widget, nullptr);
     EXPECT_EQ(SystmWnd->Widget, nullptr);
-    EXPECT_THAT(lifecycle(), ElementsAre("exit", "exit"));
+    EXPECT_THAT(exited, ElementsAre("second", "first"));
+}
+
+TEST_F(Requests, never_end_a_negative_countdown)
+{
+    openTop("first");
+    WaitTimer = -1;
+    tick(3);
+    EXPECT_EQ(WaitTimer, -4);
+    EXPECT_TRUE(AppliWnd->Widget);
 }
 
 TEST_F(Requests, offer_keys_and_resets_to_both_window_trees)

@@ -47,3 +47,15 @@ TEST_F(ClockRepaint, a_repaint_within_the_same_second_shows_the_clock_again)
     user.settle();
     EXPECT_EQ(inked(), before);
 }
+
+TEST_F(ClockRepaint, a_tick_shows_a_second_that_was_not_shown_yet)
+{
+    CPtrnDisp* wnd = openTop("p");
+    CPaintDraw draw(wnd->Pixmap);
+    draw.DrawRect(0, 0, 400, 30, 0, 0, 2, 2);
+    g_object_unref(draw.gc);
+    wnd->PtrnData->PtrnCalnSec = -1;
+    tick();
+    EXPECT_GT(inked(), 0);
+    EXPECT_EQ(wnd->PtrnData->PtrnCalnSec, Get_iData(DTNO_SYSCALN + 6, nullptr, 0));
+}

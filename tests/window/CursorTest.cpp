@@ -72,6 +72,15 @@ TEST_F(MouseCursor, changes_at_the_next_tick_when_a_screen_class_stores_another_
     EXPECT_EQ(shown(), wanted(6));
 }
 
+TEST_F(MouseCursor, shows_a_number_that_the_timer_hook_stores_from_the_next_tick_on)
+{
+    hooks.timr = [](CPtrnDisp& wnd) { wnd.CursorType = 6; };
+    tick();
+    EXPECT_EQ(shown(), wanted(0));
+    tick();
+    EXPECT_EQ(shown(), wanted(6));
+}
+
 TEST_F(MouseCursor, keeps_the_picture_for_a_number_that_has_none)
 {
     AppliWnd->PtrnSetCursor(3, nullptr, 0);

@@ -2,6 +2,7 @@
 #include "tests/support/Screen.h"
 
 #include "comndata/ComnData.h"
+#include "comndata/ItemState.h"
 #include "shell/Request.h"
 #include "window/Buffer.h"
 
@@ -275,13 +276,38 @@ TEST_F(Painting, a_tick_does_nothing_for_a_window_that_was_not_painted_nor_for_i
     unopened.ChildWnd1 = nullptr;
 }
 
-TEST_F(Painting, a_tick_issues_the_item_due_for_repeat_after_the_display_hook)
+TEST_F(Painting, a_tick_blinks_before_it_draws_what_has_changed)
+{
+    CPtrnDisp* wnd = open(Pattern("p")
+                              .size(200, 100)
+                              .item(PTRN_FCHR, 10, 10, 50, 26)
+                              .parm(FIELD_WIDTH, 5)
+                              .parm(TEXT_BACKED, 1)
+                              .text("ABCDE")
+                              .code("D", 0));
+    const auto inked = [&] { return bufferPicture(wnd, 10, 10, 40, 16).count(color(TEXT_COLOR4)) > 0; };
+    const CPtrnData& data = *wnd->PtrnData;
+    for (int i = 0; i < FLIKER_ON + FLIKER_OFF; i++)
+        if (data.FlikerFlag != 1 || data.FlikerTimr != FLIKER_ON - 1)
+            tick();
+    hooks.timr = [](CPtrnDisp&) { Set_Flikr(100, 1, nullptr, 0); };
+    tick();
+    EXPECT_EQ(data.FlikerFlag, 0);
+    EXPECT_TRUE(inked()) << "it did not blink yet";
+    tick(FLIKER_OFF + FLIKER_ON);
+    EXPECT_FALSE(inked());
+    tick(FLIKER_OFF);
+    EXPECT_TRUE(inked());
+}
+
+TEST_F(Painting, a_tick_issues_the_item_due_for_repeat_between_the_display_hook_and_the_children)
 {
     open(Pattern("p").size(200, 100).item(PTRN_SPIN, 10, 10, 26, 42).code("D", 0).action(1));
     press(AppliWnd, 15, 15);
+    openChild(AppliWnd, 1, "p", 400, 300);
     tick(6);
     calls.clear();
     tick();
-    EXPECT_THAT(calls, ElementsAre("timr", "disp 1", "mesg 100"));
+    EXPECT_THAT(calls, ElementsAre("timr", "disp 1", "mesg 100", "timr", "disp 1"));
     release();
 }

@@ -145,9 +145,9 @@ TEST_P(ProgramWindows, edits_a_field_and_shows_the_value_in_the_other)
     user.waitFor([&] { return user.pixel(12, 102) != zero.at(2, 2); }, "the field in edit");
     // The cursor comes and goes by the program's own ticks.
     const auto cursor = [&] { return user.pixel(10 + 40, 108); };
-    const std::uint32_t hidden = cursor();
-    user.waitFor([&] { return cursor() != hidden; }, "the cursor");
-    user.waitFor([&] { return cursor() == hidden; }, "the cursor to blink");
+    user.waitFor([&] { return cursor() == color(HEDR_EDIT_COLOR); }, "the cursor");
+    user.waitFor([&] { return cursor() == color(HEDR_EDIT_BACK); }, "the cursor to blink");
+    user.waitFor([&] { return cursor() == color(HEDR_EDIT_COLOR); }, "the cursor to come back");
     user.type("42");
     user.key(XK_Return);
     user.waitFor([&] { return !same(showDigits(), zero); }, "the other field");
