@@ -62,7 +62,7 @@ class RunningGolden : public SampleProject
                       int line = __builtin_LINE())
     {
         pass(1);
-        expectGolden(user.picture(0, 0, DispSizeX, DispSizeY), "screen-" + name, file, line);
+        expectGolden(user.picture(0, 0, DispSizeX, DispSizeY), "running/" + name, file, line);
     }
 };
 
