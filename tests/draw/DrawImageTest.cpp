@@ -487,4 +487,11 @@ TEST_F(DrawBmap, of_absurd_size_draws_nothing)
     EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
 }
 
+TEST_F(DrawBmap, of_a_file_with_too_many_pixels_draws_nothing)
+{
+    project.write("Bitmap/huge.pbm", "P4\n10008 10000\n" + std::string(10008 / 8 * 10000, '\0'));
+    canvas->DrawBmap(0, 0, 12, 10, NONE, "huge.pbm");
+    EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
+}
+
 } // namespace
