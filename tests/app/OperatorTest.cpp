@@ -72,6 +72,24 @@ class Operator : public SampleProject
         user.click(button);
     }
 
+    /// Drags the window by its title, which follows the pointer.
+    void drag(int dx, int dy)
+    {
+        const ScreenWindow before = window;
+        user.move(before.x + before.width / 2, before.y + 10);
+        user.press();
+        for (const int step : {1, 2}) {
+            user.move(before.x + before.width / 2 + dx * step / 2, before.y + 10 + dy * step / 2);
+            ASSERT_TRUE(user.waitFor(
+                [&] {
+                    window = user.waitForWindow(before.title);
+                    return window.x == before.x + dx * step / 2 && window.y == before.y + dy * step / 2;
+                },
+                "the window to follow"));
+        }
+        user.release();
+    }
+
     Picture look(const RECT& place)
     {
         return user.picture(window.x + place.left, window.y + place.top, place.width, place.height);
@@ -167,6 +185,51 @@ TEST_F(Operator, opens_child_windows_from_the_popup_menu_and_closes_them)
     }
     clickOn(itemOf(104, PTRN_BUTN).Rect);
     show(popup);
+    clickOn(actionOf(ACTION_CLOSE_SELF));
+    showInstead(texts);
+}
+
+TEST_F(Operator, drags_a_child_window_that_blocks_its_parent_and_is_remembered)
+{
+    clickOn(actionOf(ACTION_OPEN_TOP, texts));
+    showInstead(texts);
+    const ScreenWindow parent = window;
+    const RECT child = itemOf(482, PTRN_BUTN).Rect;
+    const RECT radio = radioOf(106, 3);
+    const RECT sample = itemOf(101, PTRN_GBOX).Rect;
+    const Picture before = look(sample);
+
+    clickOn(child);
+    show("子ウィンドウ (1)");
+    const ScreenWindow opened = window;
+    drag(-60, 50);
+    user.clickAt(parent.x + radio.left + 3, parent.y + radio.top + 3);
+    clickOn(actionOf(ACTION_CLOSE_SELF));
+    showInstead(texts);
+    EXPECT_TRUE(same(look(sample), before)) << "the parent was blocked";
+
+    clickOn(child);
+    show("子ウィンドウ (1)");
+    EXPECT_EQ(window.x, opened.x - 60);
+    EXPECT_EQ(window.y, opened.y + 50);
+    clickOn(actionOf(ACTION_CLOSE_SELF));
+    showInstead(texts);
+    clickOn(radio);
+    waitChange(sample, before, "the parent to answer again");
+}
+
+TEST_F(Operator, opens_a_window_of_a_child_window)
+{
+    clickOn(actionOf(ACTION_OPEN_TOP, texts));
+    showInstead(texts);
+    clickOn(itemOf(484, PTRN_BUTN).Rect);
+    show("子ウィンドウ (3)");
+    clickOn(actionOf(ACTION_OPEN_CHILD1, "子ウィンドウ (1)"));
+    show("子ウィンドウ (1)");
+    EXPECT_EQ(user.windows().size(), 3u);
+    clickOn(actionOf(ACTION_CLOSE_SELF));
+    ASSERT_TRUE(user.waitFor([&] { return user.windows().size() == 2; }, "the inner window to close"));
+    show("子ウィンドウ (3)");
     clickOn(actionOf(ACTION_CLOSE_SELF));
     showInstead(texts);
 }

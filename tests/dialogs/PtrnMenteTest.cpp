@@ -207,6 +207,7 @@ TEST_F(Maintenance, leaves_no_remains_of_longer_texts_in_the_lines_it_disables)
         for (int line = 2; line < lines; line++)
             EXPECT_FALSE(hasInk(x, line)) << x << ", line " << line;
     EXPECT_TRUE(hasInk(wordX, 1));
+    EXPECT_EQ(pixel(SystmWnd, textX + 40, top + 5 * spacing + 8), color(TEXT_BACK4));
 
     clickLine(codeX, 0);
     tick();

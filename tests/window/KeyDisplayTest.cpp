@@ -99,6 +99,16 @@ TEST_F(KeyDisplay, a_cursor_that_moves_leaves_no_trace)
     EXPECT_TRUE(same(drawn(TEXT), expected));
 }
 
+TEST_F(KeyDisplay, a_cursor_that_can_not_move_goes_on_blinking)
+{
+    edit(TEXT);
+    tick(2);
+    key(XK_Left);
+    key(XK_Up);
+    EXPECT_EQ(AppliWnd->KeyInputFlag, 1);
+    EXPECT_EQ(blinking(5), "###..") << "as if there had been no key";
+}
+
 TEST_F(KeyDisplay, each_bit_of_the_mode_draws_its_own_part)
 {
     edit(TEXT);

@@ -226,6 +226,20 @@ TEST_F(KeyInput, a_value_beyond_its_limits_stays_in_edit_with_its_message)
     EXPECT_THAT(callsOf({"keyfunc"}), ElementsAre("keyfunc 65293 0 100"));
 }
 
+TEST_F(KeyInput, checking_stores_a_value_unless_it_is_given_up)
+{
+    open(fields("p"));
+    edit(NUMBER);
+    type("9");
+    for (const unsigned int given : {0u, unsigned{KEY_ESCAPE}}) {
+        EXPECT_EQ(AppliWnd->KeyInputCheck(static_cast<int>(given)), 1);
+        EXPECT_EQ(number(NUMBER), 0);
+    }
+    EXPECT_EQ(AppliWnd->KeyInputCheck(KEY_TAB), 1);
+    EXPECT_EQ(number(NUMBER), 9);
+    EXPECT_TRUE(editing()) << "checking alone ends nothing";
+}
+
 TEST_F(KeyInput, a_refused_value_can_be_given_up)
 {
     std::filesystem::create_directory("ProjPath");
