@@ -76,7 +76,22 @@ TEST_F(Mouse, the_hook_can_keep_an_event_from_the_items)
     EXPECT_THAT(effects(), IsEmpty());
     hooks.mouse = [](CPtrnDisp&, POINT, int, int) { return 2; };
     click(AppliWnd, 20, 50);
-    EXPECT_THAT(effects(), ElementsAre("mesg 100")) << "only 1 keeps it";
+    click(AppliWnd, 20, 50, 3);
+    EXPECT_THAT(effects(), ElementsAre("mesg 100", "rbtn 100")) << "only 1 keeps it";
+}
+
+TEST_F(Mouse, the_hook_can_keep_motion_from_a_held_control)
+{
+    open(panel("top"));
+    int answer = 1;
+    hooks.mouse = [&](CPtrnDisp&, POINT, int button, int) { return button == 0 ? answer : 0; };
+    press(AppliWnd, 15, 105);
+    moveTo(AppliWnd, 150, 150);
+    EXPECT_NE(AppliWnd->PtrnData->RepeatFlag, 0);
+    answer = 2;
+    moveTo(AppliWnd, 151, 150);
+    EXPECT_EQ(AppliWnd->PtrnData->RepeatFlag, 0) << "only 1 keeps it";
+    release();
 }
 
 TEST_F(Mouse, modifiers_are_one_value_with_shift_first)
@@ -172,6 +187,14 @@ TEST_F(Mouse, the_wheel_turns_scroll_bars_and_carries_out_their_action)
     click(AppliWnd, 150, 50, 4); // at the start already
     EXPECT_EQ(value(101), 0);
     EXPECT_THAT(callsOf({"mesg", "mouse"}), ElementsAre("mesg 101")) << "the hook is not asked";
+}
+
+TEST_F(Mouse, the_wheel_turns_what_a_scrolled_view_shows_under_the_pointer)
+{
+    open(panel("top"));
+    AppliWnd->PtrnSetOffset(0, 90, 30, nullptr, 0);
+    click(AppliWnd, 60, 20, 5);
+    EXPECT_EQ(value(101), 1);
 }
 
 TEST_F(Mouse, the_wheel_turns_spin_buttons)
@@ -326,7 +349,8 @@ TEST_F(Mouse, an_item_on_the_title_bar_is_operated_although_the_hook_would_keep_
     open(panel("top").header(HEDR_TITLE_HEIGHT, 30).item(PTRN_BUTN, 200, 5, 250, 25).code("D", 7).action(1));
     hooks.mouse = [](CPtrnDisp&, POINT, int, int) { return 1; };
     click(AppliWnd, 210, 10);
-    EXPECT_THAT(effects(), ElementsAre("mesg 107"));
+    click(AppliWnd, 210, 10, 3);
+    EXPECT_THAT(effects(), ElementsAre("mesg 107", "rbtn 107"));
 }
 
 TEST_F(Mouse, the_logo_opens_the_version_window_by_the_left_button_and_maintenance_by_the_right)
