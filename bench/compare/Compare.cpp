@@ -16,6 +16,7 @@
 #include <ctime>
 #include <map>
 #include <poll.h>
+#include <stdexcept>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -56,8 +57,13 @@ using Costs = std::map<std::string, std::vector<Cost>>;
 
 [[noreturn]] void Fail(const std::string& what)
 {
-    std::fprintf(stderr, "bench_compare: %s\n", what.c_str());
-    std::exit(1);
+    throw std::runtime_error(what);
+}
+
+/// The program of the comparison with that name, which lies beside this one.
+std::string ProgramFile(const std::string& name)
+{
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path() / ("compare_" + name);
 }
 
 /// Processor time of a process in seconds.
@@ -213,8 +219,7 @@ Cost Measure(const Watcher& screen, const std::string& name, const std::string& 
 {
     WaitPainted(screen, false);
     const auto start = Clock::now();
-    const Program program(std::filesystem::read_symlink("/proc/self/exe").parent_path() / ("compare_" + name),
-                          path);
+    const Program program(ProgramFile(name), path);
     WaitPainted(screen, true);
     Cost cost{};
     cost.start = Seconds(start);
@@ -296,15 +301,10 @@ bool PrintParts(const Costs& costs)
     return kept;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+/// @return costs of all programs that are there
+Costs Compare(int rounds, int ticks)
 {
-    const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 5, 1);
-    const int ticks = std::max(argc > 2 ? std::atoi(argv[2]) : 100, 1);
-    setenv("NO_AT_BRIDGE", "1", 1); // GTK 3 would look for a bus that is not there
     const Watcher screen;
-
     std::vector<POINT> places;
     for (int field = 0; field < fieldCount; field++)
         places.push_back({FieldLeft(field), FieldTop(field)});
@@ -313,16 +313,28 @@ int main(int argc, char** argv)
     const std::string panel = files.folder() + "/panel"; // its profile lies beside it
 
     Costs costs;
-    const auto folder = std::filesystem::read_symlink("/proc/self/exe").parent_path();
     for (int round = 0; round < rounds; round++)
         for (const char* name : {"bare", framework, "fltk", "gtk3", "qt"})
-            if (std::filesystem::exists(folder / (std::string("compare_") + name)))
+            if (std::filesystem::exists(ProgramFile(name)))
                 costs[name].push_back(Measure(screen, name, panel, ticks));
+    return costs;
+}
 
+} // namespace
+
+int main(int argc, char** argv)
+try {
+    const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 5, 1);
+    const int ticks = std::max(argc > 2 ? std::atoi(argv[2]) : 100, 1);
+    setenv("NO_AT_BRIDGE", "1", 1); // GTK 3 would look for a bus that is not there
+    const Costs costs = Compare(rounds, ticks);
     std::printf("%d numbers that change every %d ms; median of %d rounds of %d ticks\n", fieldCount,
                 tickMilliseconds, rounds, ticks);
     PrintCosts(costs);
     const bool kept = PrintParts(costs);
     std::printf("%s\n", kept ? "within the limits" : "MISSED: see the limits that are exceeded");
     return kept ? 0 : 1;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "bench_compare: %s\n", error.what());
+    return 1;
 }
