@@ -65,6 +65,22 @@ void CatchUp(CPtrnDisp* wnd, POINT pressed, int flags)
         wnd->MouseMove(pt, flags);
 }
 
+/// The server may have kept the last motion of a drag to itself; the release tells where it has ended.
+void DragToRelease(CPtrnDisp* wnd, const GdkEventButton& event)
+{
+    if (!IsDragging(wnd))
+        return;
+    POINT pt = PointOf(event.x, event.y);
+    if (wnd->MoveWnd == 1) {
+        pt = DragPoint(wnd, PointOf(event.x_root, event.y_root));
+        const RECT& rect = wnd->WindRect;
+        if (rect.left + wnd->Offset.x + pt.x == wnd->MovePoint.x &&
+            rect.top + wnd->Offset.y + pt.y == wnd->MovePoint.y)
+            return;
+    }
+    wnd->MouseMove(pt, Modifiers(event.state));
+}
+
 /// The keypad types what is printed on it. Its decimal key is left as it is: only the separator key types
 /// '.'. With Shift the server gives the tabulator another name; which way it goes is told by the flags.
 guint TranslateKey(guint key)
@@ -143,10 +159,12 @@ int Mouse_Release(GtkWidget*, GdkEventButton* event, CPtrnDisp* wnd)
     const HandlerScope scope;
     const POINT pt = PointOf(event->x, event->y);
     const int flags = Modifiers(event->state);
-    if (event->button == 1)
+    if (event->button == 1) {
+        DragToRelease(wnd, *event);
         wnd->LButtonUp(pt, flags);
-    else if (event->button == 3)
+    } else if (event->button == 3) {
         wnd->RButtonUp(pt, flags);
+    }
     return TRUE;
 }
 

@@ -202,6 +202,26 @@ TEST_F(Dragging, knows_of_motion_that_came_before_the_press_was_handled)
     release();
 }
 
+TEST_F(Dragging, ends_where_the_button_was_released)
+{
+    CPtrnDisp* wnd = open(draggable("p"));
+    take(wnd);
+    user.move(pointer.x + 20, pointer.y + 10);
+    user.move(pointer.x + 30, pointer.y + 15); // the server reports the first motion only
+    user.release();
+    user.settle();
+    expectAt(wnd, 430, 315);
+
+    moveTo(wnd, 150, 100);
+    user.move(430 + 140, 315 + 15);
+    user.press();
+    user.move(430 + 160, 315 + 25);
+    user.release();
+    user.settle();
+    expectAt(wnd, 450, 325);
+    EXPECT_EQ(wnd->MoveWnd, 0);
+}
+
 TEST_F(Dragging, does_not_follow_the_pointer_beyond_the_release)
 {
     CPtrnDisp* wnd = open(draggable("p"));
@@ -305,6 +325,18 @@ TEST_F(ThumbDragging, sets_the_value_and_carries_out_the_action_at_every_change)
     EXPECT_EQ(wnd->ScrollBar, 0);
     moveTo(wnd, 110, 150);
     EXPECT_EQ(value(), 0);
+}
+
+TEST_F(ThumbDragging, ends_where_the_button_was_released)
+{
+    CPtrnDisp* wnd = openBar();
+    press(wnd, 110, 40);
+    user.move(400 + 110, 300 + 60);
+    user.move(400 + 110, 300 + 40 + 67);
+    user.release();
+    user.settle();
+    EXPECT_EQ(value(), 50);
+    EXPECT_EQ(wnd->ScrollBar, 0);
 }
 
 TEST_F(ThumbDragging, ends_when_the_pointer_leaves_the_window)
