@@ -1,6 +1,7 @@
 // The back buffer, its copy to the screen, and the tick.
 #include "draw/Coord.h"
 #include "draw/Resource.h"
+#include "draw/ToolkitPtr.h"
 #include "pattern/ItemParm.h"
 #include "shell/LogText.h"
 #include "window/Buffer.h"
@@ -8,6 +9,22 @@
 #include "window/PtrnDisp.h"
 
 #include <algorithm>
+
+namespace
+{
+
+/// A cursor's picture. One that is sent to the server in one piece would be looked up in the cursor themes on
+/// disk, at every tick, and a theme might have another picture in its place; a copy drawn there is not.
+BitmapPtr DrawnBitmap(const char* bits)
+{
+    const BitmapPtr sent(gdk_bitmap_create_from_data(nullptr, bits, 32, 32));
+    BitmapPtr drawn(gdk_pixmap_new(sent.get(), 32, 32, 1));
+    const GcPtr gc(gdk_gc_new(drawn.get()));
+    gdk_draw_drawable(drawn.get(), gc.get(), sent.get(), 0, 0, 0, 0, 32, 32);
+    return drawn;
+}
+
+} // namespace
 
 void CPtrnDisp::PaintEvent()
 {
@@ -148,12 +165,10 @@ void CPtrnDisp::PtrnSetCursor(int type, const char* file, int line)
         static GdkCursor* cursor = nullptr;
         if (cursor)
             gdk_cursor_unref(cursor);
-        GdkBitmap* source = gdk_bitmap_create_from_data(nullptr, CursorData[type], 32, 32);
-        GdkBitmap* mask = gdk_bitmap_create_from_data(nullptr, CursorMask[type], 32, 32);
-        cursor = gdk_cursor_new_from_pixmap(source, mask, &CusrColr[0], &CusrColr[1], CursorHome[type].x,
-                                            CursorHome[type].y);
-        g_object_unref(source);
-        g_object_unref(mask);
+        const BitmapPtr source = DrawnBitmap(CursorData[type]);
+        const BitmapPtr mask(gdk_bitmap_create_from_data(nullptr, CursorMask[type], 32, 32));
+        cursor = gdk_cursor_new_from_pixmap(source.get(), mask.get(), &CusrColr[0], &CusrColr[1],
+                                            CursorHome[type].x, CursorHome[type].y);
         gdk_window_set_cursor(DrawArea->window, cursor);
     }
     if (file)

@@ -60,6 +60,14 @@ GtkWidget* NewArea(GtkWidget* top, RECT rect)
     return area;
 }
 
+/// A window that is being drawn on with cairo is not buffered by the toolkit, which would make a pixmap of
+/// the window's size for every expose, use it for nothing and free it again. Ends with the toolkit window.
+void KeepUnbuffered(GdkWindow* window)
+{
+    g_object_set_data_full(G_OBJECT(window), "tessary-unbuffered", gdk_cairo_create(window),
+                           [](gpointer context) { cairo_destroy(static_cast<cairo_t*>(context)); });
+}
+
 /// The system window lies over the application window, also over one that comes later.
 void KeepAbove(const CPtrnDisp& wnd, GtkWidget* parent)
 {
@@ -166,6 +174,7 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
         return;
     // No background: the server would clear each newly exposed part before the back buffer is copied.
     gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
+    KeepUnbuffered(area->window);
     gtk_widget_show(top);
     if (!open())
         return;
