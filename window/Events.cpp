@@ -65,10 +65,11 @@ void CatchUp(CPtrnDisp* wnd, POINT pressed, int flags)
         wnd->MouseMove(pt, flags);
 }
 
-/// The server may have kept the last motion of a drag to itself; the release tells where it has ended.
+/// The server may have kept the last motion of a drag to itself; its release tells where the drag has ended.
+/// An event without a time was made by the program, and there was no motion before it.
 void DragToRelease(CPtrnDisp* wnd, const GdkEventButton& event)
 {
-    if (!IsDragging(wnd))
+    if (!IsDragging(wnd) || event.time == GDK_CURRENT_TIME)
         return;
     POINT pt = PointOf(event.x, event.y);
     if (wnd->MoveWnd == 1) {

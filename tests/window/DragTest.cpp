@@ -242,6 +242,21 @@ TEST_F(Dragging, does_not_follow_the_pointer_beyond_the_release)
     expectAt(wnd, 420, 310);
 }
 
+TEST_F(Dragging, stays_where_it_is_at_a_release_that_the_program_makes)
+{
+    CPtrnDisp* wnd = open(draggable("p"));
+    take(wnd);
+    carry(20, 10);
+    GdkEventButton event{};
+    event.type = GDK_BUTTON_RELEASE;
+    event.window = wnd->DrawArea->window;
+    event.button = 1;
+    EXPECT_EQ(Mouse_Release(wnd->DrawArea, &event, wnd), TRUE);
+    expectAt(wnd, 420, 310);
+    EXPECT_EQ(wnd->MoveWnd, 0);
+    release();
+}
+
 TEST_F(Dragging, is_remembered_when_the_window_is_exited)
 {
     know(draggable("top"));
