@@ -2,6 +2,7 @@
 #include "pattern/ItemParm.h"
 #include "tests/ptn/Messages.h"
 #include "tests/support/PatternBuilder.h"
+#include "tests/support/Program.h"
 #include "tests/support/Project.h"
 
 #include <filesystem>
@@ -329,6 +330,14 @@ TEST_F(Check, of_a_damaged_file_says_so_and_goes_on)
     expectFinds("out/ProjPath/Haisenhyo: not a whole wiring table: it has not as many wires as it says. Get "
                 "an undamaged copy.\n",
                 "out/ProjPath");
+}
+
+TEST_F(Check, finds_nothing_in_the_sample_project)
+{
+    const std::string project = Program::sourceFolder() + "/project";
+    expectFinds("", project);
+    ASSERT_EQ(sources.run("build " + project + " out/ProjPath").status, 0);
+    expectFinds("", "out/ProjPath --registry " + Program::sourceFolder() + "/app/Registry.cpp");
 }
 
 TEST_F(Check, help_names_every_attribute_of_a_type)

@@ -258,6 +258,31 @@ TEST_F(Dump, needs_a_compiled_project_and_a_place_for_the_sources)
     EXPECT_EQ(dump.err, "file/new: Not a directory. Check the folder's rights and space.\n");
 }
 
+TEST_F(Dump, tells_what_its_sources_do_not_build)
+{
+    sources.base();
+    ASSERT_EQ(sources.build().status, 0);
+    writeFile(sources.output() + "/Letter", "from someone else");
+    writeFile(sources.output() + "/PtrnColr", sources.built("PtrnColr") + "tail");
+    PtnResult dump = sources.run("dump out/ProjPath -o new");
+    EXPECT_EQ(dump.status, 1);
+    EXPECT_THAT(dump.err,
+                HasSubstr(sources.output() + "/Letter: warning: the sources do not build this file. "
+                                             "Keep it if it is needed.\n"));
+    EXPECT_THAT(dump.err, HasSubstr(sources.output() + "/PtrnColr: warning: the sources build this file "
+                                                       "differently. Compare the two.\n"));
+    EXPECT_EQ(dump.out, "new: the sources build 2 files of out/ProjPath byte for byte.\n");
+
+    writeFile(sources.output() + "/PtrnCode", field("A+B", 22) + int32(1) + int32(1) + int32(0));
+    dump = sources.run("dump out/ProjPath -o newer");
+    EXPECT_EQ(dump.status, 1);
+    EXPECT_EQ(
+        dump.err,
+        "newer: warning: these sources need work before they build:\n"
+        "newer/codes.yaml:2: code 'A+B' could be taken for a cell. Write a name that is neither empty nor "
+        "a number and has no '+'.\n");
+}
+
 TEST_F(Dump, of_a_pattern_tells_when_its_source_can_not_be_written)
 {
     writeFile("p.ptn", Pattern("p").bytes());

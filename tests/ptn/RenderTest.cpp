@@ -164,6 +164,17 @@ TEST_F(Render, says_where_it_can_not_write)
               sources.root() + "/file/shots: Not a directory. Check the folder's rights and space.\n");
 }
 
+TEST_F(Render, says_that_a_display_can_not_be_opened)
+{
+    setenv("DISPLAY", "nowhere:7", 1);
+    EXPECT_EQ(sources.run("render src a").err,
+              "the display can not be opened. Correct $DISPLAY, or leave it unset.\n");
+    EXPECT_EQ(sources.run("watch src a").err,
+              "there is no display to show the screen on. Set DISPLAY, or use 'ptn render'.\n");
+    EXPECT_EQ(sources.run("watch src a").status, 1);
+    unsetenv("DISPLAY");
+}
+
 TEST_F(Render, says_what_to_install_where_there_is_no_display)
 {
     const std::string path = std::getenv("PATH");

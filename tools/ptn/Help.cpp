@@ -135,7 +135,8 @@ bool PrintAttributes(const std::string& type, std::ostream& out)
             PrintItem(*item, out);
         return item != nullptr;
     }
-    out << "Types of items (ptn help attributes TYPE):\n";
+    out << "An item: { type: TYPE, attribute: value, ... } or TYPE: { attribute: value, ... }\n\n"
+           "Types of items (ptn help attributes TYPE):\n";
     for (const ItemSchema& item : ItemSchemas())
         out << "  " << std::left << std::setw(16) << item.name << item.help << "\n";
     out << "  " << std::left << std::setw(16) << "window"
