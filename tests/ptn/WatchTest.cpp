@@ -9,9 +9,9 @@
 namespace
 {
 
-std::string ScreenWith(const std::string& color)
+std::string ScreenWith(const std::string& color, const std::string& name = "a")
 {
-    return "name: a\nwindow: { size: [200, 100], body-color: " + color + " }\n";
+    return "name: " + name + "\nwindow: { size: [200, 100], body-color: " + color + " }\n";
 }
 
 TEST(Watch, redraws_the_screen_when_it_is_saved_and_shows_errors_in_its_place)
@@ -28,6 +28,18 @@ TEST(Watch, redraws_the_screen_when_it_is_saved_and_shows_errors_in_its_place)
     EXPECT_TRUE(user.waitFor([&] { return !shown(0xFF8000); }, "the error in place of it")) << watch.output();
     sources.screen(ScreenWith("hot"));
     EXPECT_TRUE(user.waitFor([&] { return shown(0xFF8000); }, "the screen again")) << watch.output();
+}
+
+TEST(Watch, shows_the_screen_that_the_panel_starts_with_unless_another_is_named)
+{
+    useToolkit();
+    XDriver user;
+    Sources sources;
+    sources.base().screen(ScreenWith("black")).write("screens/b.yaml", ScreenWith("hot", "b"));
+    sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: b } }\n");
+    const Program watch("ptn", "ptn", {"watch", "src"});
+    EXPECT_TRUE(user.waitFor([&] { return user.screen().count(0xFF8000) >= 200 * 100; }, "the screen"))
+        << watch.output();
 }
 
 } // namespace

@@ -139,7 +139,8 @@ OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const
 
     const std::string before = ReadBytes(place / listName).value_or("");
     OutputReport report;
-    report.files = static_cast<int>(files.size() + seeds.size()) + 2; // and the list, and the profile
+    // And the lists, and the profile.
+    report.files = static_cast<int>(files.size() + seeds.size()) + (seedList.empty() ? 2 : 3);
     report.written = project.moveIn() + beside.moveIn();
     report.removed = RemoveOld(place, before, files);
     return report;
