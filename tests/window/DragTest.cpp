@@ -118,6 +118,18 @@ TEST_F(Dragging, needs_the_window_kind_1_and_no_ban)
     wnd = openTop("q");
     drag(wnd, 50, 50);
     expectAt(wnd, 400, 300);
+    wnd->MoveWindow1({150, 5}); // as a screen class may call it
+    EXPECT_EQ(wnd->MoveWnd, 0);
+}
+
+TEST_F(Dragging, leaves_a_place_alone_that_a_screen_class_stores_afterwards)
+{
+    CPtrnDisp* wnd = open(draggable("p"));
+    drag(wnd, 50, 50);
+    user.settle();
+    wnd->WindRect.left = 12;
+    tick();
+    EXPECT_EQ(wnd->WindRect.left, 12);
 }
 
 TEST_F(Dragging, does_not_start_below_the_title_bar)

@@ -406,9 +406,14 @@ TEST_F(Mouse, a_held_control_repeats_until_it_is_released)
     tick(2);
     EXPECT_EQ(value(101), 3);
     EXPECT_THAT(callsOf({"mesg"}), ElementsAre("mesg 101", "mesg 101", "mesg 101"));
+    moveTo(AppliWnd, 239, 50);
+    press(AppliWnd, 240, 50, 3);
+    release(3); // of the other button
+    tick(2);
+    EXPECT_EQ(value(101), 4);
     release();
     tick(10);
-    EXPECT_EQ(value(101), 3);
+    EXPECT_EQ(value(101), 4);
 }
 
 TEST_F(Mouse, a_held_control_stops_repeating_when_the_pointer_leaves_it)

@@ -262,6 +262,24 @@ TEST_F(View, redraws_texts_and_numbers_with_their_present_values)
     g_object_unref(draw.gc);
 }
 
+TEST_F(View, redraws_a_mark_in_place_of_the_one_before)
+{
+    open(Pattern("top")
+             .item(PTRN_MARK, 10, 10, 42, 42)
+             .code("D", 0)
+             .parm4(MARK_NUMBER4, CONT_MARK, CONT_MARK + 3, CONT_MARK, CONT_MARK));
+    const auto pixels = [&](int number) {
+        return bufferPicture(AppliWnd, 10, 10, 33, 33).count(color(number));
+    };
+    EXPECT_GT(pixels(MARK_COLOR4), 0);
+    Set_wData(100, 1, nullptr, 0);
+    CPaintDraw draw(AppliWnd->Pixmap);
+    AppliWnd->PtrnDispData(&draw, 100, PTRN_MARK);
+    EXPECT_EQ(pixels(MARK_COLOR4), 0);
+    EXPECT_GT(pixels(MARK_COLOR4 + 1), 0);
+    g_object_unref(draw.gc);
+}
+
 TEST_F(View, finds_the_item_under_a_point_of_the_pattern)
 {
     open(Pattern("top")
