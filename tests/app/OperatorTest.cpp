@@ -29,6 +29,7 @@ class Operator : public SampleProject
     void show(const std::string& name)
     {
         window = user.waitForWindow(name);
+        user.waitDrawn(window);
         pattern.emplace(name.c_str());
     }
     /// The same for a screen that takes the place of the one before.

@@ -336,6 +336,21 @@ ScreenWindow XDriver::waitForWindow(const std::string& title)
     return found;
 }
 
+void XDriver::waitDrawn(const ScreenWindow& window)
+{
+    constexpr std::uint32_t blot = 0xFE01FD;
+    {
+        const ErrorTrap trap(display_);
+        XGCValues values{};
+        values.foreground = blot;
+        values.subwindow_mode = IncludeInferiors;
+        GC gc = XCreateGC(display_, window.id, GCForeground | GCSubwindowMode, &values);
+        XFillRectangle(display_, window.id, gc, 0, 0, 1, 1);
+        XFreeGC(display_, gc);
+    }
+    waitFor([&] { return pixel(window.x, window.y) != blot; }, EucToUtf8(window.title) + " to be drawn");
+}
+
 void XDriver::requestClose(unsigned long window)
 {
     const ErrorTrap trap(display_);

@@ -71,6 +71,10 @@ class XDriver
     std::vector<ScreenWindow> windows();
     /// Waits for the window with that title, topmost first.
     ScreenWindow waitForWindow(const std::string& title);
+    /// Waits until a program's window, which may only just have come up, has been drawn from its first pixel
+    /// on. A program that draws at every tick is meant; before its first drawing a window shows what lay
+    /// below it.
+    void waitDrawn(const ScreenWindow& window);
     /// Asks a window to close, as a window manager does when its close button is pressed.
     void requestClose(unsigned long window);
     /// Has the window manager move a window, as when its user moves it by the manager's own means.
