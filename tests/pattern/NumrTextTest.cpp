@@ -90,6 +90,7 @@ TEST_F(NumericText, has_separators_that_take_the_place_of_digits)
     grouping();
 
     EXPECT_EQ(width(4).of(1234.0F), "1,4");
+    EXPECT_EQ(width(4).of(9876.0F), "9,6");
     EXPECT_EQ(width(7).of(1234567.0F), "1,4,7");
     EXPECT_EQ(width(6).of(1234.0F), "  1,4");
     EXPECT_EQ(width(9).of(1234567.0F), "  1,4,7");
