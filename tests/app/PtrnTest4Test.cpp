@@ -115,19 +115,22 @@ TEST_F(Trend, samples_lie_at_hundredths_of_the_frame_s_width_and_height)
         .save(project);
     start();
     openTop("テスト  （グラフ）");
-    tick(40 * ticksPerSample);
+    tick(95 * ticksPerSample);
     const Picture picture = shown();
     for (int series = 0; series < 4; series++) {
+        std::set<int> taken;
         std::set<int> rows;
         for (int value = lowest[series]; value < lowest[series] + 10; value++)
             rows.insert(high * value / 100);
-        for (int i = 0; i < 40; i++) {
+        for (int i = 0; i < 95; i++) {
             const int x = left + wide * i / 100;
             const auto hit = std::find_if(rows.begin(), rows.end(), [&](int row) {
                 return picture.at(x, top + row) == color(50 + series);
             });
-            EXPECT_NE(hit, rows.end()) << "series " << series << ", sample " << i;
+            ASSERT_NE(hit, rows.end()) << "series " << series << ", sample " << i;
+            taken.insert(*hit);
         }
+        EXPECT_EQ(taken, rows) << "all ten values of series " << series;
     }
 }
 

@@ -265,3 +265,26 @@ TEST_F(MouseScreen, other_messages_change_nothing)
     EXPECT_EQ(word(477), 0);
     EXPECT_EQ(word(472), 0);
 }
+
+// --- other code tables -----------------------------------------------------------------------------------
+
+namespace
+{
+
+class MouseCodes : public Screen
+{
+};
+
+} // namespace
+
+TEST_F(MouseCodes, clear_the_lamps_of_each_button_as_far_as_their_code_s_count_exceeds_their_number)
+{
+    project.code("LEFT", 476).code("RIGHT", 1095); // the left lamps end the first code
+    Pattern("テスト  （マウス操作）").save(project);
+    start();
+    for (int no = 471; no <= 482; no++)
+        Set_wData(no, 1, nullptr, 0);
+    openTop("テスト  （マウス操作）");
+    for (int no = 471; no <= 482; no++)
+        EXPECT_EQ(Get_wData(no, nullptr, 0), no == 471 || no == 476 ? 1 : 0) << no;
+}
