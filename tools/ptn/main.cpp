@@ -27,9 +27,7 @@ bool IsUnknownCommand(const CLI::App& app, const std::string& word)
     return true;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
     CLI::App app("Makes, checks, shows and takes apart the project of an operator panel.", "ptn");
     app.set_version_flag("--version", PTN_VERSION);
@@ -49,17 +47,24 @@ int main(int argc, char** argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& problem) {
         return app.exit(problem) == 0 ? 0 : EXIT_USAGE;
+    }
+    if (std::cout.flush())
+        return status;
+    std::cerr << "ptn: the output can not be written. Check where it goes.\n";
+    return EXIT_ERRORS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return Run(argc, argv);
     } catch (const std::filesystem::filesystem_error& problem) {
         std::cerr << problem.path1().string() << ": " << problem.code().message()
                   << ". Check the folder's rights and space.\n";
-        return EXIT_ERRORS;
     } catch (const std::exception& problem) {
         std::cerr << "ptn: " << problem.what() << "\n";
-        return EXIT_ERRORS;
     }
-    if (!std::cout.flush()) {
-        std::cerr << "ptn: the output can not be written. Check where it goes.\n";
-        return EXIT_ERRORS;
-    }
-    return status;
+    return EXIT_ERRORS;
 }
