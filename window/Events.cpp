@@ -128,7 +128,7 @@ int Expose_Event(GtkWidget*, GdkEventExpose*, CPtrnDisp* wnd)
 int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd)
 {
     // The toolkit adds an event of its own for a second and a third click; each real press counts once.
-    if (event->type != GDK_BUTTON_PRESS)
+    if (event->type == GDK_2BUTTON_PRESS || event->type == GDK_3BUTTON_PRESS)
         return TRUE;
 
     const HandlerScope scope;
