@@ -28,8 +28,7 @@ class Operator : public SampleProject
     /// Waits for a screen, which is the one that clicks go to from now on.
     void show(const std::string& name)
     {
-        window = user.waitForWindow(name);
-        user.waitDrawn(window);
+        window = user.waitForDrawn(name);
         pattern.emplace(name.c_str());
     }
     /// The same for a screen that takes the place of the one before.

@@ -22,6 +22,8 @@ namespace
 using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds patience(20);
 constexpr guint pollMilliseconds = 5;
+/// Of a pixel that is to be drawn over; no screen has it.
+constexpr std::uint32_t blotColor = 0xFE01FD;
 
 struct Release {
     void operator()(void* memory) const { XFree(memory); }
@@ -336,19 +338,26 @@ ScreenWindow XDriver::waitForWindow(const std::string& title)
     return found;
 }
 
-void XDriver::waitDrawn(const ScreenWindow& window)
+void XDriver::blot(const ScreenWindow& window)
 {
-    constexpr std::uint32_t blot = 0xFE01FD;
-    {
-        const ErrorTrap trap(display_);
-        XGCValues values{};
-        values.foreground = blot;
-        values.subwindow_mode = IncludeInferiors;
-        GC gc = XCreateGC(display_, window.id, GCForeground | GCSubwindowMode, &values);
-        XFillRectangle(display_, window.id, gc, 0, 0, 1, 1);
-        XFreeGC(display_, gc);
-    }
-    waitFor([&] { return pixel(window.x, window.y) != blot; }, EucToUtf8(window.title) + " to be drawn");
+    const ErrorTrap trap(display_);
+    XGCValues values{};
+    values.foreground = blotColor;
+    values.subwindow_mode = IncludeInferiors;
+    GC gc = XCreateGC(display_, DefaultRootWindow(display_), GCForeground | GCSubwindowMode, &values);
+    XFillRectangle(display_, window.id, gc, 0, 0, 1, 1);
+    XFreeGC(display_, gc);
+}
+
+ScreenWindow XDriver::waitForDrawn(const std::string& title)
+{
+    ScreenWindow window;
+    do {
+        window = waitForWindow(title);
+        blot(window);
+        waitFor([&] { return pixel(window.x, window.y) != blotColor; }, EucToUtf8(title) + " to be drawn");
+    } while (waitForWindow(title).id != window.id);
+    return window;
 }
 
 void XDriver::requestClose(unsigned long window)

@@ -71,16 +71,17 @@ class XDriver
     std::vector<ScreenWindow> windows();
     /// Waits for the window with that title, topmost first.
     ScreenWindow waitForWindow(const std::string& title);
-    /// Waits until a program's window, which may only just have come up, has been drawn from its first pixel
-    /// on. A program that draws at every tick is meant; before its first drawing a window shows what lay
-    /// below it.
-    void waitDrawn(const ScreenWindow& window);
+    /// The same until the window has been drawn by a program that draws at every tick: before, it shows what
+    /// lay below it. One that goes and comes again meanwhile, as when a system action runs twice, is waited
+    /// for again.
+    ScreenWindow waitForDrawn(const std::string& title);
     /// Asks a window to close, as a window manager does when its close button is pressed.
     void requestClose(unsigned long window);
     /// Has the window manager move a window, as when its user moves it by the manager's own means.
     void requestMove(unsigned long window, int x, int y);
 
   private:
+    void blot(const ScreenWindow& window);
     bool isPressed(unsigned button);
     void fakeKey(unsigned long symbol, bool down);
     _XDisplay* display_;
