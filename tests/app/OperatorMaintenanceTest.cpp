@@ -32,9 +32,6 @@ class OperatorMaintenance : public SampleProject
   protected:
     void SetUp() override
     {
-        SlctCode = 0;
-        LineNo1 = 0;
-        LineNo2 = 0;
         compile();
         start();
         openTop(menuName);

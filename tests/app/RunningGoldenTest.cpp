@@ -2,7 +2,6 @@
 // other, fields in edit. The time stands still; ticks come only when a test asks for them.
 #include "app/Cells.h"
 #include "comndata/ItemState.h"
-#include "dialogs/PtrnMente.h"
 #include "draw/Resource.h"
 #include "tests/app/SampleProject.h"
 #include "tests/support/Golden.h"
@@ -15,9 +14,6 @@ class RunningGolden : public SampleProject
   protected:
     void SetUp() override
     {
-        SlctCode = 0;
-        LineNo1 = 0;
-        LineNo2 = 0;
         compile();
         start();
         const int clock[] = {2026, 4, 6, 1, 9, 5, 7};

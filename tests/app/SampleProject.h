@@ -3,6 +3,7 @@
 #pragma once
 
 #include "comndata/ComnData.h"
+#include "dialogs/PtrnMente.h"
 #include "shell/Request.h"
 #include "tests/support/Program.h"
 #include "tests/support/Screen.h"
@@ -16,6 +17,14 @@ class SampleProject : public Screen
 {
   protected:
     static constexpr const char* menuName = "テスト  ［メニュー選択］";
+
+    /// The maintenance screen opens where it was left: at first, at the first code.
+    SampleProject()
+    {
+        SlctCode = 0;
+        LineNo1 = 0;
+        LineNo2 = 0;
+    }
 
     /// Compiles the project into the test's own folder, with a text language. The profile is the one that
     /// the build makes, but for the language and a log that is written at once.
