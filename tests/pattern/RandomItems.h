@@ -37,6 +37,6 @@ void addAnyItem(Pattern& pattern, int type, Random& random, int width, int heigh
 /// @return the changes that leave nothing of an older picture
 CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y);
 
-/// Makes what random items draw with: colours, both fonts, marks of random bits, and the bitmap files that they
-/// name.
+/// Makes what random items draw with: colours, both fonts, marks of random bits, and the bitmap files that
+/// they name.
 void useRandomArtwork(Project& project, unsigned seed);
