@@ -1,6 +1,7 @@
 #include "base/EucText.h"
 #include "pattern/ItemParm.h"
 #include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/Check.h"
 
 #include <algorithm>
@@ -8,11 +9,6 @@
 
 namespace
 {
-
-/// Types in the order in which a pass draws them.
-constexpr int drawOrder[] = {PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LINE,
-                             PTRN_BMAP, PTRN_MARK, PTRN_SBAR, PTRN_SPIN, PTRN_BUTN,
-                             PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR};
 
 // Whether what it shows decides how large it is.
 bool IsText(int type)
@@ -153,15 +149,12 @@ void Layout::checkRadios()
     }
 }
 
-// Its place in the order of drawing.
+// The place of an item of a known type in the order of drawing.
 std::size_t Layout::rank(std::size_t index) const
 {
     const PTRNFILE& record = pattern_.items[index].record;
-    const auto* type = std::find(std::begin(drawOrder), std::end(drawOrder), record.Type);
-    return (static_cast<std::size_t>(record.Parm[PARM_PASS] == 1) * std::size(drawOrder) +
-            static_cast<std::size_t>(type - std::begin(drawOrder))) *
-               pattern_.items.size() +
-           index;
+    const int drawn = (record.Parm[PARM_PASS] == 1 ? CONT_PTRN : 0) + ItemRank(record.Type);
+    return static_cast<std::size_t>(drawn) * pattern_.items.size() + index;
 }
 
 void Layout::checkHidden()
