@@ -2,7 +2,7 @@
 
 #include "config/FileCntl.h"
 #include "config/Settings.h"
-#include "shell/Logfile.h"
+#include "log/Logfile.h"
 
 #include <algorithm>
 #include <cstddef>

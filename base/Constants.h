@@ -56,10 +56,39 @@ constexpr int DTNO_MENTE = 20;   ///< 20..81: the maintenance screen
 constexpr int DTNO_SYSTEM = 100; ///< first number of the application
 
 // Display state of the items bound to a cell: the bits of the cell's word.
-constexpr int STATE_COLOR =
-    0x0003; ///< colour selection 0..3; bit 0 also locks buttons, radio buttons and check boxes
+constexpr int STATE_COLOR = 0x0003;   ///< colour selection 0..3
+constexpr int STATE_LOCKED = 0x0001;  ///< of the same two bits: locks buttons, radio buttons and check boxes
 constexpr int STATE_NEVER = 0x0800;   ///< never displayed; only in an item's cached copy
 constexpr int STATE_FROZEN = 0x1000;  ///< not redrawn by the tick, not hit; set while the field is in edit
 constexpr int STATE_FLICKER = 0x2000; ///< blinks
 constexpr int STATE_DISABLE = 0x4000; ///< drawn blanked; a click changes nothing
 constexpr int STATE_HIDDEN = 0x8000;  ///< erased, not hit
+
+/// What an operated item does, PTRNDATA::ID_Type.
+enum ActionCode {
+    ACTION_NONE = 0,
+    ACTION_MESSAGE_SELF = 1,
+    ACTION_MESSAGE_CHILD1 = 2,
+    ACTION_MESSAGE_CHILD2 = 3,
+    ACTION_MESSAGE_PARENT = 4,
+    ACTION_OPEN_CHILD1 = 5,
+    ACTION_OPEN_CHILD2 = 6,
+    ACTION_OPEN_SYSTEM = 7,
+    ACTION_OPEN_TOP = 8,
+    ACTION_CLOSE_SELF = 9,
+    ACTION_CLOSE_CHILD1 = 10,
+    ACTION_CLOSE_CHILD2 = 11,
+    ACTION_CLOSE_SYSTEM = 12,
+    ACTION_VERSION = 13,
+    ACTION_MAINTENANCE = 14,
+    ACTION_HARDCOPY = 15,
+    ACTION_STOP = 16,
+};
+
+/// What a press on an item asks of its window, the result of CPtrnData::LButtonDown.
+enum PressResult {
+    PRESS_NOTHING = 0,
+    PRESS_ACTION = 1,   ///< carry out the item's action
+    PRESS_KEYENTRY = 2, ///< start keyboard entry
+    PRESS_DRAG = 3,     ///< start dragging the thumb
+};

@@ -8,10 +8,10 @@
 // than after the first thousand ticks, or resident memory has grown by more than 1 % since.
 #include "bench/BenchProject.h"
 #include "bench/Holdings.h"
-#include "shell/Request.h"
 #include "shell/Startup.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
+#include "window/Request.h"
 
 #include <algorithm>
 #include <chrono>

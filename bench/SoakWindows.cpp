@@ -7,10 +7,10 @@
 // than after the first hundred, or resident memory has grown by more than 1 % since the first thousand.
 #include "bench/BenchProject.h"
 #include "bench/Holdings.h"
-#include "shell/Request.h"
 #include "shell/Startup.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
+#include "window/Request.h"
 
 #include <algorithm>
 #include <chrono>

@@ -4,7 +4,7 @@
 #include "comndata/LimtData.h"
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 #include <algorithm>
 #include <cmath>

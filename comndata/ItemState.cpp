@@ -3,7 +3,7 @@
 #include "base/Constants.h"
 #include "comndata/ComnData.h"
 #include "comndata/PtrnCode.h"
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 namespace
 {

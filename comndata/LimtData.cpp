@@ -6,7 +6,7 @@
 #include "comndata/PtrnCode.h"
 #include "comndata/TableFile.h"
 #include "config/Profile.h"
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 #include <algorithm>
 #include <cstring>

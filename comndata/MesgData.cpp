@@ -7,7 +7,7 @@
 #include "comndata/TableFile.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 #include <algorithm>
 #include <deque>

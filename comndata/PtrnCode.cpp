@@ -1,10 +1,11 @@
 #include "comndata/PtrnCode.h"
 
+#include "base/BuiltIn.h"
 #include "base/EucText.h"
 #include "comndata/ComnData.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -225,9 +226,9 @@ int ConvertPtrn(const char* pattern)
     for (std::int32_t i = 0; i < PtrnCount; i++)
         if (std::strcmp(PtrnName[i].name, pattern) == 0)
             return i;
-    if (std::strcmp(pattern, "バージョン情報") == 0)
+    if (std::strcmp(pattern, tessary::VERSION_PATTERN) == 0)
         return PtrnCount;
-    if (std::strcmp(pattern, "メンテナンス") == 0)
+    if (std::strcmp(pattern, tessary::MAINTENANCE_PATTERN) == 0)
         return PtrnCount + 1;
     return -1;
 }

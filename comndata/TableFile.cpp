@@ -1,6 +1,6 @@
 #include "comndata/TableFile.h"
 
-#include "shell/LogText.h"
+#include "log/LogText.h"
 
 bool TablePath(char (&path)[SIZE_PATH + 1], const char* name, const char* mesg1)
 {

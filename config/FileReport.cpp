@@ -2,7 +2,8 @@
 
 #include "base/Constants.h"
 #include "config/PathName.h"
-#include "shell/Logfile.h"
+
+FileReportSink FileSink;
 
 void FileReport::success(const FileEvent& event, const std::string& subject) const
 {
@@ -18,7 +19,9 @@ void FileReport::failure(const FileEvent& event, const std::string& subject) con
 
 void FileReport::write(const char* text, const std::string& subject) const
 {
+    if (!FileSink)
+        return;
     // The log keeps two bytes beyond the nominal size and cuts by bytes; cut here by characters.
     const std::string message = CutText(TextOf(text) + " [" + subject + "]", SIZE_LOGMESG2 + 2);
-    LogfileWrite("FILECNTL", message.c_str(), file_, line_);
+    FileSink("FILECNTL", message.c_str(), file_, line_);
 }

@@ -3,6 +3,13 @@
 
 #include <string>
 
+/// Where the lines go; null: nowhere. The log enters itself here while it is open.
+/// @param mesg1  category
+/// @param mesg2  message
+/// @param file   caller's source file, null for none
+using FileReportSink = void (*)(const char* mesg1, const char* mesg2, const char* file, int line);
+extern FileReportSink FileSink;
+
 /// The two texts of an operation; the log line is the text and the subject in brackets.
 struct FileEvent {
     const char* success;

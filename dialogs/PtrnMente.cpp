@@ -8,6 +8,7 @@
 #include "config/Settings.h"
 #include "window/FieldText.h"
 #include "window/KeyText.h"
+#include "window/MaintenanceWnd.h"
 
 #include <limits>
 #include <string>
@@ -223,4 +224,9 @@ void CPtrnMente::SetDispData2(int first)
     // What is being typed stays on top of a value that changes.
     if (KeyInputMode == 1)
         OR_wData(KeyInputPtrn.DataNo, STATE_FROZEN, nullptr, 0);
+}
+
+CPtrnDisp* tessary::NewMaintenanceWnd()
+{
+    return new CPtrnMente;
 }

@@ -1,5 +1,7 @@
 #include "draw/DrawBounds.h"
 
+#include "base/Limits.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,7 @@ namespace
 {
 
 // One less than the display's negative limit, so that an outline from end to end still has a 16-bit width.
-constexpr int COORD_MAX = 32767;
+constexpr int COORD_MAX = tessary::COORDINATE_MAX;
 constexpr int COORD_MIN = -COORD_MAX;
 
 int Bound(int coordinate)

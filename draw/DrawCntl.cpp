@@ -3,8 +3,8 @@
 
 #include "draw/DrawCheck.h"
 #include "draw/Resource.h"
-#include "shell/Logfile.h"
-#include "shell/LogText.h"
+#include "log/Logfile.h"
+#include "log/LogText.h"
 
 #include <cstdlib>
 

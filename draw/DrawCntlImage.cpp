@@ -1,11 +1,12 @@
 // Marks, bitmap files and built-in pictures. Every call makes its image anew, scales the part of it that can
 // be seen, and releases it.
+#include "base/Limits.h"
 #include "config/Settings.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"
 #include "draw/Resource.h"
 #include "draw/ToolkitPtr.h"
-#include "shell/Logfile.h"
+#include "log/Logfile.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -17,7 +18,7 @@ namespace
 {
 
 /// Longest edge of a scaled image, the end of the display's coordinates.
-constexpr std::int64_t EDGE_MAX = 32767;
+constexpr std::int64_t EDGE_MAX = tessary::COORDINATE_MAX;
 
 /// Most pixels of a bitmap file; a larger one counts as damaged.
 constexpr std::int64_t FILE_PIXELS_MAX = 100'000'000;

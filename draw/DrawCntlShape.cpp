@@ -1,6 +1,6 @@
 // Lines, rectangles, ellipses and bevelled boxes. Thick ones are built of lines one pixel wide, so that the
 // place of every pixel is known.
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/DrawBounds.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"

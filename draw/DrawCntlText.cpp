@@ -1,5 +1,5 @@
 // Texts and buttons.
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/DrawBounds.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"

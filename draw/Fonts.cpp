@@ -3,8 +3,8 @@
 #include "config/Settings.h"
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
-#include "shell/Logfile.h"
-#include "shell/LogText.h"
+#include "log/Logfile.h"
+#include "log/LogText.h"
 
 #include <cstring>
 #include <gdk/gdkx.h>

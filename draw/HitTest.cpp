@@ -1,6 +1,6 @@
 #include "draw/HitTest.h"
 
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/DrawCntl.h"
 
 #include <algorithm>

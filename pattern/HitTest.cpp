@@ -1,8 +1,8 @@
 // Which item lies under the pointer.
 #include "draw/HitTest.h"
 
+#include "base/Coord.h"
 #include "base/EucText.h"
-#include "draw/Coord.h"
 #include "draw/DrawCntl.h"
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"

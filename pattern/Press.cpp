@@ -13,8 +13,6 @@
 namespace
 {
 
-enum PressResult { PRESS_NOTHING = 0, PRESS_ACTION = 1, PRESS_KEYENTRY = 2, PRESS_DRAG = 3 };
-
 /// The item linked with another by its data number, 0 included: of the first type of which there is one,
 /// the first in the file.
 bool FindLinked(CPtrnData& data, int dataNo, std::initializer_list<int> types, PTRNDATA* linked)
@@ -33,8 +31,7 @@ bool OpensEntry(const PTRNDATA& field)
 /// What a usable push button, radio button or check box does.
 int Operate(const PTRNDATA& control)
 {
-    constexpr int locked = 0x0001;
-    if (control.wData & locked)
+    if (control.wData & STATE_LOCKED)
         return PRESS_NOTHING;
     if (control.Type == PTRN_RDIO)
         Set_iData(control.DataNo, control.Parm[RDIO_VALUE], nullptr, 0);

@@ -3,10 +3,10 @@
 #include "comndata/PtrnCode.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
+#include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnData.h"
 #include "pattern/PtrnHedr.h"
-#include "shell/LogText.h"
 
 #include <algorithm>
 #include <array>

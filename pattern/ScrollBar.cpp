@@ -1,7 +1,7 @@
 #include "pattern/ScrollBar.h"
 
+#include "base/Coord.h"
 #include "comndata/ComnData.h"
-#include "draw/Coord.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"

@@ -1,7 +1,7 @@
 #include "pattern/SpinButn.h"
 
+#include "base/Coord.h"
 #include "comndata/ComnData.h"
-#include "draw/Coord.h"
 #include "draw/HitTest.h"
 #include "pattern/ItemParm.h"
 

@@ -2,13 +2,14 @@
 // band and outer frame; all from the header parameters.
 #include "pattern/TitleBar.h"
 
-#include "draw/Coord.h"
+#include "base/Coord.h"
+#include "comndata/ClockCells.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"
+#include "log/Clock.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnData.h"
-#include "shell/Clock.h"
 
 #include <cstdio>
 #include <iterator>

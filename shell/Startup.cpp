@@ -7,12 +7,12 @@
 #include "config/Settings.h"
 #include "dialogs/MessageBox.h"
 #include "draw/Resource.h"
-#include "shell/Clock.h"
+#include "log/Clock.h"
+#include "log/Logfile.h"
 #include "shell/Locale.h"
-#include "shell/Logfile.h"
-#include "shell/Request.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <cstdio>

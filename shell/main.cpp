@@ -2,9 +2,9 @@
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "shell/Locale.h"
-#include "shell/Request.h"
 #include "shell/Startup.h"
 #include "window/Registry.h"
+#include "window/Request.h"
 
 #include <gtk/gtk.h>
 

@@ -1,9 +1,9 @@
 // Action codes, messages and closing.
 #include "comndata/PtrnCode.h"
-#include "shell/Logfile.h"
-#include "shell/LogText.h"
-#include "shell/Request.h"
+#include "log/Logfile.h"
+#include "log/LogText.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 namespace

@@ -1,13 +1,14 @@
 #include "window/Buffer.h"
 
-#include "shell/LogText.h"
+#include "base/Limits.h"
+#include "log/LogText.h"
 
 #include <algorithm>
 
 namespace
 {
 
-constexpr int kLongest = 32767;
+constexpr int kLongest = tessary::COORDINATE_MAX;
 constexpr int kLargest = 32 * 1024 * 1024;
 /// Smaller ones are not refused by any server that shows their window.
 constexpr int kDoubtful = 4 * 1024 * 1024;

@@ -1,5 +1,5 @@
 // Dragging a window by its title bar and a scroll bar by its thumb.
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/Resource.h"
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"

@@ -1,8 +1,8 @@
 // The toolkit's events turned into the window's calls.
-#include "shell/Request.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <gdk/gdkkeysyms.h>

@@ -1,12 +1,12 @@
 #include "window/InputMethod.h"
 
+#include "base/Coord.h"
 #include "base/EucText.h"
-#include "draw/Coord.h"
 #include "draw/DrawCntl.h"
+#include "log/LogText.h"
 #include "pattern/ItemParm.h"
-#include "shell/LogText.h"
-#include "shell/Request.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,10 +1,10 @@
 // What the pointer does in a pattern window. Every handler turns window coordinates into pattern coordinates
 // before anything else.
+#include "base/Coord.h"
 #include "comndata/MesgData.h"
-#include "draw/Coord.h"
 #include "pattern/ItemParm.h"
-#include "shell/Request.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 
 namespace
 {

@@ -1,9 +1,9 @@
 // The back buffer, its copy to the screen, and the tick.
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/Resource.h"
 #include "draw/ToolkitPtr.h"
+#include "log/LogText.h"
 #include "pattern/ItemParm.h"
-#include "shell/LogText.h"
 #include "window/Buffer.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"

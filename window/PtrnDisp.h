@@ -21,27 +21,6 @@ enum PtrnKind {
     KIND_SYSTEM = 3,
 };
 
-/// What an operated item does, PTRNDATA::ID_Type.
-enum ActionCode {
-    ACTION_NONE = 0,
-    ACTION_MESSAGE_SELF = 1,
-    ACTION_MESSAGE_CHILD1 = 2,
-    ACTION_MESSAGE_CHILD2 = 3,
-    ACTION_MESSAGE_PARENT = 4,
-    ACTION_OPEN_CHILD1 = 5,
-    ACTION_OPEN_CHILD2 = 6,
-    ACTION_OPEN_SYSTEM = 7,
-    ACTION_OPEN_TOP = 8,
-    ACTION_CLOSE_SELF = 9,
-    ACTION_CLOSE_CHILD1 = 10,
-    ACTION_CLOSE_CHILD2 = 11,
-    ACTION_CLOSE_SYSTEM = 12,
-    ACTION_VERSION = 13,
-    ACTION_MAINTENANCE = 14,
-    ACTION_HARDCOPY = 15,
-    ACTION_STOP = 16,
-};
-
 class CPtrnDisp
 {
   public:

@@ -1,7 +1,7 @@
 #include "window/Retire.h"
 
-#include "shell/Request.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 
 #include <algorithm>
 #include <utility>

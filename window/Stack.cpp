@@ -1,7 +1,7 @@
 // Child and popup windows.
 #include "draw/Resource.h"
+#include "log/LogText.h"
 #include "pattern/ItemParm.h"
-#include "shell/LogText.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
 #include "window/Retire.h"

@@ -1,9 +1,10 @@
 // The toolkit window of a pattern window.
 #include "base/EucText.h"
-#include "shell/Request.h"
+#include "base/Limits.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace
 {
 
 /// X knows no larger window, and no place beyond.
-constexpr int kLargest = 32767;
+constexpr int kLargest = tessary::COORDINATE_MAX;
 
 template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
 {

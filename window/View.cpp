@@ -5,9 +5,9 @@
 #include "comndata/PtrnCode.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
+#include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnHedr.h"
-#include "shell/LogText.h"
 #include "window/PtrnDisp.h"
 
 #include <cstring>

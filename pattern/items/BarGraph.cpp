@@ -1,6 +1,6 @@
 // Bar graph: a filled bar, or a needle, at the level of the item's value.
+#include "base/Coord.h"
 #include "comndata/LimtData.h"
-#include "draw/Coord.h"
 #include "draw/DrawCntl.h"
 #include "pattern/items/ItemDraw.h"
 

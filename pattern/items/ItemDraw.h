@@ -30,5 +30,5 @@ inline bool IsDisabled(const PTRNDATA* item)
 /// Buttons, radio buttons and check boxes change colour by the lock bit alone.
 inline bool IsLocked(const PTRNDATA* item)
 {
-    return (item->wData & 1) != 0;
+    return (item->wData & STATE_LOCKED) != 0;
 }

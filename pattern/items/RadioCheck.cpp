@@ -1,5 +1,5 @@
 // Radio button and check box: a square mark as high as the font's line, and a text right of it.
-#include "draw/Coord.h"
+#include "base/Coord.h"
 #include "draw/DrawCntl.h"
 #include "pattern/items/ItemDraw.h"
 

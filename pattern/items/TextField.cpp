@@ -1,6 +1,6 @@
 // Fixed text, variable text and numeric field.
+#include "base/Coord.h"
 #include "base/EucText.h"
-#include "draw/Coord.h"
 #include "draw/DrawCntl.h"
 #include "pattern/items/ItemDraw.h"
 

@@ -4,9 +4,9 @@
 
 #include "comndata/ComnData.h"
 #include "dialogs/PtrnMente.h"
-#include "shell/Request.h"
 #include "tests/support/Program.h"
 #include "tests/support/Screen.h"
+#include "window/Request.h"
 
 #include <X11/keysym.h>
 

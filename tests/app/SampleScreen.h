@@ -2,8 +2,8 @@
 #pragma once
 
 #include "comndata/ComnData.h"
-#include "shell/Request.h"
 #include "tests/support/Screen.h"
+#include "window/Request.h"
 
 #include <string>
 #include <X11/keysym.h>

@@ -1,7 +1,7 @@
 // A temporary folder with the log switched on, for the tests of the file helpers.
 #pragma once
 
-#include "shell/Logfile.h"
+#include "log/Logfile.h"
 #include "tests/support/Project.h"
 
 #include <filesystem>

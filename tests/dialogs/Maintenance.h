@@ -4,8 +4,8 @@
 #include "comndata/ComnData.h"
 #include "comndata/PtrnCode.h"
 #include "dialogs/PtrnMente.h"
-#include "shell/Request.h"
 #include "tests/support/Screen.h"
+#include "window/Request.h"
 
 #include <X11/keysym.h>
 

@@ -1,7 +1,7 @@
 // A panel that ends because a drawing contract was broken leaves the reason in its log.
 #include "base/Constants.h"
 #include "draw/DrawCntl.h"
-#include "shell/Logfile.h"
+#include "log/Logfile.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/Project.h"
 

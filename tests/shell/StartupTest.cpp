@@ -3,8 +3,8 @@
 
 #include "comndata/ComnData.h"
 #include "config/Settings.h"
-#include "shell/Clock.h"
-#include "shell/Logfile.h"
+#include "log/Clock.h"
+#include "log/Logfile.h"
 #include "tests/support/Screen.h"
 
 #include <filesystem>

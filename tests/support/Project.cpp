@@ -3,7 +3,7 @@
 #include "base/EucText.h"
 #include "comndata/ComnData.h"
 #include "config/Settings.h"
-#include "shell/Logfile.h"
+#include "log/Logfile.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #include "tests/support/Screen.h"
 
 #include "draw/Resource.h"
-#include "shell/Request.h"
 #include "shell/Startup.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <algorithm>

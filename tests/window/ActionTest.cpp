@@ -1,7 +1,7 @@
 // The action codes of items, carried out by real clicks.
 #include "tests/support/Screen.h"
 
-#include "shell/Request.h"
+#include "window/Request.h"
 
 #include <gmock/gmock.h>
 

@@ -3,7 +3,7 @@
 #include "tests/support/XProbe.h"
 
 #include "draw/Resource.h"
-#include "shell/Request.h"
+#include "window/Request.h"
 
 #include <gmock/gmock.h>
 

@@ -2,7 +2,7 @@
 #include "tests/support/Screen.h"
 
 #include "comndata/ComnData.h"
-#include "shell/Request.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <gmock/gmock.h>

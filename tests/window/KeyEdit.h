@@ -2,10 +2,10 @@
 #pragma once
 
 #include "comndata/ComnData.h"
-#include "shell/Request.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/Screen.h"
 #include "window/KeyText.h"
+#include "window/Request.h"
 
 #include <gdk/gdkkeysyms.h>
 #include <X11/keysym.h>

@@ -3,7 +3,7 @@
 
 #include "comndata/ComnData.h"
 #include "comndata/MesgData.h"
-#include "shell/Request.h"
+#include "window/Request.h"
 
 #include <gmock/gmock.h>
 #include <X11/keysym.h>

@@ -3,8 +3,8 @@
 
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
-#include "shell/Request.h"
 #include "window/Buffer.h"
+#include "window/Request.h"
 
 #include <gmock/gmock.h>
 

@@ -5,8 +5,8 @@
 #include "tests/support/Screen.h"
 
 #include "comndata/ComnData.h"
-#include "shell/Request.h"
 #include "window/KeyText.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <algorithm>

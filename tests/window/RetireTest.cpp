@@ -1,8 +1,8 @@
 // The life of window objects: how long they stay after their windows have gone, and what refers to them.
 #include "tests/support/Screen.h"
 
-#include "shell/Request.h"
 #include "shell/Startup.h"
+#include "window/Request.h"
 #include "window/Retire.h"
 
 #include <gmock/gmock.h>

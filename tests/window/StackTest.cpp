@@ -2,7 +2,7 @@
 #include "tests/support/Screen.h"
 
 #include "comndata/ComnData.h"
-#include "shell/Request.h"
+#include "window/Request.h"
 
 #include <gmock/gmock.h>
 

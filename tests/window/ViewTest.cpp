@@ -3,7 +3,7 @@
 
 #include "comndata/ComnData.h"
 #include "config/Settings.h"
-#include "shell/Request.h"
+#include "window/Request.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>

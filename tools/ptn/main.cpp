@@ -1,6 +1,6 @@
 // ptn: the authoring tool. Its messages are UTF-8; the texts of this program itself are plain ASCII.
-#include "tools/ptn/Commands.h"
-#include "tools/ptn/Diagnostics.h"
+#include "tools/ptn/commands/Commands.h"
+#include "tools/ptn/common/Diagnostics.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
@@ -8,6 +8,8 @@
 
 namespace
 {
+
+using namespace ptn;
 
 /// Something could not be read or written.
 constexpr int EXIT_ERRORS = 1;

@@ -1,0 +1,23 @@
+// Limits that several modules and the authoring tool share.
+#pragma once
+
+namespace tessary
+{
+
+/// Coordinates of the X protocol are 16 bits wide: no item, window or back buffer reaches further.
+constexpr int COORDINATE_MIN = -32768;
+constexpr int COORDINATE_MAX = 32767;
+
+/// Thickest line, outline, frame or edge that a drawing primitive accepts, in pixels.
+constexpr int LINE_WIDTH_MAX = 98;
+
+/// Longest field of a profile key in bytes, and of a whole text without its terminator.
+constexpr int PROFILE_FIELD_MAX = 99;
+
+/// Buffers for the text of a cell or of a number, terminator included.
+constexpr int TEXT_BUFFER = 256;
+
+/// Languages that a text may be given in.
+constexpr int LANGUAGE_COUNT = 3;
+
+} // namespace tessary

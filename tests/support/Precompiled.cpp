@@ -1,0 +1,1 @@
+// Nothing of its own: the precompiled headers of the tests are made with this source.

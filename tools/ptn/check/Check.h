@@ -1,0 +1,38 @@
+// "ptn check": what a screen author gets wrong although it can be built.
+#pragma once
+
+#include "tools/ptn/common/Diagnostics.h"
+#include "tools/ptn/compiled/Compiled.h"
+
+#include <filesystem>
+#include <string>
+
+namespace ptn
+{
+
+/// Checks a folder of sources or a compiled project.
+/// @param registry  C++ source, or folder of sources, of the program that knows the patterns; empty when the
+///                  project's own section "registry" is to tell
+/// @return number of patterns that were looked at
+int Check(const std::filesystem::path& folder, const std::string& registry, Diagnostics& diagnostics);
+
+// --- the parts of it -------------------------------------------------------------------------------------
+
+/// How messages call an item: "button at 16,64", in compiled patterns with its number.
+std::string ItemName(const PatternItem& item, std::size_t index);
+
+/// What an item covers when it is drawn, in all its languages.
+RECT DrawnRect(const PatternItem& item, const ProjectSource& project);
+
+/// Each item for itself: values, texts, cell, bitmap, font.
+void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
+/// Only what would end the panel when it draws the pattern.
+void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
+/// Items of a screen beside each other: places, frames, radio groups, what lies below what.
+void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
+/// Screens beside each other: what opens what, and what the program knows.
+/// @param whole  the place of what is nowhere in particular
+void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project, const Place& whole,
+                  Diagnostics& diagnostics);
+
+} // namespace ptn

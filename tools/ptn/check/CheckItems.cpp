@@ -1,0 +1,290 @@
+#include "base/EucText.h"
+#include "pattern/ItemParm.h"
+#include "pattern/ItemSchema.h"
+#include "tools/ptn/check/Check.h"
+#include "tools/ptn/common/EucName.h"
+#include "tools/ptn/source/Placement.h"
+
+#include <algorithm>
+
+namespace ptn
+{
+
+namespace
+{
+
+// What the drawing primitives refuse, which ends the program.
+bool EndsProgram(const ParmSchema& parm)
+{
+    constexpr int widest = 98;
+    switch (parm.kind) {
+    case ParmKind::Color:
+    case ParmKind::OptionalColor:
+    case ParmKind::Font:
+    case ParmKind::Mark:
+        return true;
+    case ParmKind::Pixels:
+        return parm.maximum == widest;
+    case ParmKind::Choice:
+        return std::string(parm.name) == "dash";
+    default:
+        return false;
+    }
+}
+
+bool IsValid(const ParmSchema& parm, int value)
+{
+    if (parm.kind == ParmKind::Bits)
+        return (value & ~parm.maximum) == 0;
+    return value >= parm.minimum && value <= parm.maximum;
+}
+
+class Checker
+{
+  public:
+    Checker(const Place& place, std::string label, const ProjectSource& project, Diagnostics& diagnostics)
+        : place_(place), label_(std::move(label)), project_(project), diagnostics_(diagnostics)
+    {
+    }
+
+    void say(const std::string& what) { diagnostics_.error(place_, label_ + ": " + what); }
+
+    void values(SchemaTable<ParmSchema> parms, const std::int32_t* values, bool onlyFatal = false)
+    {
+        for (const ParmSchema& parm : parms) {
+            const bool used = parm.enable < 0 || values[parm.enable] != 0;
+            if ((onlyFatal && !EndsProgram(parm)) || !used || parm.index == PARM_PASS ||
+                std::string(parm.name) == "last-mark")
+                continue;
+            for (int i = parm.index; i < parm.index + parm.count; ++i) {
+                if (IsValid(parm, values[i]))
+                    continue;
+                say(Quoted(parm.name) + " is " + std::to_string(values[i]) + ", outside " +
+                    std::to_string(parm.minimum) + " to " + std::to_string(parm.maximum) +
+                    (EndsProgram(parm) ? ", which ends the panel when it is drawn" : "") + ". Correct it.");
+                break;
+            }
+        }
+    }
+
+    void font(int number)
+    {
+        if (number < 0 || number >= CONT_FONT)
+            return;
+        const std::array<std::string, 3>& names = project_.resources.fontNames(number);
+        for (std::size_t language = 0; language < names.size(); ++language)
+            if (names.at(language).empty() && shown(language))
+                say("its font, number " + std::to_string(number) + ", has no name in language " +
+                    std::to_string(language) + ", so no text is drawn. Name it in 'fonts'.");
+    }
+
+    void text(const std::string& text, std::size_t limit, const char* what)
+    {
+        if (text.size() > limit)
+            say(std::string(what) + " has " + std::to_string(text.size()) + " bytes; the panel keeps " +
+                std::to_string(limit) + ". Shorten it.");
+        Diagnostics found;
+        if (!ToEuc(EucToUtf8(text), text.size(), "", {}, found) || Utf8ToEuc(EucToUtf8(text)) != text)
+            say(std::string(what) + " has bytes that are no EUC-JP. Write it anew.");
+        else
+            drawable(text, what);
+    }
+
+    void bitmap(const std::string& name, const char* what)
+    {
+        if (!name.empty() && !project_.bitmaps.count(name))
+            say(std::string(what) + " '" + EucToUtf8(name) +
+                "' is not among the bitmaps, so nothing is drawn. Put the file there or correct the name.");
+    }
+
+    void cell(const PatternItem& item)
+    {
+        if (item.code.empty())
+            return;
+        const CodeTable::Row* row = project_.codes.row(item.code);
+        if (!row)
+            say("no code " + Quoted(EucToUtf8(item.code)) +
+                ", so it is bound to nothing. Add it to 'codes' or "
+                "use another.");
+        else if (item.record.ID_No < 0 || item.record.ID_No >= row->count)
+            say("code " + Quoted(row->name) + " has " + std::to_string(row->count) +
+                " cells, so there is no " + (item.record.ID_No < 0 ? "" : "+") +
+                std::to_string(item.record.ID_No) + ". Correct the offset or extend the code.");
+    }
+
+  private:
+    // Whether the program can be set to a language: it is, or some font has a name in it.
+    bool shown(std::size_t language) const
+    {
+        const std::string set = project_.profile.value("FONT", "LANGUAGE");
+        bool any = set == std::to_string(language);
+        for (int font = 0; font < CONT_FONT; ++font)
+            any = any || !project_.resources.fontNames(font).at(language).empty();
+        return any;
+    }
+
+    // Characters of three bytes are in no font of a panel, which shows two others in their place.
+    void drawable(const std::string& text, const char* what)
+    {
+        constexpr char threeBytes = '\x8F';
+        const std::size_t at = text.find(threeBytes);
+        if (at != std::string::npos)
+            say(std::string(what) + " has " + Quoted(EucToUtf8(text.substr(at, 3))) +
+                ", which the fonts of a panel lack. Use another character.");
+    }
+
+    Place place_;
+    std::string label_;
+    const ProjectSource& project_;
+    Diagnostics& diagnostics_;
+};
+
+void CheckRoom(const PatternItem& item, Checker& checker)
+{
+    if (!Placement::fits(item))
+        checker.say("is too small for its frame and needle, which ends the panel when it is drawn. Make it "
+                    "larger.");
+}
+
+// No number with decimals is shorter than "0.00".
+void CheckDecimals(const PatternItem& item, Checker& checker)
+{
+    const std::int32_t* parm = item.record.Parm;
+    const int decimals = parm[FIELD_DECIMALS];
+    const long long needed = decimals + 2LL;
+    if (item.record.Type == PTRN_NUMR && !parm[FIELD_HEX] && decimals > 0 && parm[FIELD_WIDTH] < needed)
+        checker.say("its field has " + std::to_string(parm[FIELD_WIDTH]) + " characters; a number with " +
+                    std::to_string(decimals) + " decimals needs " + std::to_string(needed) +
+                    " or more. Make 'width' larger.");
+}
+
+// What the parameters of single types may not be.
+void CheckType(const PatternItem& item, Checker& checker)
+{
+    const std::int32_t* parm = item.record.Parm;
+    switch (item.record.Type) {
+    case PTRN_SBAR:
+        if (parm[SBAR_TOTAL] == parm[SBAR_VISIBLE] || parm[SBAR_TOTAL] == 0)
+            checker.say("'total' is " + std::to_string(parm[SBAR_TOTAL]) + " and 'visible' " +
+                        std::to_string(parm[SBAR_VISIBLE]) +
+                        ", by which the thumb's place would be divided by zero. Make 'total' larger.");
+        break;
+    case PTRN_BARG:
+        if (parm[BARG_MINIMUM] >= parm[BARG_MAXIMUM] && (parm[BARG_MINIMUM] || parm[BARG_MAXIMUM]))
+            checker.say("'minimum' is not below 'maximum', so the bar stays empty. Exchange them.");
+        break;
+    case PTRN_SPIN:
+        if (parm[SPIN_MINIMUM] > parm[SPIN_MAXIMUM])
+            checker.say("'minimum' is above 'maximum', so the value jumps between them. Exchange them.");
+        break;
+    case PTRN_FCHR:
+        if (parm[FIELD_WIDTH] > 0 && Placement::longestText(item) > parm[FIELD_WIDTH])
+            checker.say("its text has " + std::to_string(Placement::longestText(item)) +
+                        " half-width characters and its field " + std::to_string(parm[FIELD_WIDTH]) +
+                        ". Shorten it, or make 'width' larger.");
+        break;
+    case PTRN_CHAR:
+    case PTRN_NUMR:
+        if (parm[FIELD_KEYENTRY] == 1 && item.code.empty())
+            checker.say("'entry' has nowhere to store what is typed. Name a cell with 'data'.");
+        CheckDecimals(item, checker);
+        break;
+    default:
+        break;
+    }
+}
+
+int FontOf(const PatternItem& item)
+{
+    switch (item.record.Type) {
+    case PTRN_FCHR:
+    case PTRN_CHAR:
+    case PTRN_NUMR:
+    case PTRN_BUTN:
+    case PTRN_RDIO:
+    case PTRN_CHCK:
+        static_assert(TEXT_FONT == BUTN_FONT && TEXT_FONT == CHECK_FONT);
+        return item.record.Parm[TEXT_FONT];
+    default:
+        return -1;
+    }
+}
+
+template <std::size_t N> std::string FieldOf(const char (&field)[N])
+{
+    return std::string(field, BoundedLength(field, N));
+}
+
+} // namespace
+
+void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
+{
+    Checker window(pattern.place, "the window", project, diagnostics);
+    window.values(HeaderParms(), pattern.header.Parm1, true);
+    for (std::size_t i = 0; i < pattern.items.size(); ++i) {
+        const PatternItem& item = pattern.items[i];
+        Checker checker(item.place, ItemName(item, i), project, diagnostics);
+        const ItemSchema* schema = FindItemSchema(item.record.Type);
+        if (!schema)
+            continue;
+        checker.values(schema->parms, item.record.Parm, true);
+        checker.values(CommonParms(), item.record.Parm, true);
+        CheckRoom(item, checker);
+    }
+}
+
+void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
+{
+    Checker window(pattern.place, "the window", project, diagnostics);
+    const HEDRFILE& header = pattern.header;
+    window.values(HeaderParms(), header.Parm1);
+    if (header.Parm1[HEDR_TITLE_HEIGHT]) {
+        window.font(header.Parm1[HEDR_TITLE_FONT]);
+        if (header.Parm1[HEDR_CLOCK])
+            window.font(header.Parm1[HEDR_CLOCK_FONT]);
+    }
+    window.text(FieldOf(header.PtrnName1), SIZE_PTRNNAME, "its title");
+    window.text(FieldOf(header.PtrnName2), SIZE_PTRNNAME, "its title");
+    window.text(FieldOf(header.PtrnName3), SIZE_PTRNNAME, "its title");
+    if (header.Parm1[HEDR_LOGO])
+        window.bitmap(FieldOf(header.LogoName), "its logo");
+    window.bitmap(FieldOf(header.BmapName), "its background");
+
+    for (std::size_t i = 0; i < pattern.items.size(); ++i) {
+        const PatternItem& item = pattern.items[i];
+        Checker checker(item.place, ItemName(item, i), project, diagnostics);
+        const ItemSchema* schema = FindItemSchema(item.record.Type);
+        if (!schema) {
+            checker.say("no such type, so nothing is drawn. Use a type from 1 to 15.");
+            continue;
+        }
+        checker.values(schema->parms, item.record.Parm);
+        checker.values(CommonParms(), item.record.Parm);
+        const int pass = item.record.Parm[PARM_PASS];
+        if (pass != 0 && pass != 1)
+            checker.say("'pass' is " + std::to_string(pass) +
+                        ", in which nothing is ever drawn. Write 'back' or 'front'.");
+        for (const std::string& text : item.texts)
+            checker.text(text, SIZE_PTRNTEXT, "its text");
+        checker.text(item.name, SIZE_ID_NAME, "the name of its pattern");
+        checker.text(item.code, SIZE_ID_CODE, "its code");
+        checker.cell(item);
+        if (schema->text == ItemText::BitmapName)
+            for (const std::string& text : item.texts)
+                checker.bitmap(text, "its bitmap");
+        if (FontOf(item) >= 0)
+            checker.font(FontOf(item));
+        const ActionSchema* action = FindAction(item.record.ID_Type);
+        if (!item.name.empty() && !(action && action->opens))
+            checker.say("names the screen " + Quoted(EucToUtf8(item.name)) +
+                        ", but its action opens none. Write an action such as open-application, or remove "
+                        "'pattern'.");
+        if (!action)
+            checker.say("action " + std::to_string(item.record.ID_Type) +
+                        " does nothing. Use one from 0 to 16.");
+        CheckRoom(item, checker);
+        CheckType(item, checker);
+    }
+}
+
+} // namespace ptn

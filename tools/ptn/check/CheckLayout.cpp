@@ -1,0 +1,195 @@
+#include "base/EucText.h"
+#include "pattern/ItemParm.h"
+#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
+#include "tools/ptn/check/Check.h"
+
+#include <algorithm>
+#include <map>
+
+namespace ptn
+{
+
+namespace
+{
+
+// Whether what it shows decides how large it is.
+bool IsText(int type)
+{
+    return type == PTRN_FCHR || type == PTRN_CHAR || type == PTRN_NUMR || type == PTRN_RDIO ||
+           type == PTRN_CHCK;
+}
+
+bool Contains(const RECT& outer, const RECT& inner)
+{
+    return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
+           inner.bottom <= outer.bottom;
+}
+
+// Paints every pixel of its rectangle, in each of its states.
+bool IsOpaque(const PatternItem& item)
+{
+    const std::int32_t* parm = item.record.Parm;
+    switch (item.record.Type) {
+    case PTRN_GBOX:
+    case PTRN_BARG:
+    case PTRN_BUTN:
+    case PTRN_SPIN:
+        return true;
+    case PTRN_RECT:
+        return parm[SHAPE_FILLED] &&
+               std::none_of(parm + SHAPE_FILL4, parm + SHAPE_FILL4 + 4, [](int color) { return color < 0; });
+    case PTRN_BMAP:
+        return parm[BMAP_KEYED] == 0 && !item.texts[0].empty();
+    case PTRN_MARK:
+        return parm[MARK_BACKED] != 0;
+    default:
+        return false;
+    }
+}
+
+class Layout
+{
+  public:
+    Layout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
+        : pattern_(pattern), diagnostics_(diagnostics)
+    {
+        for (const PatternItem& item : pattern.items)
+            rects_.push_back(DrawnRect(item, project));
+        project_ = &project;
+    }
+
+    void checkPlaces();
+    void checkFrames();
+    void checkRadios();
+    void checkHidden();
+
+  private:
+    void say(std::size_t index, const std::string& what)
+    {
+        const PatternItem& item = pattern_.items[index];
+        diagnostics_.error(item.place, ItemName(item, index) + ": " + what);
+    }
+    std::size_t rank(std::size_t index) const;
+
+    const Pattern& pattern_;
+    const ProjectSource* project_;
+    Diagnostics& diagnostics_;
+    std::vector<RECT> rects_;
+};
+
+void Layout::checkPlaces()
+{
+    const std::int32_t* window = pattern_.header.Parm1;
+    const int title = window[HEDR_TITLE_HEIGHT];
+    const std::string size =
+        std::to_string(window[HEDR_WIDTH]) + " x " + std::to_string(window[HEDR_HEIGHT]) + " pixels";
+    for (std::size_t i = 0; i < rects_.size(); ++i) {
+        const RECT& rect = rects_[i];
+        const bool outside = rect.right <= 0 || rect.bottom <= 0 || rect.left >= window[HEDR_WIDTH] ||
+                             rect.top >= window[HEDR_HEIGHT];
+        const bool beyond = rect.left < 0 || rect.top < 0 || rect.right > window[HEDR_WIDTH] ||
+                            rect.bottom > window[HEDR_HEIGHT];
+        if (outside || beyond)
+            say(i, (outside ? "lies outside the pattern of " : "reaches beyond the pattern of ") + size +
+                       ", to " + std::to_string(rect.right) + "," + std::to_string(rect.bottom) +
+                       ". Move it, or enlarge the window.");
+        else if (title > 0 && rect.top < title)
+            say(i, "lies in the title bar, which is " + std::to_string(title) + " high. Move it down.");
+    }
+}
+
+// Texts, fields and choices in the smallest box that they begin in, and captions in their buttons.
+void Layout::checkFrames()
+{
+    for (std::size_t i = 0; i < rects_.size(); ++i) {
+        const PatternItem& item = pattern_.items[i];
+        const RECT& rect = rects_[i];
+        if (item.record.Type == PTRN_BUTN) {
+            const std::int32_t* parm = item.record.Parm;
+            const int indent = parm[BUTN_POST_ON] ? parm[BUTN_POST] : 0;
+            std::size_t longest = 0;
+            for (const std::string& text : item.texts)
+                longest = std::max(longest, text.size());
+            const int width =
+                indent + project_->resources.fontCell(parm[BUTN_FONT]).cx * static_cast<int>(longest);
+            if (width > rect.width)
+                say(i, "its caption needs " + std::to_string(width) + " pixels and has " +
+                           std::to_string(rect.width) + ". Shorten it or widen the button.");
+        }
+        if (!IsText(item.record.Type))
+            continue;
+        const RECT* frame = nullptr;
+        for (std::size_t j = 0; j < rects_.size(); ++j) {
+            const int type = pattern_.items[j].record.Type;
+            const RECT& box = rects_[j];
+            const bool begins =
+                rect.left > box.left && rect.left < box.right && rect.top > box.top && rect.top < box.bottom;
+            if ((type == PTRN_GBOX || type == PTRN_RECT) && begins &&
+                (!frame || 1LL * box.width * box.height < 1LL * frame->width * frame->height))
+                frame = &box;
+        }
+        if (frame && (rect.right > frame->right || rect.bottom > frame->bottom))
+            say(i, "reaches " + std::to_string(rect.right) + "," + std::to_string(rect.bottom) +
+                       ", beyond its frame, which ends at " + std::to_string(frame->right) + "," +
+                       std::to_string(frame->bottom) + ". Make it narrower, or the frame larger.");
+    }
+}
+
+void Layout::checkRadios()
+{
+    std::map<std::tuple<std::string, int, int>, std::size_t> known;
+    for (std::size_t i = 0; i < pattern_.items.size(); ++i) {
+        const PatternItem& item = pattern_.items[i];
+        if (item.record.Type != PTRN_RDIO || item.code.empty())
+            continue;
+        const int value = item.record.Parm[RDIO_VALUE];
+        const auto added = known.emplace(std::make_tuple(item.code, item.record.ID_No, value), i);
+        if (!added.second)
+            say(i, "has the value " + std::to_string(value) + ", as the " +
+                       ItemName(pattern_.items[added.first->second], added.first->second) +
+                       " has, so both are on together. Give it another 'value'.");
+    }
+}
+
+// The place of an item of a known type in the order of drawing.
+std::size_t Layout::rank(std::size_t index) const
+{
+    const PTRNFILE& record = pattern_.items[index].record;
+    const int drawn = (record.Parm[PARM_PASS] == 1 ? CONT_PTRN : 0) + ItemRank(record.Type);
+    return static_cast<std::size_t>(drawn) * pattern_.items.size() + index;
+}
+
+void Layout::checkHidden()
+{
+    for (std::size_t i = 0; i < rects_.size(); ++i) {
+        const PatternItem& below = pattern_.items[i];
+        const bool empty = rects_[i].width <= 0 && rects_[i].height <= 0;
+        if (empty || !FindItemSchema(below.record.Type))
+            continue;
+        for (std::size_t j = 0; j < rects_.size(); ++j) {
+            const PatternItem& above = pattern_.items[j];
+            // An item with a cell of its own may be hidden while the program runs.
+            const bool stays =
+                above.code.empty() || (above.code == below.code && above.record.ID_No == below.record.ID_No);
+            if (i == j || !stays || !IsOpaque(above) || rank(j) < rank(i) || !Contains(rects_[j], rects_[i]))
+                continue;
+            say(i, "is hidden below the " + ItemName(above, j) +
+                       ", which is drawn later. Move one of them, or draw it in the front pass.");
+            break;
+        }
+    }
+}
+
+} // namespace
+
+void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
+{
+    Layout layout(pattern, project, diagnostics);
+    layout.checkPlaces();
+    layout.checkFrames();
+    layout.checkRadios();
+    layout.checkHidden();
+}
+
+} // namespace ptn

@@ -1,0 +1,152 @@
+#include "tools/ptn/commands/Help.h"
+
+#include "pattern/ItemSchema.h"
+#include "tools/ptn/common/Diagnostics.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <limits>
+#include <vector>
+
+namespace ptn
+{
+
+namespace
+{
+
+std::string Range(const ParmSchema& parm)
+{
+    const bool open = parm.minimum == std::numeric_limits<int>::min();
+    return open ? "" : std::to_string(parm.minimum) + ".." + std::to_string(parm.maximum);
+}
+
+std::string Choices(const ParmSchema& parm)
+{
+    std::string list;
+    for (const ParmChoice& choice : parm.choices)
+        list += (list.empty() ? "" : " | ") + std::string(choice.name);
+    return list;
+}
+
+std::string KindText(const ParmSchema& parm)
+{
+    const std::string variants = parm.count > 1 ? ", or one per state" : "";
+    switch (parm.kind) {
+    case ParmKind::Color:
+        return (parm.enable >= 0 ? "colour or none" : "colour") + variants;
+    case ParmKind::OptionalColor:
+        return "colour or none" + variants;
+    case ParmKind::Font:
+        return "font";
+    case ParmKind::Mark:
+        return "mark" + variants;
+    case ParmKind::Flag:
+        return "yes | no";
+    case ParmKind::Choice:
+        return Choices(parm);
+    case ParmKind::Bits:
+        return "list of " + Choices(parm);
+    case ParmKind::Pixels:
+        return "pixels " + Range(parm);
+    case ParmKind::Count:
+    case ParmKind::Number:
+        break;
+    }
+    return Range(parm).empty() ? "whole number" : "number " + Range(parm);
+}
+
+std::string InitialText(const ParmSchema& parm)
+{
+    switch (parm.kind) {
+    case ParmKind::Flag:
+        return parm.initial ? "yes" : "no";
+    case ParmKind::Choice:
+    case ParmKind::Bits:
+        for (const ParmChoice& choice : parm.choices)
+            if (choice.value == parm.initial)
+                return choice.name;
+        return "none";
+    case ParmKind::Color:
+    case ParmKind::OptionalColor:
+        return parm.enable >= 0 ? "none" : "number " + std::to_string(parm.initial);
+    case ParmKind::Font:
+    case ParmKind::Mark:
+        return "number " + std::to_string(parm.initial);
+    default:
+        return std::to_string(parm.initial);
+    }
+}
+
+void PrintTable(SchemaTable<ParmSchema> parms, std::ostream& out)
+{
+    for (const ParmSchema& parm : parms) {
+        // The corners are said with rect, at and size.
+        if (parm.index < 4 && std::string(parm.name).size() == 2)
+            continue;
+        out << "  " << std::left << std::setw(16) << parm.name << parm.help << "\n"
+            << std::string(18, ' ') << KindText(parm) << "; default " << InitialText(parm) << "\n";
+    }
+}
+
+const char* TextHelp(ItemText text)
+{
+    switch (text) {
+    case ItemText::Caption:
+        return "what it shows, or a list with one text per language\n";
+    case ItemText::BitmapName:
+        return "name of a file in bitmaps/, or a list with one per language\n";
+    case ItemText::None:
+        break;
+    }
+    return nullptr;
+}
+
+void PrintItem(const ItemSchema& item, std::ostream& out)
+{
+    out << item.name << ": " << item.help << "\n\nOf its own:\n";
+    if (const char* text = TextHelp(item.text))
+        out << "  " << std::left << std::setw(16) << "text" << text;
+    PrintTable(item.parms, out);
+    out << "\nOf every item:\n"
+           "  rect            [x1, y1, x2, y2]: left, upper, right and lower edge\n"
+           "  at, size        [x, y] and [width, height] instead; texts, fields, radio buttons, check boxes\n"
+           "                  and marks know their size\n"
+           "  style           name of a style, or a list of names; later ones override earlier ones\n"
+           "  data            cell: CODE, CODE+2, or its number\n"
+           "  action          what happens when it is operated (ptn help attributes)\n"
+           "  pattern         screen that the action opens\n"
+           "  repeat          { count: 5, step: [dx, dy], data: 1 }: copies; count: [columns, rows] for a "
+           "grid\n"
+           "  parm            { index: value }: parameters without a name\n";
+    PrintTable(CommonParms(), out);
+}
+
+} // namespace
+
+bool PrintAttributes(const std::string& type, std::ostream& out)
+{
+    if (type == "window") {
+        out << "window: the window of a screen\n\n"
+               "  size, at        [width, height] and, when it is not at the origin, [left, top]\n"
+               "  parm, parm2     { index: value }; ten numbers for the application\n";
+        PrintTable(HeaderParms(), out);
+        return true;
+    }
+    if (!type.empty()) {
+        const ItemSchema* item = FindItemSchema(type.c_str());
+        if (item)
+            PrintItem(*item, out);
+        return item != nullptr;
+    }
+    out << "An item: { type: TYPE, attribute: value, ... } or TYPE: { attribute: value, ... }\n\n"
+           "Types of items (ptn help attributes TYPE):\n";
+    for (const ItemSchema& item : ItemSchemas())
+        out << "  " << std::left << std::setw(16) << item.name << item.help << "\n";
+    out << "  " << std::left << std::setw(16) << "window"
+        << "the window of a screen\n\nActions:\n";
+    for (const ActionSchema& action : Actions())
+        out << "  " << std::left << std::setw(18) << action.name << action.help << "\n";
+    return true;
+}
+
+} // namespace ptn

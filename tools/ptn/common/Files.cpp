@@ -1,0 +1,33 @@
+#include "tools/ptn/common/Files.h"
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+
+namespace ptn
+{
+
+namespace fs = std::filesystem;
+
+std::optional<std::string> ReadBytes(const fs::path& file)
+{
+    std::error_code missing;
+    if (!fs::is_regular_file(file, missing))
+        return std::nullopt;
+    std::ifstream in(file, std::ios::binary);
+    if (!in)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+void WriteBytes(const fs::path& file, const std::string& bytes)
+{
+    std::ofstream out(file, std::ios::binary | std::ios::trunc);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    if (!out)
+        throw fs::filesystem_error("can not be written", file,
+                                   std::error_code(errno, std::generic_category()));
+}
+
+} // namespace ptn

@@ -1,0 +1,17 @@
+// Whole files.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace ptn
+{
+
+/// A regular file's bytes; none when it is missing, can not be read or is not a regular file.
+std::optional<std::string> ReadBytes(const std::filesystem::path& file);
+
+/// Writes a file anew. Throws std::filesystem::filesystem_error when it can not be written.
+void WriteBytes(const std::filesystem::path& file, const std::string& bytes);
+
+} // namespace ptn

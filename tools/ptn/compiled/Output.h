@@ -1,0 +1,57 @@
+// Putting the files of a build in place, all or none.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace ptn
+{
+
+/// Bytes by path, which is relative to the project directory.
+using OutputFiles = std::map<std::string, std::string>;
+
+/// New files, written into a hidden folder first and moved to their places when everything is complete. What
+/// is not moved is removed again, and so is the folder itself when it was made for them.
+class Staging
+{
+  public:
+    /// @param folder  where the files will go; made when needed
+    explicit Staging(const std::filesystem::path& folder);
+    ~Staging();
+    Staging(const Staging&) = delete;
+    Staging& operator=(const Staging&) = delete;
+
+    /// Writes a file unless the folder has it with the same bytes already.
+    void add(const std::string& name, const std::string& bytes);
+
+    /// Moves the files in. @return how many there were
+    int moveIn();
+
+  private:
+    std::filesystem::path folder_;
+    bool made_ = false; ///< the folder was not there before
+    std::filesystem::path temporary_;
+    std::vector<std::string> names_;
+};
+
+/// What a build has changed.
+struct OutputReport {
+    int files = 0; ///< that the build consists of
+    int written = 0;
+    int removed = 0;
+};
+
+/// Brings a project directory and the profile up to date. Files of the build before that are not made any
+/// more are removed; everything else there stays.
+/// @param seeds  files that the program goes on writing: they are written when they are missing or when
+///               they have changed since the build that wrote them last; what the program has made of them
+///               stays otherwise
+/// A signal to end that arrives meanwhile has its effect afterwards.
+/// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
+OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
+                         const OutputFiles& seeds, const std::filesystem::path& profile,
+                         const std::string& profileBytes);
+
+} // namespace ptn

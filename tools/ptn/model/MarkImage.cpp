@@ -1,0 +1,56 @@
+#include "tools/ptn/model/MarkImage.h"
+
+#include <gdk-pixbuf/gdk-pixbuf.h>
+#include <memory>
+
+namespace ptn
+{
+
+namespace
+{
+
+struct Unref {
+    void operator()(GdkPixbuf* picture) const { g_object_unref(picture); }
+};
+
+// What a pixel counts on a scale of 0 to 255, of which the lower half is dark.
+bool IsDark(const guchar* pixel, bool alpha)
+{
+    if (alpha && pixel[3] < 128)
+        return false;
+    return 299 * pixel[0] + 587 * pixel[1] + 114 * pixel[2] < 128 * 1000;
+}
+
+} // namespace
+
+void ReadMarkImage(const std::filesystem::path& file, SIZE size, const std::string& what, const Place& place,
+                   MARKDATA& mark, Diagnostics& diagnostics)
+{
+    GError* problem = nullptr;
+    const std::unique_ptr<GdkPixbuf, Unref> picture(gdk_pixbuf_new_from_file(file.c_str(), &problem));
+    if (!picture) {
+        diagnostics.error(place, what + ": '" + file.string() + "' can not be read: " + problem->message +
+                                     ". Give a PNG or XBM file.");
+        g_error_free(problem);
+        return;
+    }
+    const int width = gdk_pixbuf_get_width(picture.get());
+    const int height = gdk_pixbuf_get_height(picture.get());
+    if (width != size.cx || height != size.cy) {
+        diagnostics.error(place, what + ": '" + file.string() + "' has " + std::to_string(width) + " x " +
+                                     std::to_string(height) + " pixels. Marks of this number have " +
+                                     std::to_string(size.cx) + " x " + std::to_string(size.cy) +
+                                     "; scale it, or choose a number of another group.");
+        return;
+    }
+    const int channels = gdk_pixbuf_get_n_channels(picture.get());
+    const int stride = gdk_pixbuf_get_rowstride(picture.get());
+    const guchar* pixels = gdk_pixbuf_get_pixels(picture.get());
+    for (int bit = 0; bit < width * height; ++bit) {
+        const guchar* pixel = &pixels[bit / width * stride + bit % width * channels];
+        if (IsDark(pixel, gdk_pixbuf_get_has_alpha(picture.get())))
+            mark.mark[bit / 8] |= static_cast<BYTE>(1 << bit % 8);
+    }
+}
+
+} // namespace ptn

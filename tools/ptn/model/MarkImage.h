@@ -1,0 +1,19 @@
+// Marks from picture files.
+#pragma once
+
+#include "base/Types.h"
+#include "draw/Resource.h"
+#include "tools/ptn/common/Diagnostics.h"
+
+#include <filesystem>
+#include <string>
+
+namespace ptn
+{
+
+/// Reads a PNG, XBM or other picture file of exactly `size` pixels: dark pixels become foreground, light and
+/// transparent ones background.
+void ReadMarkImage(const std::filesystem::path& file, SIZE size, const std::string& what, const Place& place,
+                   MARKDATA& mark, Diagnostics& diagnostics);
+
+} // namespace ptn

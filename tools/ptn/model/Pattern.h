@@ -1,0 +1,42 @@
+// A pattern as its file holds it.
+#pragma once
+
+#include "pattern/PtrnFile.h"
+#include "tools/ptn/common/Diagnostics.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ptn
+{
+
+/// Texts are EUC-JP; those of a source are within the lengths of the format.
+struct PatternItem {
+    PTRNFILE record{};
+    std::array<std::string, 3> texts; ///< one per language
+    std::string name;                 ///< ID_Name: the pattern that the action opens
+    std::string code;                 ///< ID_Code
+    bool exact = false;               ///< the source has given values that are taken as they stand
+    Place place;
+};
+
+struct Pattern {
+    std::string name; ///< of the file, without extension
+    HEDRFILE header{};
+    std::vector<PatternItem> items;
+    Place place;
+};
+
+/// The whole pattern file. DataCount and TextSize of the header are filled in here.
+std::string PatternBytes(const Pattern& pattern);
+
+/// The reverse. @return none, with the reason reported, when the file is not exactly as long as it says
+std::optional<Pattern> ParsePattern(const std::string& name, const std::string& bytes, const Place& place,
+                                    Diagnostics& diagnostics);
+
+/// How messages call an item of a pattern: "item 3 (button)".
+std::string ItemLabel(const PatternItem& item, std::size_t index);
+
+} // namespace ptn

@@ -1,0 +1,228 @@
+#include "tools/ptn/model/Profile.h"
+
+#include "base/EucText.h"
+#include "tools/ptn/common/EucName.h"
+#include "tools/ptn/model/IniText.h"
+#include "tools/ptn/yaml/YamlText.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace ptn
+{
+
+namespace
+{
+
+/// What the profile reader keeps of a field and of a line.
+constexpr std::size_t MAX_FIELD = 99;
+constexpr std::size_t MAX_LINE = 256;
+
+/// Fonts of one language are numbered in blocks of this size.
+constexpr int FONTS_PER_LANGUAGE = CONT_FONT;
+
+const std::string DIR_MARK = "@DIR@/";
+const std::string WINDOW_SECTION = "WINDOW";
+const std::string FONT_KEY = "FONTNAME";
+
+bool IsName(const std::string& name)
+{
+    return !name.empty() && name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                                                   "0123456789_") == std::string::npos;
+}
+
+bool FitsField(const std::string& value)
+{
+    return value.size() <= MAX_FIELD && value.find_first_of(std::string(",;\n\0", 4)) == std::string::npos;
+}
+
+// The lines of the remembered window positions in a profile that the program has written to. Only the
+// first section of a name counts, and bytes of an older, longer profile may follow the last line.
+std::string RememberedWindows(const std::string& profile)
+{
+    std::istringstream lines(profile);
+    std::string kept;
+    bool inside = false;
+    const std::string header = "[" + WINDOW_SECTION + "]";
+    for (std::string line; std::getline(lines, line);) {
+        const bool begins = !line.empty() && line[0] == '[';
+        if (inside && begins)
+            break;
+        if (begins)
+            inside = line.compare(0, header.size(), header) == 0;
+        else if (inside && line.compare(0, WINDOW_SECTION.size(), WINDOW_SECTION) == 0 &&
+                 line.find('=') != std::string::npos)
+            kept += line + "\n";
+    }
+    return kept.empty() ? "" : header + "\n" + kept;
+}
+
+} // namespace
+
+void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
+{
+    for (const Entry& part : Entries(section, "'profile'", diagnostics)) {
+        if (!IsName(part.name) || part.name == WINDOW_SECTION) {
+            diagnostics.error(part.place,
+                              "'profile' can not have a section " + Quoted(part.name) +
+                                  (part.name == WINDOW_SECTION ? ": the program writes it itself. Remove it."
+                                                               : ". Use letters, digits and '_' only."));
+            continue;
+        }
+        sections_.push_back(part.name);
+        for (const Entry& entry : Entries(part.value, "profile section " + Quoted(part.name), diagnostics))
+            readKey(part.name, entry, diagnostics);
+    }
+}
+
+void ProfileSource::readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics)
+{
+    const std::string what = "profile key " + Quoted(entry.name);
+    if (!IsName(entry.name)) {
+        diagnostics.error(entry.place, what + " is no key. Use letters, digits and '_' only.");
+        return;
+    }
+    std::vector<Source> fields = entry.value.members();
+    if (!entry.value.isList())
+        fields = {entry.value};
+
+    std::string value;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const auto text = Text(fields[i], what, diagnostics);
+        const auto field = text ? ToEuc(*text, MAX_FIELD, what, entry.place, diagnostics) : std::nullopt;
+        if (!field)
+            return;
+        if (!FitsField(*field) || (!field->empty() && field->back() == ' ')) {
+            diagnostics.error(entry.place,
+                              what + ": a value can have no ',' or ';' and no blank at its end. Write "
+                                     "several fields as a list.");
+            return;
+        }
+        value += (i ? "," : "") + *field;
+    }
+    if (entry.name.size() + 1 + value.size() > MAX_LINE) {
+        diagnostics.error(entry.place, what + " is longer than a line of the profile. Shorten it to " +
+                                           std::to_string(MAX_LINE) + " bytes.");
+        return;
+    }
+    keys_.push_back({section, entry.name, value, entry.place});
+}
+
+const ProfileSource::Key* ProfileSource::find(const std::string& section, const std::string& name) const
+{
+    const auto place = std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) {
+        return key.section == section && key.name == name;
+    });
+    return place == keys_.end() ? nullptr : &*place;
+}
+
+void ProfileSource::checkPatterns(const std::set<std::string>& patterns, Diagnostics& diagnostics) const
+{
+    for (const char* name : {"PTRNSTART", "PTRNSTOP"})
+        if (const Key* key = find("PTRN", name); key && !key->value.empty() && !patterns.count(key->value))
+            diagnostics.error(key->place,
+                              "profile key " + Quoted(name) +
+                                  " names a pattern that no screen defines. Use the 'name' of a screen.");
+}
+
+std::string ProfileSource::bytes(const std::string& folder, const std::string& project,
+                                 const Resources& resources, const std::string& before,
+                                 Diagnostics& diagnostics) const
+{
+    std::vector<Key> keys = keys_;
+    if (!find("TESSARY", "PROJECT"))
+        keys.insert(keys.begin(), {"TESSARY", "PROJECT", DIR_MARK + project, {}});
+    for (int language = 0; language < 3; ++language)
+        for (int font = 0; font < CONT_FONT; ++font)
+            if (const std::string& name = resources.fontNames(font).at(language); !name.empty())
+                keys.push_back(
+                    {"FONT", FONT_KEY + std::to_string(language * FONTS_PER_LANGUAGE + font), name, {}});
+
+    std::vector<std::string> sections = sections_;
+    for (const Key& key : keys)
+        if (std::find(sections.begin(), sections.end(), key.section) == sections.end())
+            sections.push_back(key.section);
+
+    std::string bytes;
+    for (const std::string& section : sections) {
+        bytes += "[" + section + "]\n";
+        for (const Key& key : keys) {
+            if (key.section != section)
+                continue;
+            std::string value = key.value;
+            if (value.compare(0, DIR_MARK.size(), DIR_MARK) == 0) {
+                const std::string relative = value.substr(DIR_MARK.size());
+                value = folder + "/" + relative;
+                if (!FitsField(value)) {
+                    value = relative;
+                    diagnostics.warning({folder, 0},
+                                        "this path is too long for the profile or has ',' or ';' in it, so " +
+                                            Quoted(key.name) + " is written as " + Quoted(relative) +
+                                            ". Start the program in this folder.");
+                }
+            }
+            bytes += key.name + "=" + value + "\n";
+        }
+    }
+    return bytes + RememberedWindows(before);
+}
+
+std::map<int, std::string> ProfileSource::load(const std::string& bytes, const std::string& folder,
+                                               const std::string& project, const std::string& file)
+{
+    std::map<int, std::string> fonts;
+    for (const IniSection& section : ParseIni(bytes)) {
+        if (section.name == WINDOW_SECTION)
+            continue;
+        sections_.push_back(section.name);
+        for (const IniKey& key : section.keys) {
+            const int font = section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
+                                 ? ParseInteger(key.name.substr(FONT_KEY.size())).value_or(-1)
+                                 : -1;
+            std::string value = key.value;
+            if (value.compare(0, folder.size() + 1, folder + "/") == 0)
+                value = DIR_MARK + value.substr(folder.size() + 1);
+            const bool own = section.name == "TESSARY" && key.name == "PROJECT" && keys_.empty() &&
+                             value == DIR_MARK + project;
+            if (font >= 0 && font < 3 * FONTS_PER_LANGUAGE)
+                fonts[font] = key.value;
+            else if (!own)
+                keys_.push_back({section.name, key.name, value, {file, key.line}});
+        }
+    }
+    return fonts;
+}
+
+void ProfileSource::keepFont(int number, const std::string& name)
+{
+    keys_.push_back({"FONT", FONT_KEY + std::to_string(number), name, {}});
+}
+
+std::string ProfileSource::yaml() const
+{
+    std::string text;
+    for (const std::string& section : sections_) {
+        std::string keys;
+        for (const Key& key : keys_) {
+            if (key.section != section)
+                continue;
+            std::vector<std::string> fields;
+            for (const std::string& field : IniFields(key.value))
+                fields.push_back(YamlScalar(EucToUtf8(field)));
+            keys += "    " + YamlScalar(key.name) + ": " +
+                    (fields.size() == 1 ? fields[0] : YamlList(fields)) + "\n";
+        }
+        text += "  " + YamlScalar(section) + (keys.empty() ? ": {}\n" : ":\n" + keys);
+    }
+    return text.empty() ? "" : "profile:\n" + text;
+}
+
+std::string ProfileSource::value(const std::string& section, const std::string& name, Place* place) const
+{
+    const Key* key = find(section, name);
+    if (key && place)
+        *place = key->place;
+    return key ? key->value : "";
+}
+
+} // namespace ptn

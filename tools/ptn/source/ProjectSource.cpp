@@ -1,0 +1,151 @@
+#include "tools/ptn/source/ProjectSource.h"
+
+#include "base/Constants.h"
+#include "base/EucText.h"
+#include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Files.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace ptn
+{
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+const std::vector<std::string> sectionNames = {"program", "codes",  "colors",  "fonts",    "marks",
+                                               "styles",  "groups", "profile", "messages", "limits",
+                                               "flags",   "wiring", "registry"};
+
+// Every section of the project's files, wherever it stands.
+std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagnostics)
+{
+    std::map<std::string, Entry> sections;
+    const std::vector<std::string> files = YamlFiles(folder);
+    if (files.empty())
+        diagnostics.error({folder.string(), 0},
+                          "this folder has no *.yaml file. Name the folder of the sources.");
+    for (const std::string& file : files) {
+        const std::optional<Source> source = ReadYaml(file, diagnostics);
+        if (!source)
+            continue;
+        for (const Entry& entry : Entries(*source, "the file", diagnostics)) {
+            if (std::find(sectionNames.begin(), sectionNames.end(), entry.name) == sectionNames.end()) {
+                diagnostics.error(entry.place, "unknown section " + Quoted(entry.name) + "." +
+                                                   Suggestion(entry.name, sectionNames) +
+                                                   " Screens go into the folder 'screens'.");
+                continue;
+            }
+            const auto added = sections.emplace(entry.name, entry);
+            if (!added.second) {
+                const Place& first = added.first->second.place;
+                diagnostics.error(entry.place, "section " + Quoted(entry.name) + " is already in " +
+                                                   first.file + ":" + std::to_string(first.line) +
+                                                   ". Join the two.");
+            }
+        }
+    }
+    return sections;
+}
+
+std::map<std::string, std::string> Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
+{
+    std::map<std::string, std::string> bitmaps;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing)) {
+        const std::string name = entry.path().filename().string();
+        if (name[0] == '.')
+            continue;
+        const Place place{entry.path().string(), 0};
+        const std::optional<std::string> bytes = ReadBytes(entry.path());
+        if (!bytes)
+            diagnostics.error(place, "not a file that can be read. Move it out of the folder.");
+        else if (const auto euc = ToEucFileName(name, SIZE_PTRNTEXT, "the file's name", place, diagnostics))
+            bitmaps.emplace(*euc, *bytes);
+    }
+    return bitmaps;
+}
+
+} // namespace
+
+std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Place& place,
+                                                 Diagnostics& diagnostics)
+{
+    std::vector<fs::path> files = {path};
+    std::error_code missing;
+    if (fs::is_directory(path, missing)) {
+        files.clear();
+        for (const auto& entry : fs::directory_iterator(path, missing))
+            if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h")
+                files.push_back(entry.path());
+    }
+    std::set<std::string> texts;
+    for (const fs::path& file : files) {
+        const std::optional<std::string> source = ReadBytes(file);
+        if (!source) {
+            diagnostics.error(place, "'registry': " + Quoted(file.string()) +
+                                         " can not be read. Name the source file that knows the patterns.");
+            return std::nullopt;
+        }
+        std::istringstream lines(*source);
+        for (std::string line; std::getline(lines, line);) {
+            for (std::size_t at = line.find('"'); at != std::string::npos; at = line.find('"', at + 1)) {
+                const std::size_t end = line.find('"', at + 1);
+                if (end == std::string::npos)
+                    break;
+                texts.insert(Utf8ToEuc(line.substr(at + 1, end - at - 1)));
+                at = end;
+            }
+        }
+    }
+    return texts;
+}
+
+std::vector<std::string> YamlFiles(const fs::path& folder)
+{
+    std::vector<std::string> files;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing))
+        if (entry.path().extension() == ".yaml" && entry.path().filename().string()[0] != '.' &&
+            !entry.is_directory())
+            files.push_back(entry.path().string());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+ProjectSource ReadProject(const fs::path& folder, Diagnostics& diagnostics)
+{
+    ProjectSource project;
+    std::map<std::string, Entry> sections = Sections(folder, diagnostics);
+    const auto section = [&](const char* name) { return sections[name].value; };
+
+    if (sections.count("program")) {
+        const Entry& entry = sections["program"];
+        const auto name = Text(entry.value, "'program'", diagnostics);
+        if (name && ToEucFileName(*name, SIZE_PTRNNAME, "program", entry.place, diagnostics))
+            project.program = *name;
+    }
+    project.codes.read(section("codes"), diagnostics);
+    project.resources.readColors(section("colors"), diagnostics);
+    project.resources.readFonts(section("fonts"), diagnostics);
+    project.resources.readMarks(section("marks"), folder, diagnostics);
+    project.styles.read(section("styles"), diagnostics);
+    project.groups.read(section("groups"), diagnostics);
+    project.profile.read(section("profile"), diagnostics);
+    project.messages.read(section("messages"), project.codes, diagnostics);
+    project.limits.read(section("limits"), project.codes, project.messages, diagnostics);
+    project.flags.read(section("flags"), project.codes, diagnostics);
+    project.wiring.read(section("wiring"), folder, diagnostics);
+    if (sections.count("registry")) {
+        const Entry& entry = sections["registry"];
+        if (const auto path = Text(entry.value, "'registry'", diagnostics))
+            project.registry = QuotedTexts(folder / *path, entry.place, diagnostics);
+    }
+    project.bitmaps = Bitmaps(folder / "bitmaps", diagnostics);
+    return project;
+}
+
+} // namespace ptn

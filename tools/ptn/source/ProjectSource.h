@@ -1,0 +1,48 @@
+// The sources that all screens share.
+#pragma once
+
+#include "tools/ptn/model/CodeTable.h"
+#include "tools/ptn/model/Groups.h"
+#include "tools/ptn/model/Profile.h"
+#include "tools/ptn/model/Resources.h"
+#include "tools/ptn/model/Styles.h"
+#include "tools/ptn/model/Tables.h"
+#include "tools/ptn/model/Wiring.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace ptn
+{
+
+struct ProjectSource {
+    std::string program = "panel"; ///< the profile is called after it
+    CodeTable codes;
+    Resources resources;
+    Styles styles;
+    Groups groups;
+    ProfileSource profile;
+    MessageTable messages;
+    LimitTable limits;
+    FlagTable flags;
+    Wiring wiring;
+    std::optional<std::set<std::string>> registry; ///< patterns that the program knows; none when not told
+    std::map<std::string, std::string> bitmaps;    ///< bytes by EUC-JP name
+};
+
+/// Reads the folder: its *.yaml files, whose sections may be spread over the files as one likes, and the
+/// files in "bitmaps".
+ProjectSource ReadProject(const std::filesystem::path& folder, Diagnostics& diagnostics);
+
+/// The texts in quotes of a C++ source file, or of all those of a folder, in EUC-JP: the patterns that a
+/// program knows by name are among them. None, with an error reported, when it can not be read.
+std::optional<std::set<std::string>> QuotedTexts(const std::filesystem::path& path, const Place& place,
+                                                 Diagnostics& diagnostics);
+
+/// The *.yaml files of a folder in the order of their names; none when there is no such folder.
+std::vector<std::string> YamlFiles(const std::filesystem::path& folder);
+
+} // namespace ptn

@@ -1,0 +1,237 @@
+#include "tools/ptn/source/ScreenSource.h"
+
+#include "base/EucText.h"
+#include "pattern/ItemParm.h"
+#include "tools/ptn/common/EucName.h"
+#include "tools/ptn/source/Exact.h"
+#include "tools/ptn/source/ItemList.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace ptn
+{
+
+namespace
+{
+
+/// Nothing interprets it when a pattern is loaded; it tells which tool wrote the file.
+constexpr int PATTERN_VERSION = 1;
+
+const std::vector<std::string> screenKeys = {"name",   "title",  "logo",  "background", "window",
+                                             "styles", "groups", "items", "exact"};
+
+class ScreenReader
+{
+  public:
+    ScreenReader(const ProjectSource& project, Diagnostics& diagnostics)
+        : project_(project), diagnostics_(diagnostics),
+          window_({HeaderParms()}, pattern_.header.Parm1, project.resources, diagnostics)
+    {
+        pattern_.header.Version = PATTERN_VERSION;
+    }
+
+    std::optional<Pattern> read(const Source& source);
+
+  private:
+    void readName(const Source& source, const Place& place);
+    void readTitle(const Entry& entry);
+    template <std::size_t N> void readBitmap(char (&field)[N], const Entry& entry);
+    void readWindow(const Source& source);
+    void readParm2(const Source& source);
+
+    const ProjectSource& project_;
+    Diagnostics& diagnostics_;
+    Pattern pattern_;
+    Attributes window_;
+    Styles styles_;
+    Groups groups_;
+};
+
+std::optional<Pattern> ScreenReader::read(const Source& source)
+{
+    std::map<std::string, Entry> parts;
+    for (const Entry& entry : Entries(source, "the screen", diagnostics_)) {
+        if (std::find(screenKeys.begin(), screenKeys.end(), entry.name) == screenKeys.end())
+            diagnostics_.error(
+                entry.place,
+                "unknown " + Quoted(entry.name) + "." + Suggestion(entry.name, screenKeys) +
+                    " A screen has name, title, logo, background, window, styles, groups, items.");
+        parts.emplace(entry.name, entry);
+    }
+    const auto part = [&](const char* name) { return parts[name].value; };
+
+    if (!parts.count("name")) {
+        diagnostics_.error({source.place().file, 0},
+                           "the screen has no 'name'. Write the name of its pattern.");
+        return std::nullopt;
+    }
+    pattern_.place = parts["name"].place;
+    readName(part("name"), pattern_.place);
+    readTitle(parts[parts.count("title") ? "title" : "name"]);
+    if (parts.count("logo"))
+        readBitmap(pattern_.header.LogoName, parts["logo"]);
+    if (parts.count("background"))
+        readBitmap(pattern_.header.BmapName, parts["background"]);
+    styles_.read(part("styles"), diagnostics_);
+    readWindow(part("window"));
+    groups_.read(part("groups"), diagnostics_);
+    pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, diagnostics_});
+    if (parts.count("exact"))
+        ReadExactHeader(part("exact"), pattern_.header, diagnostics_);
+    return pattern_;
+}
+
+void ScreenReader::readName(const Source& source, const Place& place)
+{
+    const auto name = Text(source, "'name'", diagnostics_);
+    const auto euc =
+        name ? ToEucFileName(*name, SIZE_PTRNNAME, "the name", place, diagnostics_) : std::nullopt;
+    // The program takes a pattern's name up to the first dot, and profile keys up to these two.
+    if (euc && euc->find_first_of(".,;") != std::string::npos)
+        diagnostics_.error(place,
+                           "the name " + Quoted(*name) + " has '.', ',' or ';' in it. Write it without.");
+    pattern_.name = euc.value_or("");
+}
+
+void ScreenReader::readTitle(const Entry& entry)
+{
+    const auto titles = Texts(entry.value, "'title'", diagnostics_);
+    if (!titles)
+        return;
+    HEDRFILE& header = pattern_.header;
+    std::size_t language = 0;
+    for (auto* field : {&header.PtrnName1, &header.PtrnName2, &header.PtrnName3})
+        if (const auto euc =
+                ToEuc((*titles)[language++], SIZE_PTRNNAME, "'title'", entry.place, diagnostics_))
+            CopyText(*field, euc->c_str());
+}
+
+template <std::size_t N> void ScreenReader::readBitmap(char (&field)[N], const Entry& entry)
+{
+    const auto name = Text(entry.value, Quoted(entry.name), diagnostics_);
+    const auto euc = name ? ToEuc(*name, N - 2, Quoted(entry.name), entry.place, diagnostics_) : std::nullopt;
+    if (!euc)
+        return;
+    CopyText(field, euc->c_str());
+    if (!euc->empty() && !project_.bitmaps.count(*euc))
+        diagnostics_.error(entry.place, Quoted(entry.name) + ": no file " + Quoted(*name) +
+                                            " in 'bitmaps'. Put it there or correct the name.");
+}
+
+void ScreenReader::readWindow(const Source& source)
+{
+    for (const Styles* styles : {&project_.styles, static_cast<const Styles*>(&styles_)})
+        if (const Layer* style = styles->find("window"))
+            window_.apply(*style);
+
+    const std::string label = "'window'";
+    Layer own{label, {}};
+    Source unnamed;
+    for (const Entry& entry : Entries(source, label, diagnostics_)) {
+        if (entry.name == "size" || entry.name == "at") {
+            const auto numbers = Integers(entry.value, 2, label + ": " + Quoted(entry.name), diagnostics_);
+            if (numbers) {
+                const int first = entry.name == "size" ? HEDR_WIDTH : HEDR_LEFT;
+                std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm1 + first);
+            }
+        } else if (entry.name == "parm") {
+            unnamed = entry.value;
+        } else if (entry.name == "parm2") {
+            readParm2(entry.value);
+        } else if (window_.find(entry.name)) {
+            own.entries.push_back(entry);
+        } else {
+            std::vector<std::string> names = window_.names();
+            names.insert(names.end(), {"size", "at", "parm", "parm2"});
+            diagnostics_.error(entry.place, label + ": unknown attribute " + Quoted(entry.name) + "." +
+                                                Suggestion(entry.name, names) + " Correct or remove it.");
+        }
+    }
+    window_.apply(own);
+    if (!unnamed.isEmpty())
+        ReadParm(unnamed, label, pattern_.header.Parm1, diagnostics_);
+    for (const int side : {HEDR_WIDTH, HEDR_HEIGHT})
+        if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > 32767)
+            diagnostics_.error(source.place(), label + " has a side of " +
+                                                   std::to_string(pattern_.header.Parm1[side]) +
+                                                   " pixels. Write a 'size' from 1 to 32767.");
+}
+
+void ScreenReader::readParm2(const Source& source)
+{
+    const auto numbers = Integers(source, CONT_PARM2, "'window': 'parm2'", diagnostics_);
+    if (numbers)
+        std::copy(numbers->begin(), numbers->end(), pattern_.header.Parm2);
+}
+
+} // namespace
+
+std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
+                                  Diagnostics& diagnostics)
+{
+    const std::optional<Source> source = ReadYaml(file, diagnostics);
+    return source ? ReadScreen(*source, project, diagnostics) : std::nullopt;
+}
+
+std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
+                                  Diagnostics& diagnostics)
+{
+    return ScreenReader(project, diagnostics).read(source);
+}
+
+namespace
+{
+
+// Reports patterns of the same name. @return the names in EUC-JP
+std::set<std::string> CheckNames(const std::vector<Pattern>& patterns, Diagnostics& diagnostics)
+{
+    std::map<std::string, Place> places;
+    std::set<std::string> names;
+    for (const Pattern& pattern : patterns) {
+        names.insert(pattern.name);
+        const auto added = places.emplace(pattern.name, pattern.place);
+        if (!added.second)
+            diagnostics.error(pattern.place, "this name is also that of " + added.first->second.file +
+                                                 ". Give one of them another.");
+    }
+    return names;
+}
+
+void CheckOpened(const std::vector<Pattern>& patterns, const std::set<std::string>& names,
+                 Diagnostics& diagnostics)
+{
+    for (const Pattern& pattern : patterns) {
+        for (const PatternItem& item : pattern.items) {
+            const ActionSchema* action = FindAction(item.record.ID_Type);
+            if (action && action->opens && !item.exact && !names.count(item.name))
+                diagnostics.error(item.place,
+                                  "no screen is named " + Quoted(EucToUtf8(item.name)) +
+                                      ", which this item opens. Correct 'pattern' or add the screen.");
+        }
+    }
+}
+
+} // namespace
+
+ScreenSet ReadScreens(const std::filesystem::path& folder, const ProjectSource& project,
+                      Diagnostics& diagnostics)
+{
+    ScreenSet screens;
+    for (const std::string& file : YamlFiles(folder / "screens")) {
+        std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics);
+        if (pattern)
+            screens.patterns.push_back(std::move(*pattern));
+        else
+            screens.complete = false;
+    }
+    const std::set<std::string> names = CheckNames(screens.patterns, diagnostics);
+    if (screens.complete) {
+        CheckOpened(screens.patterns, names, diagnostics);
+        project.profile.checkPatterns(names, diagnostics);
+    }
+    return screens;
+}
+
+} // namespace ptn

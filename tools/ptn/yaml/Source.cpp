@@ -1,0 +1,277 @@
+#include "tools/ptn/yaml/Source.h"
+
+#include "tools/ptn/common/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <limits>
+#include <set>
+
+namespace ptn
+{
+
+namespace
+{
+
+/// "$name" or "${name}" within a text.
+struct Placeholder {
+    std::size_t at = 0;
+    std::size_t length = 0;
+    std::string name;
+};
+
+std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t from)
+{
+    static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+    for (std::size_t at = text.find('$', from); at != std::string::npos; at = text.find('$', at + 1)) {
+        const bool braces = text.compare(at + 1, 1, "{") == 0;
+        const std::size_t begin = at + (braces ? 2 : 1);
+        const std::size_t end = std::min(text.find_first_not_of(letters, begin), text.size());
+        if (end > begin && (!braces || text.compare(end, 1, "}") == 0))
+            return Placeholder{at, end + (braces ? 1 : 0) - at, text.substr(begin, end - begin)};
+    }
+    return std::nullopt;
+}
+
+// What mostly is behind a message of the YAML reader, which knows only what it had expected.
+const char* YamlRemedy(const std::string& problem, const std::string& text)
+{
+    const auto has = [&](const char* part) { return problem.find(part) != std::string::npos; };
+    if (text.find("\n\t") != std::string::npos || text.compare(0, 1, "\t") == 0)
+        return "Indent with blanks, not with tabs.";
+    if (has("flow"))
+        return "Look for a missing ',', '}', ']' or quote; a text with '#' or ': ' in it needs quotes.";
+    if (has("unknown token"))
+        return "A text that begins with '@', '%' or '`' needs quotes.";
+    if (has("illegal map value"))
+        return "A text with ': ' in it needs quotes.";
+    if (has("alias") || has("anchor"))
+        return "A text that begins with '*' or '&' needs quotes.";
+    return "Look at this line and the one before it; what belongs together is indented alike.";
+}
+
+} // namespace
+
+std::vector<std::string> ArgumentNames(const std::string& text)
+{
+    std::vector<std::string> names;
+    for (auto found = NextPlaceholder(text, 0); found;
+         found = NextPlaceholder(text, found->at + found->length))
+        names.push_back(found->name);
+    return names;
+}
+
+Source::Source(std::shared_ptr<const std::string> file, const YAML::Node& node,
+               std::shared_ptr<const Arguments> arguments)
+    : file_(std::move(file)), node_(node), arguments_(std::move(arguments))
+{
+    // Marks count from 0; nodes that were not read from a file have none.
+    if (node.IsDefined() && node.Mark().line >= 0)
+        line_ = node.Mark().line + 1;
+    if (arguments_ && isText())
+        fillIn();
+}
+
+void Source::fillIn()
+{
+    std::string text = node_.Scalar();
+    bool changed = false;
+    for (std::size_t at = 0; const auto found = NextPlaceholder(text, at);) {
+        const auto argument = arguments_->find(found->name);
+        if (argument == arguments_->end()) {
+            at = found->at + found->length;
+            continue;
+        }
+        if (found->length == text.size() && !changed) {
+            const Source whole = argument->second;
+            *this = whole;
+            return;
+        }
+        const std::string value = argument->second.text();
+        text.replace(found->at, found->length, value);
+        at = found->at + value.size();
+        changed = true;
+    }
+    if (changed)
+        node_.reset(YAML::Node(text));
+}
+
+Source Source::with(std::shared_ptr<const Arguments> arguments) const
+{
+    Source made(file_, node_, std::move(arguments));
+    made.line_ = made.line_ ? made.line_ : line_;
+    return made;
+}
+
+Source& Source::operator=(const Source& other)
+{
+    file_ = other.file_;
+    node_.reset(other.node_);
+    line_ = other.line_;
+    arguments_ = other.arguments_;
+    return *this;
+}
+
+Place Source::place() const
+{
+    return {file_ ? *file_ : std::string(), line_};
+}
+
+Source Source::child(const YAML::Node& node, const Place& key) const
+{
+    Source made(file_, node, arguments_);
+    if (made.isEmpty())
+        made.line_ = key.line;
+    return made;
+}
+
+std::vector<Source> Source::members() const
+{
+    std::vector<Source> members;
+    if (isList())
+        for (const YAML::Node& node : node_)
+            members.push_back(child(node));
+    return members;
+}
+
+std::optional<Source> ReadYaml(const std::string& file, Diagnostics& diagnostics)
+{
+    const std::optional<std::string> bytes = ReadBytes(file);
+    if (!bytes) {
+        diagnostics.error({file, 0}, "can not be read. Check that the file is there and readable.");
+        return std::nullopt;
+    }
+    return ParseYaml(file, *bytes, diagnostics);
+}
+
+std::optional<Source> ParseYaml(const std::string& file, const std::string& text, Diagnostics& diagnostics)
+{
+    try {
+        return Source(std::make_shared<const std::string>(file), YAML::Load(text));
+    } catch (const YAML::Exception& problem) {
+        // Without a position the mark's line is -1.
+        diagnostics.error({file, problem.mark.line + 1},
+                          "not valid YAML: " + problem.msg + ". " + YamlRemedy(problem.msg, text));
+        return std::nullopt;
+    }
+}
+
+std::vector<Entry> Entries(const Source& source, const std::string& what, Diagnostics& diagnostics)
+{
+    std::vector<Entry> entries;
+    if (source.isEmpty())
+        return entries;
+    if (!source.isMap()) {
+        diagnostics.error(source.place(), what + " must be a mapping: write one 'name: value' per line.");
+        return entries;
+    }
+    std::set<std::string> names;
+    for (const auto& pair : source.node()) {
+        const Source key = source.child(pair.first);
+        if (!key.isText()) {
+            diagnostics.error(key.place(),
+                              what + " has a key that is not a plain name. Write a name before the ':'.");
+            continue;
+        }
+        const std::string name = key.text();
+        if (!names.insert(name).second) {
+            diagnostics.error(key.place(), what + " has " + Quoted(name) + " twice. Remove one of them.");
+            continue;
+        }
+        entries.push_back({name, key.place(), source.child(pair.second, key.place())});
+    }
+    return entries;
+}
+
+std::optional<int> ParseInteger(const std::string& text)
+{
+    const std::size_t sign = !text.empty() && text[0] == '-' ? 1 : 0;
+    const bool hex = text.compare(sign, 2, "0x") == 0;
+    const std::size_t digits = sign + (hex ? 2 : 0);
+    const char* allowed = hex ? "0123456789abcdefABCDEF" : "0123456789";
+    if (digits >= text.size() || text.find_first_not_of(allowed, digits) != std::string::npos)
+        return std::nullopt;
+    errno = 0;
+    const long long value = std::strtoll(text.c_str(), nullptr, hex ? 16 : 10);
+    if (errno || value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
+        return std::nullopt;
+    return static_cast<int>(value);
+}
+
+std::optional<int> Integer(const Source& source, int minimum, int maximum, const std::string& what,
+                           Diagnostics& diagnostics)
+{
+    const std::optional<int> value = source.isText() ? ParseInteger(source.text()) : std::nullopt;
+    if (!value || *value < minimum || *value > maximum) {
+        const std::string found = source.isText() ? Quoted(source.text()) : "this";
+        diagnostics.error(source.place(), what + " can not be " + found + ". Write a whole number from " +
+                                              std::to_string(minimum) + " to " + std::to_string(maximum) +
+                                              ".");
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<bool> Boolean(const Source& source, const std::string& what, Diagnostics& diagnostics)
+{
+    const std::string text = source.text();
+    for (const char* word : {"true", "yes", "on", "1"})
+        if (text == word)
+            return true;
+    for (const char* word : {"false", "no", "off", "0"})
+        if (text == word)
+            return false;
+    diagnostics.error(source.place(), what + " must be true or false.");
+    return std::nullopt;
+}
+
+std::optional<std::vector<int>> Integers(const Source& source, std::size_t count, const std::string& what,
+                                         Diagnostics& diagnostics)
+{
+    std::vector<int> values;
+    for (const Source& member : source.members())
+        if (const std::optional<int> value = member.isText() ? ParseInteger(member.text()) : std::nullopt)
+            values.push_back(*value);
+    if (values.size() != count || source.members().size() != count) {
+        diagnostics.error(source.place(), what + " must be a list of " + std::to_string(count) +
+                                              " whole numbers, such as [" +
+                                              (count == 4 ? "8, 8, 80, 32" : "8, 8") + "].");
+        return std::nullopt;
+    }
+    return values;
+}
+
+std::optional<std::string> Text(const Source& source, const std::string& what, Diagnostics& diagnostics)
+{
+    if (source.isText() || source.isEmpty())
+        return source.text();
+    diagnostics.error(source.place(), what + " must be a text.");
+    return std::nullopt;
+}
+
+std::optional<std::vector<std::string>> Texts(const Source& source, const std::string& what,
+                                              Diagnostics& diagnostics)
+{
+    std::vector<std::string> texts;
+    if (source.isList()) {
+        for (const Source& member : source.members())
+            if (member.isText() || member.isEmpty())
+                texts.push_back(member.text());
+        if (texts.size() != source.members().size() || texts.empty() || texts.size() > 3) {
+            diagnostics.error(source.place(),
+                              what + " must be one text, or a list of two or three in the order of "
+                                     "the languages.");
+            return std::nullopt;
+        }
+    } else {
+        const std::optional<std::string> text = Text(source, what, diagnostics);
+        if (!text)
+            return std::nullopt;
+        texts.push_back(*text);
+    }
+    texts.resize(3, texts.back());
+    return texts;
+}
+
+} // namespace ptn
