@@ -18,8 +18,9 @@ enum PtrnType {
     PTRN_MARK = 13, ///< mark (icon)
     PTRN_SBAR = 14, ///< scroll bar
     PTRN_SPIN = 15, ///< spin button
+    PTRN_END,       ///< behind the last type
 };
-constexpr int CONT_PTRN = 15;
+constexpr int CONT_PTRN = PTRN_END - 1;
 
 // Resource tables.
 constexpr int CONT_COLR = 100;

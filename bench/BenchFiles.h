@@ -4,7 +4,7 @@
 #include "comndata/ComnData.h"
 #include "draw/Resource.h"
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "pattern/PtrnFile.h"
 
 #include <cstdio>
@@ -66,7 +66,7 @@ class BenchFiles
                 return static_cast<int>(static_cast<std::int64_t>(item) * bound / count);
             };
             const bool hasCell = before(i + 1) > before(i);
-            const ItemSchema& schema = *FindItemSchema(i % CONT_PTRN + 1);
+            const tessary::ItemClass& schema = *tessary::FindItemClass(i % CONT_PTRN + 1);
             Item item{newItem(schema), schema.text == ItemText::BitmapName ? "lamp.ppm" : "圧力A",
                       hasCell ? "ITEM" : ""};
             item.record.ID_No = hasCell ? before(i) : 0;
@@ -84,7 +84,7 @@ class BenchFiles
     {
         std::vector<Item> items;
         for (const POINT& place : places) {
-            Item item{newItem(*FindItemSchema(PTRN_NUMR)), "", "ITEM"};
+            Item item{newItem(*tessary::FindItemClass(PTRN_NUMR)), "", "ITEM"};
             item.record.ID_No = static_cast<std::int32_t>(items.size());
             item.record.Parm[PARM_X1] = place.x;
             item.record.Parm[PARM_Y1] = place.y;
@@ -158,14 +158,14 @@ class BenchFiles
     }
 
     /// The values that the schema gives a new item; its colours hold their own index.
-    static PTRNFILE newItem(const ItemSchema& schema)
+    static PTRNFILE newItem(const tessary::ItemClass& schema)
     {
         PTRNFILE record{};
         record.Type = schema.type;
-        for (const ParmSchema& parm : schema.parms)
+        for (const tessary::ParmSchema& parm : schema.parms)
             for (int variant = 0; variant < parm.count; variant++)
-                record.Parm[parm.index + variant] = parm.kind == ParmKind::Color  ? parm.index + variant
-                                                    : parm.kind == ParmKind::Mark ? CONT_MARK + variant
+                record.Parm[parm.index + variant] = parm.kind == tessary::ParmKind::Color  ? parm.index + variant
+                                                    : parm.kind == tessary::ParmKind::Mark ? CONT_MARK + variant
                                                                                   : parm.initial;
         record.Parm[PARM_CLEAR] = bodyColor;
         return record;

@@ -67,3 +67,10 @@ void MarkExit()
     std::memset(MarkData, 0, sizeof MarkData);
     std::memset(Mark_XPM, 0, sizeof Mark_XPM);
 }
+
+SIZE tessary::MarkSize(int mark)
+{
+    if (mark < 0 || mark >= CONT_MARK)
+        return {16, 16};
+    return {MarkXsize[mark / SIZE_MARKGROUP], MarkYsize[mark / SIZE_MARKGROUP]};
+}

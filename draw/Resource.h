@@ -64,6 +64,13 @@ extern MARK_XPM Mark_XPM[CONT_MARK + CONT_BUILTINMARK];
 extern const int MarkXsize[CONT_MARKGROUP];
 extern const int MarkYsize[CONT_MARKGROUP];
 
+namespace tessary
+{
+/// Size of a mark in pixels. The built-in marks, and any number that is none, are as large as the smallest cell
+/// that radio buttons and check boxes draw them in: 16 by 16.
+SIZE MarkSize(int mark);
+} // namespace tessary
+
 /// Size of the display in pixels, profile key "DISPSIZE"; 0 when the key is missing.
 extern int DispSizeX;
 extern int DispSizeY;

@@ -51,7 +51,7 @@ void CPtrnData::DispPtrnData(CDraw* draw)
 
 void CPtrnData::DispPtrnData(CDraw* draw, int top)
 {
-    BuildDrawOrder(); // the records are public: a type or pass may have been changed in place
+    RenewDrawOrder(); // the records are public: a type or pass may have been changed in place
     const auto [first, last] = PassPlaces(top);
     for (auto place = first; place != last; ++place) {
         PTRNDATA item = PtrnData[place->Recd];
@@ -96,17 +96,12 @@ void CPtrnData::ShowPtrnData(CDraw* draw, PTRNDATA* item, int updt)
 
 void CPtrnData::DispPtrnData(CDraw* draw, PTRNDATA* item, int updt)
 {
-    const ItemOps* ops = FindItemOps(item->Type);
-    if (!ops)
-        return;
-    if (ops->Disp)
-        (this->*ops->Disp)(draw, item);
-    else
-        (this->*ops->DispUpdt)(draw, item, updt);
+    if (const tessary::ItemClass* type = tessary::FindItemClass(item->Type))
+        type->draw(*this, draw, item, updt);
 }
 
 void CPtrnData::ClerPtrnData(CDraw* draw, PTRNDATA* item)
 {
-    if (const ItemOps* ops = FindItemOps(item->Type))
-        (this->*ops->Cler)(draw, item);
+    if (const tessary::ItemClass* type = tessary::FindItemClass(item->Type))
+        type->erase(draw, item);
 }

@@ -10,7 +10,7 @@ void CPtrnData::BuildDrawOrder()
 {
     DrawOrder.clear();
     for (int i = 0; i < PtrnCont; ++i) {
-        const int rank = ItemRank(PtrnData[i].Type);
+        const int rank = tessary::ItemRank(PtrnData[i].Type);
         if (rank >= 0)
             DrawOrder.push_back({PtrnData[i].Parm[PARM_PASS], rank, i});
     }
@@ -19,6 +19,23 @@ void CPtrnData::BuildDrawOrder()
     });
     OrderedData = PtrnData;
     OrderedCont = PtrnCont;
+}
+
+void CPtrnData::RenewDrawOrder()
+{
+    const auto stale = [this](const Place& place) {
+        const PTRNDATA& item = PtrnData[place.Recd];
+        return place.Pass != item.Parm[PARM_PASS] || place.Rank != tessary::ItemRank(item.Type);
+    };
+    // Items of unknown type have no place; one that has become known is missed by nothing else.
+    const auto known = [this] {
+        return std::count_if(PtrnData, PtrnData + PtrnCont,
+                             [](const PTRNDATA& item) { return tessary::ItemRank(item.Type) >= 0; });
+    };
+    if (OrderedData != PtrnData || OrderedCont != PtrnCont ||
+        static_cast<std::ptrdiff_t>(DrawOrder.size()) != known() ||
+        std::any_of(DrawOrder.begin(), DrawOrder.end(), stale))
+        BuildDrawOrder();
 }
 
 CPtrnData::Places CPtrnData::PassPlaces(int pass)

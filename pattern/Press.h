@@ -1,13 +1,12 @@
-// What a left press does, by kind of item. Each takes and returns what CPtrnData::LButtonDown does.
+// What a left press does, as several types of items share it.
 #pragma once
 
 #include "pattern/PtrnData.h"
 
-/// Neither disabled nor hidden, by the cached state word.
-constexpr bool IsUsable(const PTRNDATA& item)
+namespace tessary
 {
-    return item.wData < STATE_DISABLE;
-}
+
+// Each takes and returns what CPtrnData::LButtonDown does.
 
 /// A shape that frames a field of the same data number presses that field.
 int PressShape(CPtrnData& data, POINT point, PTRNDATA* item);
@@ -18,8 +17,10 @@ int PressField(CPtrnData& data, POINT point, PTRNDATA* item);
 /// A label presses the control of the same data number.
 int PressLabel(CPtrnData& data, POINT point, PTRNDATA* item);
 
-/// Push button, radio button, check box.
+/// A control changes its cell.
 int PressControl(CPtrnData& data, POINT point, PTRNDATA* item);
 
-int PressScrollBar(CPtrnData& data, POINT point, PTRNDATA* item);
-int PressSpinButn(CPtrnData& data, POINT point, PTRNDATA* item);
+/// The item is held from now on, at this part of it.
+void StartRepeat(CPtrnData& data, const PTRNDATA& item, int part);
+
+} // namespace tessary

@@ -10,12 +10,8 @@
 
 class CDraw;
 
-/// The order in which the types are drawn within a pass: boxes and shapes, lines, images, scroll controls,
-/// buttons, and text on top. Hit tests go through it backwards.
-inline constexpr int TypeTabl[CONT_PTRN] = {
-    PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LINE, PTRN_BMAP, PTRN_MARK, PTRN_SBAR,
-    PTRN_SPIN, PTRN_BUTN, PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR,
-};
+/// The type numbers in the order in which they are drawn within a pass. Hit tests go through it backwards.
+extern const int TypeTabl[CONT_PTRN];
 
 // Times in ticks of 100 ms.
 constexpr int FLIKER_ON = 7;    ///< a blinking item is shown
@@ -229,6 +225,8 @@ class CPtrnData
     const PTRNDATA* OrderedData = nullptr; ///< the array that DrawOrder was made for
     std::int32_t OrderedCont = 0;
     void BuildDrawOrder();
+    /// Builds it anew when a type or pass has been changed in place.
+    void RenewDrawOrder();
     Places PassPlaces(int pass);
     Places TypePlaces(int pass, int rank);
     void ShowPtrnData(CDraw* draw, PTRNDATA* item, int updt);

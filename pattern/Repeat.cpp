@@ -16,8 +16,8 @@ int CPtrnData::ReptPtrnData(PTRNDATA* item)
         return 0;
 
     RepeatTimr = 0;
-    const ItemOps* ops = FindItemOps(RepeatPtrn.Type);
-    if (!ops || !ops->Step || !ops->Step(&RepeatPtrn, RepeatMode))
+    const tessary::ItemClass* type = tessary::FindItemClass(RepeatPtrn.Type);
+    if (!type || !type->step || !type->step(&RepeatPtrn, RepeatMode))
         return 0;
     *item = RepeatPtrn;
     return 1;
@@ -32,9 +32,9 @@ void CPtrnData::MouseMove(POINT point)
 {
     if (RepeatFlag == REPEAT_IDLE)
         return;
-    const ItemOps* ops = FindItemOps(RepeatPtrn.Type);
-    if (!ops || !ops->Part)
+    const tessary::ItemClass* type = tessary::FindItemClass(RepeatPtrn.Type);
+    if (!type || !type->part)
         return;
-    if (!PointInRect(point, RepeatPtrn.Rect) || (this->*ops->Part)(point, &RepeatPtrn) != RepeatMode)
+    if (!PointInRect(point, RepeatPtrn.Rect) || type->part(*this, point, &RepeatPtrn) != RepeatMode)
         RepeatFlag = REPEAT_IDLE;
 }

@@ -3,6 +3,7 @@
 #include "base/Coord.h"
 #include "comndata/MesgData.h"
 #include "pattern/ItemParm.h"
+#include "pattern/ItemTable.h"
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 
@@ -169,12 +170,8 @@ int CPtrnDisp::MouseWheel(POINT pt, int direction)
         return 0;
 
     PTRNDATA item = PtrnData->PtrnData[index];
-    int changed = 0;
-    if (item.Type == PTRN_SBAR)
-        changed = PtrnData->WheelToScroll(direction, &item);
-    else if (item.Type == PTRN_SPIN)
-        changed = PtrnData->WheelToSpin(direction, &item);
-    if (changed != 1)
+    const tessary::ItemClass* type = tessary::FindItemClass(item.Type);
+    if (!type || !type->wheel || type->wheel(*PtrnData, direction, &item) != 1)
         return 0;
     ExecMessage(&item);
     return 1;

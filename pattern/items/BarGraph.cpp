@@ -7,8 +7,24 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tessary
+{
+
 namespace
 {
+
+constexpr ParmChoice directionNames[] = {{"vertical", 0}, {"horizontal", 1}};
+
+constexpr ParmSchema parms[] = {
+    parm("bar", BARG_BAR4).color().perState().help("the bar or needle"),
+    parm("back", BARG_BACK4).color().perState().help("behind the bar"),
+    parm("frame", BARG_FRAME_COLOR).color().help("the frame"),
+    parm("direction", BARG_HORIZONTAL).choice(directionNames).help("grows upwards or to the right"),
+    parm("needle", BARG_NEEDLE_WIDTH).thickness().help("thickness of a needle drawn instead of a bar"),
+    parm("frame-width", BARG_FRAME_WIDTH).thickness().initial(1).help("thickness of the frame"),
+    parm("minimum", BARG_MINIMUM).number().help("value of an empty bar; both 0: from the limit table"),
+    parm("maximum", BARG_MAXIMUM).number().initial(100).help("value of a full bar"),
+};
 
 /// Where the bar may reach, and the level: `xl` of a horizontal bar, `yl` of a vertical one.
 struct BarArea {
@@ -83,9 +99,7 @@ void DrawNeedle(CDraw* draw, const PTRNDATA* item, const BarArea& area, int colr
     }
 }
 
-} // namespace
-
-void CPtrnData::DispPtrnData05(CDraw* draw, PTRNDATA* item)
+void Draw(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
     const BarArea area = LayOut(item);
     const int bar = Selected(item, BARG_BAR4);
@@ -98,3 +112,41 @@ void CPtrnData::DispPtrnData05(CDraw* draw, PTRNDATA* item)
     if (item->Parm[BARG_FRAME_WIDTH])
         draw->DrawRect(item->Rect, item->Parm[BARG_FRAME_WIDTH], 1, item->Parm[BARG_FRAME_COLOR], -1);
 }
+
+// Others would draw outside of themselves or, worse, backwards.
+bool Fits(const ItemDraft& draft)
+{
+    const std::int32_t* parm = draft.parm;
+    const std::int64_t inset = std::int64_t{2} * parm[BARG_FRAME_WIDTH];
+    const std::int64_t width = std::int64_t{parm[PARM_X2]} - parm[PARM_X1] - inset;
+    const std::int64_t height = std::int64_t{parm[PARM_Y2]} - parm[PARM_Y1] - inset;
+    const std::int64_t along = parm[BARG_HORIZONTAL] ? width : height;
+    return width >= 0 && height >= 0 && along >= parm[BARG_NEEDLE_WIDTH];
+}
+
+void Check(const ItemDraft& draft, const ItemRemark& remark)
+{
+    const std::int32_t* parm = draft.parm;
+    if (parm[BARG_MINIMUM] >= parm[BARG_MAXIMUM] && (parm[BARG_MINIMUM] || parm[BARG_MAXIMUM]))
+        remark("'minimum' is not below 'maximum', so the bar stays empty. Exchange them.");
+}
+
+} // namespace
+
+namespace items
+{
+
+extern constexpr ItemClass barGraph = item(PTRN_BARG)
+                                          .named("bar-graph")
+                                          .helped("bar or needle that follows a value")
+                                          .schema(parms)
+                                          .drawnBy(Draw)
+                                          .erasedBy(EraseRect)
+                                          .hitBy(HitRect)
+                                          .opaqueWhen(AlwaysOpaque)
+                                          .fitsWhen(Fits)
+                                          .checkedBy(Check);
+
+} // namespace items
+
+} // namespace tessary

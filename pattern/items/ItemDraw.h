@@ -1,8 +1,13 @@
-// What the drawing members of the item types share.
+// What the item types share: how they read their state and their parameters, and the eraser and hit test of
+// those that fill their rectangle.
 #pragma once
 
+#include "pattern/ItemClass.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnData.h"
+
+namespace tessary
+{
 
 /// Colour selection 0..3: which of a group of four parameters counts.
 inline int ColorSelection(const PTRNDATA* item)
@@ -22,6 +27,11 @@ inline int SelectedBackground(const PTRNDATA* item, int group, int switchedBy)
     return item->Parm[switchedBy] ? Selected(item, group) : -1;
 }
 
+inline bool IsHidden(const PTRNDATA& item)
+{
+    return (item.wData & STATE_HIDDEN) != 0;
+}
+
 inline bool IsDisabled(const PTRNDATA* item)
 {
     return (item->wData & STATE_DISABLE) != 0;
@@ -32,3 +42,23 @@ inline bool IsLocked(const PTRNDATA* item)
 {
     return (item->wData & STATE_LOCKED) != 0;
 }
+
+/// Neither disabled nor hidden, by the cached state word.
+constexpr bool IsUsable(const PTRNDATA& item)
+{
+    return item.wData < STATE_DISABLE;
+}
+
+/// Paints the item's rectangle with its clear colour.
+void EraseRect(CDraw* draw, const PTRNDATA* item);
+
+/// 1 when the point is in the item's rectangle.
+int HitRect(POINT point, const PTRNDATA* item);
+
+/// `opaque` of a type that always fills its rectangle.
+inline bool AlwaysOpaque(const ItemDraft&)
+{
+    return true;
+}
+
+} // namespace tessary

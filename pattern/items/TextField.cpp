@@ -2,48 +2,98 @@
 #include "base/Coord.h"
 #include "base/EucText.h"
 #include "draw/DrawCntl.h"
+#include "draw/HitTest.h"
 #include "pattern/items/ItemDraw.h"
+#include "pattern/Press.h"
 
 #include <algorithm>
 #include <cstring>
 
+namespace tessary
+{
+
 namespace
 {
 
-int TextBackground(const PTRNDATA* item)
+constexpr ParmChoice navigationNames[] = {{"up", 1}, {"down", 2}, {"left", 4}, {"right", 8}};
+
+// What the three text types share.
+constexpr ParmSchema color = parm("color", TEXT_COLOR4).color().perState().help("the text");
+constexpr ParmSchema back =
+    parm("back", TEXT_BACK4).color().perState().enabledBy(TEXT_BACKED).help("behind the text; blinks in it");
+constexpr ParmSchema backed =
+    parm("backed", TEXT_BACKED).flag().help("whether the background is painted; set by back");
+constexpr ParmSchema blink = parm("blink", TEXT_FLICKER).flag().help("blinks from the start");
+constexpr ParmSchema font = parm("font", TEXT_FONT).font().help("the text's font");
+constexpr ParmSchema width =
+    parm("width", FIELD_WIDTH).count(1, SIZE_PTRNTEXT).initial(10).help("half-width characters of the field");
+constexpr ParmSchema entry =
+    parm("entry", FIELD_KEYENTRY).flag().help("whether a click starts keyboard entry");
+constexpr ParmSchema navigation =
+    parm("navigation", FIELD_NAVIGATION).bits(navigationNames).help("arrow keys that end keyboard entry");
+
+constexpr ParmSchema textParms[] = {
+    color,
+    back,
+    backed,
+    blink,
+    font,
+    parm("width", FIELD_WIDTH)
+        .count(0, SIZE_PTRNTEXT)
+        .help("half-width characters that a click may hit; 0: as long as the text"),
+};
+
+constexpr ParmSchema variableParms[] = {color, back, backed, blink, font, width, entry, navigation};
+
+constexpr ParmSchema numericParms[] = {
+    color,
+    back,
+    backed,
+    blink,
+    font,
+    width,
+    parm("decimals", FIELD_DECIMALS).count(0, SIZE_PTRNTEXT).help("digits after the point"),
+    entry,
+    parm("zero-fill", FIELD_ZEROFILL).flag().help("leading zeros instead of blanks"),
+    parm("grouping", FIELD_GROUPING).flag().help("a comma for every three digits, without decimals only"),
+    parm("hex", FIELD_HEX).flag().help("hexadecimal"),
+    navigation,
+};
+
+int Background(const PTRNDATA* item)
 {
     return SelectedBackground(item, TEXT_BACK4, TEXT_BACKED);
 }
 
-void DrawItemText(CDraw* draw, const PTRNDATA* item, int colr, int back)
+void DrawText(CDraw* draw, const PTRNDATA* item, int colr, int behind)
 {
-    draw->DrawText(item->Parm[PARM_X1], item->Parm[PARM_Y1], item->Parm[TEXT_FONT], colr, back, item->Text);
+    draw->DrawText(item->Parm[PARM_X1], item->Parm[PARM_Y1], item->Parm[TEXT_FONT], colr, behind, item->Text);
 }
 
 /// Draws the text, or blanks it when the item is disabled. Without a background nothing can be blanked and
 /// the old picture stays.
-void DrawTextItem(CDraw* draw, const PTRNDATA* item)
+void DrawState(CDraw* draw, const PTRNDATA* item)
 {
-    const int back = TextBackground(item);
+    const int behind = Background(item);
     if (!IsDisabled(item))
-        DrawItemText(draw, item, Selected(item, TEXT_COLOR4), back);
-    else if (back != -1)
-        draw->ClearText(item->Parm[PARM_X1], item->Parm[PARM_Y1], item->Parm[TEXT_FONT], back, item->Text);
+        DrawText(draw, item, Selected(item, TEXT_COLOR4), behind);
+    else if (behind != -1)
+        draw->ClearText(item->Parm[PARM_X1], item->Parm[PARM_Y1], item->Parm[TEXT_FONT], behind, item->Text);
 }
 
 /// Draws a field whose text changes: the whole field is painted first, so that a shorter text leaves nothing
 /// of a longer one before it.
-void DrawFieldItem(CDraw* draw, const PTRNDATA* item)
+void DrawField(CDraw* draw, const PTRNDATA* item)
 {
-    const int back = TextBackground(item);
-    if (!IsDisabled(item) && back != -1) {
+    const int behind = Background(item);
+    if (!IsDisabled(item) && behind != -1) {
         const SIZE cell = FontCell(item->Parm[TEXT_FONT]);
-        const std::int64_t width = std::int64_t{cell.cx} * std::max(0, item->Parm[FIELD_WIDTH]);
+        const std::int64_t wide = std::int64_t{cell.cx} * std::max(0, item->Parm[FIELD_WIDTH]);
         const int x = item->Parm[PARM_X1];
         const int y = item->Parm[PARM_Y1];
-        draw->DrawRect(x, y, Saturate(x + width), Shift(y, cell.cy), 0, 0, back, back);
+        draw->DrawRect(x, y, Saturate(x + wide), Shift(y, cell.cy), 0, 0, behind, behind);
     }
-    DrawTextItem(draw, item);
+    DrawState(draw, item);
 }
 
 /// Bytes of `text` that a field of `limit` bytes shows. Only the two bytes at the cut are looked at: when
@@ -57,35 +107,140 @@ std::size_t FieldCut(const char* text, std::size_t limit)
     return limit > 0 && half(limit - 1) && half(limit) ? limit - 1 : limit;
 }
 
-} // namespace
-
-void CPtrnData::DispPtrnData06(CDraw* draw, PTRNDATA* item, int)
+void DrawFixed(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
-    DrawTextItem(draw, item);
+    DrawState(draw, item);
 }
 
-void CPtrnData::DispPtrnData07(CDraw* draw, PTRNDATA* item, int)
+void DrawVariable(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
     const int limit = std::clamp(item->Parm[FIELD_WIDTH], 0, SIZE_PTRNTEXT);
     CopyText(item->Text, FieldCut(item->sData, static_cast<std::size_t>(limit)) + 1, item->sData);
-    DrawFieldItem(draw, item);
+    DrawField(draw, item);
 }
 
-void CPtrnData::DispPtrnData08(CDraw* draw, PTRNDATA* item, int)
+void DrawNumeric(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
     CopyText(item->Text, ConvertNumrData(item));
-    DrawFieldItem(draw, item);
+    DrawField(draw, item);
 }
 
-void CPtrnData::ClerPtrnData06(CDraw* draw, PTRNDATA* item)
+void Erase(CDraw* draw, const PTRNDATA* item)
 {
-    DrawItemText(draw, item, item->Parm[PARM_CLEAR], item->Parm[PARM_CLEAR]);
+    DrawText(draw, item, item->Parm[PARM_CLEAR], item->Parm[PARM_CLEAR]);
 }
 
 // Blinks on the background colour even when the item is otherwise drawn without background, and with the text
 // drawn last, not a fresh one.
-void CPtrnData::FlikPtrnData06(CDraw* draw, PTRNDATA* item, int phase)
+void Blink(CDraw* draw, const PTRNDATA* item, int phase)
 {
-    const int back = Selected(item, TEXT_BACK4);
-    DrawItemText(draw, item, phase ? Selected(item, TEXT_COLOR4) : back, back);
+    const int behind = Selected(item, TEXT_BACK4);
+    DrawText(draw, item, phase ? Selected(item, TEXT_COLOR4) : behind, behind);
 }
+
+int Hit(POINT point, const PTRNDATA* item)
+{
+    const SIZE cell = FontCell(item->Parm[TEXT_FONT]);
+    const std::int64_t wide = std::int64_t{cell.cx} * item->Parm[FIELD_WIDTH];
+    const int right = Saturate(item->Parm[PARM_X1] + wide);
+    const int bottom = Shift(item->Parm[PARM_Y1], cell.cy);
+    return TestRect(point, SetRect(item->Parm[PARM_X1], item->Parm[PARM_Y1], right, bottom));
+}
+
+SIZE CharactersSize(const ItemDraft& draft, int characters)
+{
+    const SIZE cell = draft.fontCell(draft.parm[TEXT_FONT]);
+    return {Saturate(std::int64_t{cell.cx} * characters), cell.cy};
+}
+
+SIZE FieldSize(const ItemDraft& draft)
+{
+    return CharactersSize(draft, draft.parm[FIELD_WIDTH]);
+}
+
+SIZE WholeText(const ItemDraft& draft)
+{
+    return CharactersSize(draft, draft.longestText());
+}
+
+std::optional<SIZE> NaturalSize(const ItemDraft& draft)
+{
+    return FieldSize(draft);
+}
+
+void CheckFixed(const ItemDraft& draft, const ItemRemark& remark)
+{
+    const int room = draft.parm[FIELD_WIDTH];
+    if (room > 0 && draft.longestText() > room)
+        remark("its text has " + std::to_string(draft.longestText()) +
+               " half-width characters and its field " + std::to_string(room) +
+               ". Shorten it, or make 'width' larger.");
+}
+
+void CheckEntry(const ItemDraft& draft, const ItemRemark& remark)
+{
+    if (draft.parm[FIELD_KEYENTRY] == 1 && !draft.bound)
+        remark("'entry' has nowhere to store what is typed. Name a cell with 'data'.");
+}
+
+void CheckNumeric(const ItemDraft& draft, const ItemRemark& remark)
+{
+    CheckEntry(draft, remark);
+    // No number with decimals is shorter than "0.00".
+    const int decimals = draft.parm[FIELD_DECIMALS];
+    const long long needed = decimals + 2LL;
+    if (!draft.parm[FIELD_HEX] && decimals > 0 && draft.parm[FIELD_WIDTH] < needed)
+        remark("its field has " + std::to_string(draft.parm[FIELD_WIDTH]) + " characters; a number with " +
+               std::to_string(decimals) + " decimals needs " + std::to_string(needed) +
+               " or more. Make 'width' larger.");
+}
+
+constexpr ItemRow TextItem(PtrnType type)
+{
+    return item(type)
+        .fontAt(TEXT_FONT)
+        .erasedBy(Erase)
+        .blinksBy(Blink, TEXT_FLICKER)
+        .hitBy(Hit)
+        .sizedBy(NaturalSize);
+}
+
+} // namespace
+
+namespace items
+{
+
+extern constexpr ItemClass fixedText = TextItem(PTRN_FCHR)
+                                           .named("text")
+                                           .helped("text that stays")
+                                           .shows(ItemText::Caption)
+                                           .schema(textParms)
+                                           .drawnBy(DrawFixed)
+                                           .pressedBy(PressLabel)
+                                           .covers(WholeText)
+                                           .measuresTextInto(FIELD_WIDTH)
+                                           .checkedBy(CheckFixed);
+
+extern constexpr ItemClass variableText = TextItem(PTRN_CHAR)
+                                              .named("variable-text")
+                                              .helped("text of a cell")
+                                              .schema(variableParms)
+                                              .drawnBy(DrawVariable)
+                                              .pressedBy(PressField)
+                                              .takesEntry()
+                                              .covers(FieldSize)
+                                              .checkedBy(CheckEntry);
+
+extern constexpr ItemClass numericField = TextItem(PTRN_NUMR)
+                                              .named("numeric")
+                                              .helped("number of a cell")
+                                              .schema(numericParms)
+                                              .drawnBy(DrawNumeric)
+                                              .pressedBy(PressField)
+                                              .takesEntry()
+                                              .covers(FieldSize)
+                                              .checkedBy(CheckNumeric);
+
+} // namespace items
+
+} // namespace tessary

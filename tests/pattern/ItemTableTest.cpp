@@ -1,19 +1,22 @@
 // What is registered for each item type.
 #include "pattern/ItemTable.h"
+#include "pattern/PtrnData.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
 
+using namespace tessary;
+
 namespace
 {
 
-std::vector<int> typesWhere(bool (*holds)(const ItemOps&))
+std::vector<int> typesWhere(bool (*holds)(const ItemClass&))
 {
     std::vector<int> types;
     for (int type = 1; type <= CONT_PTRN; ++type)
-        if (holds(*FindItemOps(type)))
+        if (holds(*FindItemClass(type)))
             types.push_back(type);
     return types;
 }
@@ -26,72 +29,64 @@ TEST(ItemTable, lists_the_types_in_drawing_order)
 {
     EXPECT_THAT(TypeTabl, ElementsAre(1, 3, 4, 5, 2, 12, 13, 14, 15, 9, 10, 11, 6, 7, 8));
     for (int rank = 0; rank < CONT_PTRN; ++rank)
-        EXPECT_EQ(ItemTable[rank].Type, +TypeTabl[rank]);
+        EXPECT_EQ(ItemRank(TypeTabl[rank]), rank);
 }
 
 TEST(ItemTable, finds_every_type_and_nothing_else)
 {
     for (int type = 1; type <= CONT_PTRN; ++type) {
-        ASSERT_NE(FindItemOps(type), nullptr) << type;
-        EXPECT_EQ(FindItemOps(type)->Type, type);
+        ASSERT_NE(FindItemClass(type), nullptr) << type;
+        EXPECT_EQ(FindItemClass(type)->type, type);
         EXPECT_EQ(+TypeTabl[ItemRank(type)], type);
     }
     for (const int type :
          {0, -1, CONT_PTRN + 1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        EXPECT_EQ(FindItemOps(type), nullptr) << type;
+        EXPECT_EQ(FindItemClass(type), nullptr) << type;
         EXPECT_EQ(ItemRank(type), -1) << type;
     }
 }
 
-TEST(ItemTable, draws_every_type_in_one_of_two_ways)
-{
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.DispUpdt != nullptr; }),
-                ElementsAre(6, 7, 8, 10, 11, 13, 14));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Disp != nullptr; }),
-                ElementsAre(1, 2, 3, 4, 5, 9, 12, 15));
-}
-
 TEST(ItemTable, erases_every_type_with_the_eraser_of_its_shape)
 {
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData01; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_GBOX)->erase; }),
                 ElementsAre(1, 5, 9, 12, 13, 14, 15));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData02; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_LINE)->erase; }),
                 ElementsAre(2));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData03; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_RECT)->erase; }),
                 ElementsAre(3));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData04; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_CRCL)->erase; }),
                 ElementsAre(4));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData06; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_FCHR)->erase; }),
                 ElementsAre(6, 7, 8));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Cler == &CPtrnData::ClerPtrnData10; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.erase == FindItemClass(PTRN_RDIO)->erase; }),
                 ElementsAre(10, 11));
 }
 
 TEST(ItemTable, blinks_texts_and_marks_only)
 {
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Flik == &CPtrnData::FlikPtrnData06; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.blink == FindItemClass(PTRN_FCHR)->blink; }),
                 ElementsAre(6, 7, 8));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Flik == &CPtrnData::FlikPtrnData13; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.blink == FindItemClass(PTRN_MARK)->blink; }),
                 ElementsAre(13));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Flik == nullptr; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.blink == nullptr; }),
                 ElementsAre(1, 2, 3, 4, 5, 9, 10, 11, 12, 14, 15));
 }
 
 TEST(ItemTable, tests_every_type_for_hits)
 {
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Test == &CPtrnData::TestPtrnData01; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.hit == FindItemClass(PTRN_GBOX)->hit; }),
                 ElementsAre(1, 3, 4, 5, 9, 12, 13, 14, 15));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Test == &CPtrnData::TestPtrnData02; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.hit == FindItemClass(PTRN_LINE)->hit; }),
                 ElementsAre(2));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Test == &CPtrnData::TestPtrnData06; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.hit == FindItemClass(PTRN_FCHR)->hit; }),
                 ElementsAre(6, 7, 8));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Test == &CPtrnData::TestPtrnData10; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.hit == FindItemClass(PTRN_RDIO)->hit; }),
                 ElementsAre(10, 11));
 }
 
 TEST(ItemTable, repeats_scroll_bars_and_spin_buttons_only)
 {
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return row.Part && row.Step; }), ElementsAre(14, 15));
-    EXPECT_THAT(typesWhere([](const ItemOps& row) { return !row.Part && !row.Step; }),
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return row.part && row.step; }), ElementsAre(14, 15));
+    EXPECT_THAT(typesWhere([](const ItemClass& row) { return !row.part && !row.step; }),
                 ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13));
 }

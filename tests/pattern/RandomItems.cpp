@@ -1,12 +1,14 @@
 #include "tests/pattern/RandomItems.h"
 
 #include "draw/Resource.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tests/support/Canvas.h"
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+
+using namespace tessary;
 
 namespace
 {
@@ -39,7 +41,7 @@ int randomParm(const ParmSchema& parm, Random& random)
 }
 
 /// Everything but the corners, each parameter by its row of the schema.
-void addParms(Pattern& pattern, const ItemSchema& schema, Random& random)
+void addParms(Pattern& pattern, const ItemClass& schema, Random& random)
 {
     for (const ParmSchema& parm : schema.parms)
         for (int variant = 0; variant < parm.count; ++variant)
@@ -249,7 +251,7 @@ void addAnyItem(Pattern& pattern, int type, Random& random, int width, int heigh
     const int x1 = x();
     const int y1 = y();
     pattern.item(type, x1, y1, random.oneIn(20) ? x1 : x(), random.oneIn(20) ? y1 : y());
-    addParms(pattern, *FindItemSchema(type), random);
+    addParms(pattern, *FindItemClass(type), random);
 }
 
 CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
@@ -257,7 +259,7 @@ CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
     x += margin;
     y += margin;
     pattern.item(type, x + areaWidth, y, x + random.below(areaWidth / 2), y + areaHeight);
-    addParms(pattern, *FindItemSchema(type), random);
+    addParms(pattern, *FindItemClass(type), random);
 
     switch (type) {
     case PTRN_GBOX:

@@ -1,6 +1,6 @@
 // Scroll bars and spin buttons of random sizes, ranges and values.
 #include "draw/Resource.h"
-#include "pattern/ScrollBar.h"
+#include "pattern/items/ScrollBar.h"
 #include "tests/pattern/LoadedPattern.h"
 #include "tests/pattern/Random.h"
 #include "tests/support/Canvas.h"
@@ -11,6 +11,8 @@
 #include <limits>
 #include <vector>
 #include <X11/keysym.h>
+
+using namespace tessary;
 
 namespace
 {

@@ -1,6 +1,6 @@
 // "ptn dump": what it writes builds the same bytes again.
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tests/ptn/Sources.h"
 #include "tests/support/PatternBuilder.h"
 #include "tests/support/Program.h"
@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
+
+using namespace tessary;
 
 namespace fs = std::filesystem;
 
@@ -167,9 +169,9 @@ Pattern RandomPattern(Random& random, const std::string& name)
         const int x = random.number(-100, 1000);
         const int y = random.number(-100, 700);
         pattern.item(type, x, y, x + random.number(-20, 300), y + random.number(-20, 200));
-        const ItemSchema* schema = FindItemSchema(type);
+        const ItemClass* schema = FindItemClass(type);
         for (int index = random.chance(10) ? 0 : 4; index < CONT_PARM; ++index)
-            pattern.parm(index, random.value(schema ? FindItemParm(*schema, index) : nullptr));
+            pattern.parm(index, random.value(schema ? schema->parm(index) : nullptr));
         pattern.text(random.text(100), random.text(100), random.text(100));
         pattern.code(random.chance(60) ? (random.chance(50) ? "A" : "B") : random.text(20),
                      random.chance(80) ? random.number(0, 4) : random.any());

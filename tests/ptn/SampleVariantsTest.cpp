@@ -1,11 +1,13 @@
 // The sample project shows everything that items can be: whatever a schema names is in use in some screen.
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tests/ptn/SampleScreens.h"
 
 #include <functional>
 #include <gmock/gmock.h>
 #include <set>
+
+using namespace tessary;
 
 using testing::IsEmpty;
 
@@ -37,7 +39,7 @@ class SampleVariants : public Sample
     Names missing(int type, const std::vector<Alternative>& alternatives) const
     {
         std::vector<Variant> combined = {
-            {FindItemSchema(type)->name, [](const SampleItem&) { return true; }}};
+            {FindItemClass(type)->name, [](const SampleItem&) { return true; }}};
         for (const Alternative& alternative : alternatives) {
             std::vector<Variant> longer;
             for (const Variant& start : combined)
@@ -82,13 +84,13 @@ Alternative valuesOf(const ParmSchema& parm)
 
 Alternative values(int type, const char* name)
 {
-    return valuesOf(*FindItemParm(*FindItemSchema(type), name));
+    return valuesOf(*FindItemClass(type)->parm(name));
 }
 
 /// Whether a number is 0 or not, for widths and limits with a meaning of their own for 0.
 Alternative zeroOrNot(int type, const char* name)
 {
-    const ParmSchema& parm = *FindItemParm(*FindItemSchema(type), name);
+    const ParmSchema& parm = *FindItemClass(type)->parm(name);
     return {is(parm, std::string(name) + " 0", 0),
             {std::string(name) + " not 0",
              [index = parm.index](const SampleItem& item) { return item.parm(index) != 0; }}};
@@ -112,7 +114,7 @@ Variant boundTo(const std::string& data)
 
 TEST_F(SampleVariants, every_type_is_in_use_with_each_of_its_choices_and_flags)
 {
-    for (const ItemSchema& item : ItemSchemas()) {
+    for (const ItemClass& item : ItemClasses()) {
         EXPECT_THAT(missing(item.type, {}), IsEmpty());
         for (const ParmSchema& parm : item.parms)
             EXPECT_THAT(missing(item.type, {valuesOf(parm)}), IsEmpty());
@@ -163,7 +165,7 @@ TEST_F(SampleVariants, marks_of_every_size_are_shown)
 
 TEST_F(SampleVariants, looks_follow_the_state_of_a_cell)
 {
-    for (const ItemSchema& item : ItemSchemas())
+    for (const ItemClass& item : ItemClasses())
         for (const char* name : {"color", "fill", "face", "bar", "mark"}) {
             const ParmSchema* parm = FindParm(item.parms, name);
             if (parm && parm->count == 4) {

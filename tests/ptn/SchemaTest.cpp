@@ -1,12 +1,15 @@
 // The schema of item and header parameters: nothing in it may contradict itself or the records.
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ActionTable.h"
+#include "pattern/ItemTable.h"
 
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
+
+using namespace tessary;
 
 namespace
 {
@@ -20,7 +23,7 @@ struct Table {
 std::vector<Table> Tables()
 {
     std::vector<Table> tables;
-    for (const ItemSchema& item : ItemSchemas()) {
+    for (const ItemClass& item : ItemClasses()) {
         Table table{item.name, {CommonParms().begin(), CommonParms().end()}};
         table.rows.insert(table.rows.end(), item.parms.begin(), item.parms.end());
         tables.push_back(table);
@@ -32,7 +35,7 @@ std::vector<Table> Tables()
 TEST(ItemSchema, has_one_row_for_each_type_in_the_order_of_their_numbers)
 {
     int type = PTRN_GBOX;
-    for (const ItemSchema& item : ItemSchemas())
+    for (const ItemClass& item : ItemClasses())
         EXPECT_EQ(item.type, type++) << item.name;
     EXPECT_EQ(type, CONT_PTRN + 1);
 }
@@ -129,7 +132,7 @@ TEST(ItemSchema, explains_everything_in_one_line)
     for (const Table& table : Tables())
         for (const ParmSchema& row : table.rows)
             EXPECT_TRUE(oneLine(row.help)) << table.name << ": " << row.name;
-    for (const ItemSchema& item : ItemSchemas())
+    for (const ItemClass& item : ItemClasses())
         EXPECT_TRUE(oneLine(item.help)) << item.name;
     for (const ActionSchema& action : Actions())
         EXPECT_TRUE(oneLine(action.help)) << action.name;
@@ -155,7 +158,7 @@ TEST(ItemSchema, has_only_names_that_need_no_quotes_in_the_sources)
 TEST(ItemSchema, places_attributes_where_the_named_indexes_are)
 {
     const auto index = [](const char* type, const char* name) {
-        const ParmSchema* parm = FindItemParm(*FindItemSchema(type), name);
+        const ParmSchema* parm = FindItemClass(type)->parm(name);
         return parm ? parm->index : -1;
     };
     EXPECT_EQ(index("group-box", "face"), GBOX_FACE4);
@@ -177,14 +180,14 @@ TEST(ItemSchema, places_attributes_where_the_named_indexes_are)
 
 TEST(ItemSchema, finds_attributes_by_any_index_of_a_group_and_types_and_actions_by_number)
 {
-    const ItemSchema* mark = FindItemSchema(PTRN_MARK);
+    const ItemClass* mark = FindItemClass(PTRN_MARK);
     ASSERT_TRUE(mark);
-    EXPECT_STREQ(FindItemParm(*mark, MARK_NUMBER4 + 3)->name, "mark");
-    EXPECT_STREQ(FindItemParm(*mark, PARM_CLEAR)->name, "clear");
-    EXPECT_EQ(FindItemParm(*mark, 25), nullptr);
-    EXPECT_EQ(FindItemSchema(0), nullptr);
-    EXPECT_EQ(FindItemSchema(CONT_PTRN + 1), nullptr);
-    EXPECT_EQ(FindItemSchema("knob"), nullptr);
+    EXPECT_STREQ(mark->parm(MARK_NUMBER4 + 3)->name, "mark");
+    EXPECT_STREQ(mark->parm(PARM_CLEAR)->name, "clear");
+    EXPECT_EQ(mark->parm(25), nullptr);
+    EXPECT_EQ(FindItemClass(0), nullptr);
+    EXPECT_EQ(FindItemClass(CONT_PTRN + 1), nullptr);
+    EXPECT_EQ(FindItemClass("knob"), nullptr);
     EXPECT_STREQ(FindAction(16)->name, "stop");
     EXPECT_EQ(FindAction("open-application")->code, 8);
     EXPECT_EQ(FindAction(17), nullptr);

@@ -21,9 +21,6 @@ int Check(const std::filesystem::path& folder, const std::string& registry, Diag
 /// How messages call an item: "button at 16,64", in compiled patterns with its number.
 std::string ItemName(const PatternItem& item, std::size_t index);
 
-/// What an item covers when it is drawn, in all its languages.
-RECT DrawnRect(const PatternItem& item, const ProjectSource& project);
-
 /// Each item for itself: values, texts, cell, bitmap, font.
 void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);
 /// Only what would end the panel when it draws the pattern.

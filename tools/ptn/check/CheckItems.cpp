@@ -1,9 +1,10 @@
 #include "base/EucText.h"
+#include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/EucName.h"
-#include "tools/ptn/source/Placement.h"
+#include "tools/ptn/model/ItemFacts.h"
 
 #include <algorithm>
 
@@ -12,32 +13,6 @@ namespace ptn
 
 namespace
 {
-
-// What the drawing primitives refuse, which ends the program.
-bool EndsProgram(const ParmSchema& parm)
-{
-    constexpr int widest = 98;
-    switch (parm.kind) {
-    case ParmKind::Color:
-    case ParmKind::OptionalColor:
-    case ParmKind::Font:
-    case ParmKind::Mark:
-        return true;
-    case ParmKind::Pixels:
-        return parm.maximum == widest;
-    case ParmKind::Choice:
-        return std::string(parm.name) == "dash";
-    default:
-        return false;
-    }
-}
-
-bool IsValid(const ParmSchema& parm, int value)
-{
-    if (parm.kind == ParmKind::Bits)
-        return (value & ~parm.maximum) == 0;
-    return value >= parm.minimum && value <= parm.maximum;
-}
 
 class Checker
 {
@@ -53,15 +28,14 @@ class Checker
     {
         for (const ParmSchema& parm : parms) {
             const bool used = parm.enable < 0 || values[parm.enable] != 0;
-            if ((onlyFatal && !EndsProgram(parm)) || !used || parm.index == PARM_PASS ||
-                std::string(parm.name) == "last-mark")
+            if ((onlyFatal && !parm.fatal) || !used || parm.index == PARM_PASS || parm.written)
                 continue;
             for (int i = parm.index; i < parm.index + parm.count; ++i) {
-                if (IsValid(parm, values[i]))
+                if (parm.accepts(values[i]))
                     continue;
                 say(Quoted(parm.name) + " is " + std::to_string(values[i]) + ", outside " +
                     std::to_string(parm.minimum) + " to " + std::to_string(parm.maximum) +
-                    (EndsProgram(parm) ? ", which ends the panel when it is drawn" : "") + ". Correct it.");
+                    (parm.fatal ? ", which ends the panel when it is drawn" : "") + ". Correct it.");
                 break;
             }
         }
@@ -139,75 +113,11 @@ class Checker
     Diagnostics& diagnostics_;
 };
 
-void CheckRoom(const PatternItem& item, Checker& checker)
+void CheckRoom(const ItemFacts& facts, Checker& checker)
 {
-    if (!Placement::fits(item))
+    if (!facts.fits())
         checker.say("is too small for its frame and needle, which ends the panel when it is drawn. Make it "
                     "larger.");
-}
-
-// No number with decimals is shorter than "0.00".
-void CheckDecimals(const PatternItem& item, Checker& checker)
-{
-    const std::int32_t* parm = item.record.Parm;
-    const int decimals = parm[FIELD_DECIMALS];
-    const long long needed = decimals + 2LL;
-    if (item.record.Type == PTRN_NUMR && !parm[FIELD_HEX] && decimals > 0 && parm[FIELD_WIDTH] < needed)
-        checker.say("its field has " + std::to_string(parm[FIELD_WIDTH]) + " characters; a number with " +
-                    std::to_string(decimals) + " decimals needs " + std::to_string(needed) +
-                    " or more. Make 'width' larger.");
-}
-
-// What the parameters of single types may not be.
-void CheckType(const PatternItem& item, Checker& checker)
-{
-    const std::int32_t* parm = item.record.Parm;
-    switch (item.record.Type) {
-    case PTRN_SBAR:
-        if (parm[SBAR_TOTAL] == parm[SBAR_VISIBLE] || parm[SBAR_TOTAL] == 0)
-            checker.say("'total' is " + std::to_string(parm[SBAR_TOTAL]) + " and 'visible' " +
-                        std::to_string(parm[SBAR_VISIBLE]) +
-                        ", by which the thumb's place would be divided by zero. Make 'total' larger.");
-        break;
-    case PTRN_BARG:
-        if (parm[BARG_MINIMUM] >= parm[BARG_MAXIMUM] && (parm[BARG_MINIMUM] || parm[BARG_MAXIMUM]))
-            checker.say("'minimum' is not below 'maximum', so the bar stays empty. Exchange them.");
-        break;
-    case PTRN_SPIN:
-        if (parm[SPIN_MINIMUM] > parm[SPIN_MAXIMUM])
-            checker.say("'minimum' is above 'maximum', so the value jumps between them. Exchange them.");
-        break;
-    case PTRN_FCHR:
-        if (parm[FIELD_WIDTH] > 0 && Placement::longestText(item) > parm[FIELD_WIDTH])
-            checker.say("its text has " + std::to_string(Placement::longestText(item)) +
-                        " half-width characters and its field " + std::to_string(parm[FIELD_WIDTH]) +
-                        ". Shorten it, or make 'width' larger.");
-        break;
-    case PTRN_CHAR:
-    case PTRN_NUMR:
-        if (parm[FIELD_KEYENTRY] == 1 && item.code.empty())
-            checker.say("'entry' has nowhere to store what is typed. Name a cell with 'data'.");
-        CheckDecimals(item, checker);
-        break;
-    default:
-        break;
-    }
-}
-
-int FontOf(const PatternItem& item)
-{
-    switch (item.record.Type) {
-    case PTRN_FCHR:
-    case PTRN_CHAR:
-    case PTRN_NUMR:
-    case PTRN_BUTN:
-    case PTRN_RDIO:
-    case PTRN_CHCK:
-        static_assert(TEXT_FONT == BUTN_FONT && TEXT_FONT == CHECK_FONT);
-        return item.record.Parm[TEXT_FONT];
-    default:
-        return -1;
-    }
 }
 
 template <std::size_t N> std::string FieldOf(const char (&field)[N])
@@ -224,12 +134,12 @@ void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnos
     for (std::size_t i = 0; i < pattern.items.size(); ++i) {
         const PatternItem& item = pattern.items[i];
         Checker checker(item.place, ItemName(item, i), project, diagnostics);
-        const ItemSchema* schema = FindItemSchema(item.record.Type);
+        const ItemClass* schema = FindItemClass(item.record.Type);
         if (!schema)
             continue;
         checker.values(schema->parms, item.record.Parm, true);
         checker.values(CommonParms(), item.record.Parm, true);
-        CheckRoom(item, checker);
+        CheckRoom(ItemFacts(item, project.resources), checker);
     }
 }
 
@@ -253,9 +163,10 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
     for (std::size_t i = 0; i < pattern.items.size(); ++i) {
         const PatternItem& item = pattern.items[i];
         Checker checker(item.place, ItemName(item, i), project, diagnostics);
-        const ItemSchema* schema = FindItemSchema(item.record.Type);
+        const ItemClass* schema = FindItemClass(item.record.Type);
         if (!schema) {
-            checker.say("no such type, so nothing is drawn. Use a type from 1 to 15.");
+            checker.say("no such type, so nothing is drawn. Use a type from 1 to " +
+                        std::to_string(CONT_PTRN) + ".");
             continue;
         }
         checker.values(schema->parms, item.record.Parm);
@@ -272,8 +183,9 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         if (schema->text == ItemText::BitmapName)
             for (const std::string& text : item.texts)
                 checker.bitmap(text, "its bitmap");
-        if (FontOf(item) >= 0)
-            checker.font(FontOf(item));
+        const ItemFacts facts(item, project.resources);
+        if (facts.font() >= 0)
+            checker.font(facts.font());
         const ActionSchema* action = FindAction(item.record.ID_Type);
         if (!item.name.empty() && !(action && action->opens))
             checker.say("names the screen " + Quoted(EucToUtf8(item.name)) +
@@ -282,8 +194,8 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         if (!action)
             checker.say("action " + std::to_string(item.record.ID_Type) +
                         " does nothing. Use one from 0 to 16.");
-        CheckRoom(item, checker);
-        CheckType(item, checker);
+        CheckRoom(facts, checker);
+        facts.check([&checker](const std::string& what) { checker.say(what); });
     }
 }
 

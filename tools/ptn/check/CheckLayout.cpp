@@ -1,11 +1,12 @@
 #include "base/EucText.h"
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
+#include "tools/ptn/model/ItemFacts.h"
 
 #include <algorithm>
 #include <map>
+#include <memory>
 
 namespace ptn
 {
@@ -13,39 +14,10 @@ namespace ptn
 namespace
 {
 
-// Whether what it shows decides how large it is.
-bool IsText(int type)
-{
-    return type == PTRN_FCHR || type == PTRN_CHAR || type == PTRN_NUMR || type == PTRN_RDIO ||
-           type == PTRN_CHCK;
-}
-
 bool Contains(const RECT& outer, const RECT& inner)
 {
     return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
            inner.bottom <= outer.bottom;
-}
-
-// Paints every pixel of its rectangle, in each of its states.
-bool IsOpaque(const PatternItem& item)
-{
-    const std::int32_t* parm = item.record.Parm;
-    switch (item.record.Type) {
-    case PTRN_GBOX:
-    case PTRN_BARG:
-    case PTRN_BUTN:
-    case PTRN_SPIN:
-        return true;
-    case PTRN_RECT:
-        return parm[SHAPE_FILLED] &&
-               std::none_of(parm + SHAPE_FILL4, parm + SHAPE_FILL4 + 4, [](int color) { return color < 0; });
-    case PTRN_BMAP:
-        return parm[BMAP_KEYED] == 0 && !item.texts[0].empty();
-    case PTRN_MARK:
-        return parm[MARK_BACKED] != 0;
-    default:
-        return false;
-    }
 }
 
 class Layout
@@ -54,14 +26,15 @@ class Layout
     Layout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
         : pattern_(pattern), diagnostics_(diagnostics)
     {
-        for (const PatternItem& item : pattern.items)
-            rects_.push_back(DrawnRect(item, project));
-        project_ = &project;
+        for (const PatternItem& item : pattern.items) {
+            facts_.push_back(std::make_unique<ItemFacts>(item, project.resources));
+            rects_.push_back(facts_.back()->drawnRect());
+        }
     }
 
     void checkPlaces();
     void checkFrames();
-    void checkRadios();
+    void checkChoices();
     void checkHidden();
 
   private:
@@ -73,8 +46,8 @@ class Layout
     std::size_t rank(std::size_t index) const;
 
     const Pattern& pattern_;
-    const ProjectSource* project_;
     Diagnostics& diagnostics_;
+    std::vector<std::unique_ptr<ItemFacts>> facts_;
     std::vector<RECT> rects_;
 };
 
@@ -103,29 +76,19 @@ void Layout::checkPlaces()
 void Layout::checkFrames()
 {
     for (std::size_t i = 0; i < rects_.size(); ++i) {
-        const PatternItem& item = pattern_.items[i];
         const RECT& rect = rects_[i];
-        if (item.record.Type == PTRN_BUTN) {
-            const std::int32_t* parm = item.record.Parm;
-            const int indent = parm[BUTN_POST_ON] ? parm[BUTN_POST] : 0;
-            std::size_t longest = 0;
-            for (const std::string& text : item.texts)
-                longest = std::max(longest, text.size());
-            const int width =
-                indent + project_->resources.fontCell(parm[BUTN_FONT]).cx * static_cast<int>(longest);
-            if (width > rect.width)
-                say(i, "its caption needs " + std::to_string(width) + " pixels and has " +
-                           std::to_string(rect.width) + ". Shorten it or widen the button.");
-        }
-        if (!IsText(item.record.Type))
+        const int caption = facts_[i]->captionWidth();
+        if (caption > rect.width)
+            say(i, "its caption needs " + std::to_string(caption) + " pixels and has " +
+                       std::to_string(rect.width) + ". Shorten it or widen the button.");
+        if (!facts_[i]->isText())
             continue;
         const RECT* frame = nullptr;
         for (std::size_t j = 0; j < rects_.size(); ++j) {
-            const int type = pattern_.items[j].record.Type;
             const RECT& box = rects_[j];
             const bool begins =
                 rect.left > box.left && rect.left < box.right && rect.top > box.top && rect.top < box.bottom;
-            if ((type == PTRN_GBOX || type == PTRN_RECT) && begins &&
+            if (facts_[j]->isFrame() && begins &&
                 (!frame || 1LL * box.width * box.height < 1LL * frame->width * frame->height))
                 frame = &box;
         }
@@ -136,15 +99,16 @@ void Layout::checkFrames()
     }
 }
 
-void Layout::checkRadios()
+void Layout::checkChoices()
 {
-    std::map<std::tuple<std::string, int, int>, std::size_t> known;
+    std::map<std::tuple<int, std::string, int, int>, std::size_t> known;
     for (std::size_t i = 0; i < pattern_.items.size(); ++i) {
         const PatternItem& item = pattern_.items[i];
-        if (item.record.Type != PTRN_RDIO || item.code.empty())
+        const ItemClass* type = facts_[i]->type();
+        if (!type || type->choiceParm < 0 || item.code.empty())
             continue;
-        const int value = item.record.Parm[RDIO_VALUE];
-        const auto added = known.emplace(std::make_tuple(item.code, item.record.ID_No, value), i);
+        const int value = item.record.Parm[type->choiceParm];
+        const auto added = known.emplace(std::make_tuple(type->type, item.code, item.record.ID_No, value), i);
         if (!added.second)
             say(i, "has the value " + std::to_string(value) + ", as the " +
                        ItemName(pattern_.items[added.first->second], added.first->second) +
@@ -165,14 +129,15 @@ void Layout::checkHidden()
     for (std::size_t i = 0; i < rects_.size(); ++i) {
         const PatternItem& below = pattern_.items[i];
         const bool empty = rects_[i].width <= 0 && rects_[i].height <= 0;
-        if (empty || !FindItemSchema(below.record.Type))
+        if (empty || !facts_[i]->type())
             continue;
         for (std::size_t j = 0; j < rects_.size(); ++j) {
             const PatternItem& above = pattern_.items[j];
             // An item with a cell of its own may be hidden while the program runs.
             const bool stays =
                 above.code.empty() || (above.code == below.code && above.record.ID_No == below.record.ID_No);
-            if (i == j || !stays || !IsOpaque(above) || rank(j) < rank(i) || !Contains(rects_[j], rects_[i]))
+            if (i == j || !stays || !facts_[j]->isOpaque() || rank(j) < rank(i) ||
+                !Contains(rects_[j], rects_[i]))
                 continue;
             say(i, "is hidden below the " + ItemName(above, j) +
                        ", which is drawn later. Move one of them, or draw it in the front pass.");
@@ -188,7 +153,7 @@ void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnosti
     Layout layout(pattern, project, diagnostics);
     layout.checkPlaces();
     layout.checkFrames();
-    layout.checkRadios();
+    layout.checkChoices();
     layout.checkHidden();
 }
 

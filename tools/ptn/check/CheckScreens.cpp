@@ -1,8 +1,9 @@
 #include "base/BuiltIn.h"
 #include "base/Constants.h"
 #include "base/EucText.h"
+#include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
 
 #include <map>

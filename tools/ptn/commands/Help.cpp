@@ -1,6 +1,7 @@
 #include "tools/ptn/commands/Help.h"
 
-#include "pattern/ItemSchema.h"
+#include "pattern/ActionTable.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/common/Diagnostics.h"
 
 #include <algorithm>
@@ -101,7 +102,7 @@ const char* TextHelp(ItemText text)
     return nullptr;
 }
 
-void PrintItem(const ItemSchema& item, std::ostream& out)
+void PrintItem(const ItemClass& item, std::ostream& out)
 {
     out << item.name << ": " << item.help << "\n\nOf its own:\n";
     if (const char* text = TextHelp(item.text))
@@ -133,14 +134,14 @@ bool PrintAttributes(const std::string& type, std::ostream& out)
         return true;
     }
     if (!type.empty()) {
-        const ItemSchema* item = FindItemSchema(type.c_str());
+        const ItemClass* item = FindItemClass(type.c_str());
         if (item)
             PrintItem(*item, out);
         return item != nullptr;
     }
     out << "An item: { type: TYPE, attribute: value, ... } or TYPE: { attribute: value, ... }\n\n"
            "Types of items (ptn help attributes TYPE):\n";
-    for (const ItemSchema& item : ItemSchemas())
+    for (const ItemClass& item : ItemClasses())
         out << "  " << std::left << std::setw(16) << item.name << item.help << "\n";
     out << "  " << std::left << std::setw(16) << "window"
         << "the window of a screen\n\nActions:\n";

@@ -1,6 +1,8 @@
 // What is wrong with the sources, collected so that one run reports everything it finds.
 #pragma once
 
+#include "tools/ptn/common/Framework.h"
+
 #include <iosfwd>
 #include <set>
 #include <string>

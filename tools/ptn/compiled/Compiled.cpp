@@ -1,7 +1,7 @@
 #include "tools/ptn/compiled/Compiled.h"
 
 #include "base/EucText.h"
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/common/Files.h"
 #include "tools/ptn/model/IniText.h"
 
@@ -39,7 +39,7 @@ Used UsedNumbers(const std::vector<Pattern>& patterns)
         Collect(HeaderParms(), pattern.header.Parm1, used);
         for (const PatternItem& item : pattern.items) {
             Collect(CommonParms(), item.record.Parm, used);
-            if (const ItemSchema* schema = FindItemSchema(item.record.Type))
+            if (const ItemClass* schema = FindItemClass(item.record.Type))
                 Collect(schema->parms, item.record.Parm, used);
         }
     }

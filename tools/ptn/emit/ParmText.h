@@ -1,7 +1,7 @@
 // Parameters as attributes: the reverse of Attributes.
 #pragma once
 
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/model/Resources.h"
 
 #include <array>

@@ -1,6 +1,7 @@
 #include "tools/ptn/emit/ScreenText.h"
 
 #include "base/EucText.h"
+#include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/emit/ParmText.h"
@@ -31,7 +32,7 @@ Parms ToParms(const std::int32_t* values)
 
 std::vector<SchemaTable<ParmSchema>> TablesOf(int type)
 {
-    const ItemSchema* schema = FindItemSchema(type);
+    const ItemClass* schema = FindItemClass(type);
     return schema ? std::vector<SchemaTable<ParmSchema>>{schema->parms, CommonParms()}
                   : std::vector<SchemaTable<ParmSchema>>{CommonParms()};
 }
@@ -55,7 +56,8 @@ class ItemWriter
   public:
     ItemWriter(const PatternItem& item, const ProjectSource& project, const Defaults& defaults,
                const std::set<std::string>& patterns)
-        : item_(item), project_(project), patterns_(patterns), schema_(FindItemSchema(item.record.Type))
+        : item_(item), project_(project), patterns_(patterns), schema_(FindItemClass(item.record.Type)),
+          facts_(item, project.resources)
     {
         const auto styled = schema_ ? defaults.find(schema_->name) : defaults.end();
         before_ = styled != defaults.end() ? styled->second : InitialParms(TablesOf(item.record.Type));
@@ -72,7 +74,8 @@ class ItemWriter
     const PatternItem& item_;
     const ProjectSource& project_;
     const std::set<std::string>& patterns_;
-    const ItemSchema* schema_;
+    const ItemClass* schema_;
+    ItemFacts facts_;
     Parms before_{};
     std::vector<std::string> parts_;
     std::vector<std::string> exact_;
@@ -84,11 +87,11 @@ void ItemWriter::writePlace(bool attributesSayAll)
     const std::int32_t* parm = item_.record.Parm;
     const std::vector<int> rect(parm, parm + 4);
     const bool upright = rect[0] <= rect[2] && rect[1] <= rect[3];
-    if (!attributesSayAll || !upright || !Placement::reaches(parm, 0, 0) || !Placement::fits(item_)) {
+    if (!attributesSayAll || !upright || !Placement::reaches(parm, 0, 0) || !facts_.fits()) {
         exact_.push_back("rect: " + YamlList(rect));
         return;
     }
-    const std::optional<SIZE> natural = Placement::naturalSize(item_, project_.resources);
+    const std::optional<SIZE> natural = facts_.naturalSize();
     if (natural && rect[0] + natural->cx == rect[2] && rect[1] + natural->cy == rect[3])
         parts_.push_back("at: " + YamlList(std::vector<int>{rect[0], rect[1]}));
     else
@@ -156,11 +159,12 @@ std::string ItemWriter::text()
     std::set<int> skip = corners;
     std::vector<std::string> left;
     // The build measures a text without a width.
-    if (type == PTRN_FCHR && before_.at(FIELD_WIDTH) == 0) {
-        before_.at(FIELD_WIDTH) = Placement::longestText(item_);
-        if (item_.record.Parm[FIELD_WIDTH] == 0 && before_.at(FIELD_WIDTH) != 0) {
-            skip.insert(FIELD_WIDTH);
-            left.push_back(std::to_string(FIELD_WIDTH) + ": 0");
+    if (const int measured = schema_ ? schema_->measuredParm : -1;
+        measured >= 0 && before_.at(measured) == 0) {
+        before_.at(measured) = facts_.longestText();
+        if (item_.record.Parm[measured] == 0 && before_.at(measured) != 0) {
+            skip.insert(measured);
+            left.push_back(std::to_string(measured) + ": 0");
         }
     }
     const std::vector<std::string> attributes =
@@ -314,10 +318,10 @@ Defaults CommonStyles(const std::vector<Pattern>& patterns, const Resources& res
     }
     learn("window", {HeaderParms()}, windows, windowPlace);
     for (const auto& type : items)
-        if (const ItemSchema* schema = FindItemSchema(type.first)) {
+        if (const ItemClass* schema = FindItemClass(type.first)) {
             std::set<int> skip = corners;
-            if (type.first == PTRN_FCHR)
-                skip.insert(FIELD_WIDTH);
+            if (schema->measuredParm >= 0)
+                skip.insert(schema->measuredParm);
             learn(schema->name, TablesOf(type.first), type.second, skip);
         }
     text = styles.empty() ? "" : "styles:\n" + styles;

@@ -1,7 +1,7 @@
 // Attributes of items and windows: from their names in the sources to Parm.
 #pragma once
 
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/model/Resources.h"
 #include "tools/ptn/yaml/Source.h"
 

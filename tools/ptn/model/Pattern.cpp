@@ -1,6 +1,6 @@
 #include "tools/ptn/model/Pattern.h"
 
-#include "pattern/ItemSchema.h"
+#include "pattern/ItemTable.h"
 #include "tools/ptn/common/Bytes.h"
 
 #include <cstring>
@@ -69,7 +69,7 @@ std::optional<Pattern> ParsePattern(const std::string& name, const std::string& 
 
 std::string ItemLabel(const PatternItem& item, std::size_t index)
 {
-    const ItemSchema* schema = FindItemSchema(item.record.Type);
+    const ItemClass* schema = FindItemClass(item.record.Type);
     return "item " + std::to_string(index + 1) + " (" +
            (schema ? schema->name : "type " + std::to_string(item.record.Type)) + ")";
 }

@@ -103,9 +103,9 @@ void Resources::readMarks(const Source& section, const std::filesystem::path& fo
             continue;
         MARKDATA& mark = markData_.at(entry.number);
         if (entry.key == "art") {
-            ReadMarkArt(*text, markSize(entry.number), what, entry.value.place(), mark, diagnostics);
+            ReadMarkArt(*text, MarkSize(entry.number), what, entry.value.place(), mark, diagnostics);
         } else if (entry.key == "image") {
-            ReadMarkImage(folder / *text, markSize(entry.number), what, entry.value.place(), mark,
+            ReadMarkImage(folder / *text, MarkSize(entry.number), what, entry.value.place(), mark,
                           diagnostics);
         } else if (std::string bytes; FromHex(*text, bytes) && bytes.size() == sizeof mark.mark) {
             std::copy(bytes.begin(), bytes.end(), mark.mark);
@@ -119,14 +119,6 @@ void Resources::readMarks(const Source& section, const std::filesystem::path& fo
 SIZE Resources::fontCell(int font) const
 {
     return font >= 0 && font < CONT_FONT ? fontCells_.at(font) : SIZE{0, 0};
-}
-
-SIZE Resources::markSize(int mark)
-{
-    // The built-in marks are as large as the smallest cell that radio buttons and check boxes draw them in.
-    if (mark < 0 || mark >= CONT_MARK)
-        return {16, 16};
-    return {MarkXsize[mark / SIZE_MARKGROUP], MarkYsize[mark / SIZE_MARKGROUP]};
 }
 
 std::string Resources::colorBytes() const

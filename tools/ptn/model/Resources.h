@@ -36,8 +36,6 @@ class Resources
 
     /// Cell of a font in pixels; (0, 0) for a number that is not defined.
     SIZE fontCell(int font) const;
-    /// Size of a mark in pixels.
-    static SIZE markSize(int mark);
     /// The X names of a font number in EUC-JP, one per language; empty when it is not defined.
     const std::array<std::string, 3>& fontNames(int font) const { return fontNames_.at(font); }
 

@@ -124,7 +124,7 @@ std::string Resources::marksYaml() const
             continue;
         const MARKDATA& mark = markData_.at(name.first);
         text += "  " + YamlScalar(name.second) + ":\n    no: " + std::to_string(name.first) + "\n";
-        const std::optional<std::string> art = MarkArt(mark, markSize(name.first));
+        const std::optional<std::string> art = MarkArt(mark, MarkSize(name.first));
         if (!art) {
             text += "    bytes: " + Hex(std::string(mark.mark, mark.mark + SIZE_MARK)) + "\n";
             continue;

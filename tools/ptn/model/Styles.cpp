@@ -17,10 +17,10 @@ Tables TablesOf(const std::string& style)
         return {HeaderParms()};
     if (style == "item")
         return {CommonParms()};
-    if (const ItemSchema* type = FindItemSchema(style.c_str()))
+    if (const ItemClass* type = FindItemClass(style.c_str()))
         return {type->parms, CommonParms()};
     Tables all = {CommonParms()};
-    for (const ItemSchema& type : ItemSchemas())
+    for (const ItemClass& type : ItemClasses())
         all.push_back(type.parms);
     return all;
 }

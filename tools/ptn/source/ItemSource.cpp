@@ -1,5 +1,6 @@
 #include "tools/ptn/source/ItemSource.h"
 
+#include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/source/Exact.h"
@@ -21,12 +22,16 @@ const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   
 const std::set<std::string> placeWords = {"x1", "y1", "x2", "y2", "x", "y", "from", "to", "pos", "position"};
 
 /// A type that only its number names has no attributes but the common ones.
-const ItemSchema unknownType = {0, "item of an unknown type", ItemText::None, {}, ""};
+const ItemClass unknownType = [] {
+    ItemClass type;
+    type.name = "item of an unknown type";
+    return type;
+}();
 
 class ItemReader
 {
   public:
-    ItemReader(const ItemContext& context, int type, const ItemSchema& schema, std::string label,
+    ItemReader(const ItemContext& context, int type, const ItemClass& schema, std::string label,
                const Source& source)
         : project_(context.project), styles_(context.styles), diagnostics_(context.diagnostics),
           schema_(schema), label_(std::move(label)),
@@ -51,7 +56,7 @@ class ItemReader
     const ProjectSource& project_;
     const Styles& styles_;
     Diagnostics& diagnostics_;
-    const ItemSchema& schema_;
+    const ItemClass& schema_;
     std::string label_;
     PatternItem item_;
     Attributes attributes_;
@@ -220,7 +225,7 @@ std::optional<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
 std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::string& label,
                               Diagnostics& diagnostics)
 {
-    if (entries.size() != 1 || !entries[0].value.isMap() || !FindItemSchema(entries[0].name.c_str()))
+    if (entries.size() != 1 || !entries[0].value.isMap() || !FindItemClass(entries[0].name.c_str()))
         return entries;
     std::vector<Entry> own = Entries(entries[0].value, label, diagnostics);
     own.insert(own.begin(), {"type", entries[0].place, Source(nullptr, YAML::Node(entries[0].name))});
@@ -234,7 +239,7 @@ std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entr
         std::find_if(entries.begin(), entries.end(), [](const Entry& entry) { return entry.name == "type"; });
     std::vector<std::string> names;
     std::string list;
-    for (const ItemSchema& schema : ItemSchemas()) {
+    for (const ItemClass& schema : ItemClasses()) {
         names.push_back(schema.name);
         list += (list.empty() ? "" : ", ") + names.back();
     }
@@ -245,7 +250,7 @@ std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entr
     }
     const std::string name = type->value.text();
     const std::optional<int> number = ParseInteger(name);
-    const ItemSchema* schema = number ? FindItemSchema(*number) : FindItemSchema(name.c_str());
+    const ItemClass* schema = number ? FindItemClass(*number) : FindItemClass(name.c_str());
     if (!schema && number)
         schema = &unknownType;
     if (!schema) {

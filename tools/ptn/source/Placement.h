@@ -1,9 +1,7 @@
 // Where an item lies: its corners, given by rectangle, by position and size, or by what it shows.
 #pragma once
 
-#include "pattern/ItemSchema.h"
-#include "tools/ptn/model/Pattern.h"
-#include "tools/ptn/model/Resources.h"
+#include "tools/ptn/model/ItemFacts.h"
 #include "tools/ptn/yaml/Source.h"
 
 #include <optional>
@@ -23,15 +21,8 @@ class Placement
     /// Writes the corners, when the item's other parameters and its texts are known. Without a size, texts,
     /// fields, radio buttons, check boxes and marks are as large as what they show.
     /// @return false, with an error reported, when the place is missing or can not be drawn
-    bool finish(PatternItem& item, const ItemSchema& schema, const Resources& resources,
+    bool finish(PatternItem& item, const ItemClass& schema, const Resources& resources,
                 const std::string& label, Diagnostics& diagnostics);
-
-    /// The size of what an item shows; none for items that fill whatever space they get.
-    static std::optional<SIZE> naturalSize(const PatternItem& item, const Resources& resources);
-    /// Bytes of the longest of an item's texts.
-    static int longestText(const PatternItem& item);
-    /// Whether the item has room for its own frame and needle.
-    static bool fits(const PatternItem& item);
 
     /// Whether corners that are moved that far are still coordinates.
     static bool reaches(const std::int32_t* parm, long long dx, long long dy);

@@ -1,6 +1,7 @@
 #include "tools/ptn/source/ScreenSource.h"
 
 #include "base/EucText.h"
+#include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/source/Exact.h"

@@ -1,16 +1,52 @@
-#include "pattern/ScrollBar.h"
+#include "pattern/items/ScrollBar.h"
 
 #include "base/Coord.h"
 #include "comndata/ComnData.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"
-#include "pattern/ItemParm.h"
+#include "pattern/items/ItemDraw.h"
+#include "pattern/Press.h"
 
 #include <algorithm>
+#include <X11/keysym.h>
+
+namespace tessary
+{
 
 namespace
 {
+
+constexpr int MAX_ROWS = 1000000;
+
+constexpr ParmChoice directionNames[] = {{"horizontal", 0}, {"vertical", 1}};
+
+constexpr ParmSchema parms[] = {
+    parm("light", SBAR_LIGHT).color().help("upper and left edges"),
+    parm("dark", SBAR_DARK).color().help("lower and right edges"),
+    parm("face", SBAR_FRAME).color().help("the bar"),
+    parm("thumb", SBAR_THUMB).color().help("the thumb"),
+    parm("arrows", SBAR_ARROWS).flag().initial(1).help("whether there are buttons for lines"),
+    parm("pages", SBAR_PAGES).flag().help("whether there are buttons for pages"),
+    parm("direction", SBAR_VERTICAL).choice(directionNames).help("which way it scrolls"),
+    parm("edge", SBAR_WIDTH).thickness().initial(1).help("thickness of the edges"),
+    parm("visible", SBAR_VISIBLE).count(0, MAX_ROWS).initial(10).help("entries that are visible at a time"),
+    parm("total", SBAR_TOTAL)
+        .count(0, MAX_ROWS)
+        .initial(100)
+        .help("entries in all; no bar while all are visible"),
+    parm("line-step", SBAR_LINE_STEP)
+        .count(0, MAX_ROWS)
+        .initial(1)
+        .help("step of arrow buttons, keys and wheel"),
+    parm("page-step", SBAR_PAGE_STEP).count(0, MAX_ROWS).initial(10).help("step of page buttons and keys"),
+    parm("trough-step", SBAR_TROUGH_STEP)
+        .count(0, MAX_ROWS)
+        .initial(10)
+        .help("step of a click beside the thumb"),
+    parm("current", SBAR_ROLE1).flag().help("whether a click makes it the current scroll bar"),
+    parm("keys", SBAR_KEYS).flag().help("whether it takes the scroll keys"),
+};
 
 /// Entries that do not fit: the last position of the bar.
 std::int64_t Range(const PTRNDATA& item)
@@ -60,6 +96,81 @@ int StepScrollBar(const PTRNDATA* item, int part)
     const std::int64_t distances[] = {0, -page, page, -line, line, 0, -trough, trough};
     return ScrollBy(item, part >= SCROLL_NONE && part <= SCROLL_TROUGH2 ? distances[part] : 0);
 }
+
+namespace
+{
+
+void Draw(CPtrnData& data, CDraw* draw, PTRNDATA* item, int)
+{
+    data.DispScrollBar(draw, item);
+}
+
+/// Where the bar that takes the scroll keys of its direction is remembered.
+std::int32_t& KeyBar(CPtrnData& data, const PTRNDATA& item)
+{
+    return item.Parm[SBAR_VERTICAL] ? data.ScrollPtrn3 : data.ScrollPtrn2;
+}
+
+int Press(CPtrnData& data, POINT point, PTRNDATA* item)
+{
+    if (item->Parm[SBAR_ROLE1])
+        data.ScrollPtrn1 = item->Recd;
+    if (item->Parm[SBAR_KEYS])
+        KeyBar(data, *item) = item->Recd;
+
+    const int part = data.TestScrollBar(point, item);
+    if (part == SCROLL_THUMB)
+        return PRESS_DRAG;
+    if (!CanScroll(*item) || !StepScrollBar(item, part))
+        return PRESS_NOTHING;
+    StartRepeat(data, *item, part);
+    return PRESS_ACTION;
+}
+
+int Wheel(CPtrnData&, int direction, PTRNDATA* item)
+{
+    if (IsHidden(*item) || !CanScroll(*item))
+        return 0;
+    const std::int64_t step = item->Parm[SBAR_LINE_STEP];
+    return ScrollBy(item, direction ? step : -step);
+}
+
+int PartAt(CPtrnData& data, POINT point, PTRNDATA* item)
+{
+    return data.TestScrollBar(point, item);
+}
+
+void Check(const ItemDraft& draft, const ItemRemark& remark)
+{
+    const int total = draft.parm[SBAR_TOTAL];
+    const int visible = draft.parm[SBAR_VISIBLE];
+    if (total == visible || total == 0)
+        remark("'total' is " + std::to_string(total) + " and 'visible' " + std::to_string(visible) +
+               ", by which the thumb's place would be divided by zero. Make 'total' larger.");
+}
+
+} // namespace
+
+namespace items
+{
+
+extern constexpr ItemClass scrollBar = item(PTRN_SBAR)
+                                           .named("scroll-bar")
+                                           .helped("edits the index of the first visible entry")
+                                           .schema(parms)
+                                           .drawnBy(Draw)
+                                           .erasedBy(EraseRect)
+                                           .hitBy(HitRect)
+                                           .pressedBy(Press)
+                                           .turnedBy(Wheel)
+                                           .heldBy(PartAt, StepScrollBar)
+                                           .checkedBy(Check);
+
+} // namespace items
+
+} // namespace tessary
+
+using namespace tessary;
 
 void CPtrnData::SetScrollBar(PTRNDATA* item)
 {
@@ -175,4 +286,52 @@ int CPtrnData::SetScrollPos(POINT point, PTRNDATA* item)
                                        : std::int64_t{SCrect6.width} - SCrect5.width;
     // A thumb that fills its trough can not be dragged.
     return room ? ScrollTo(item, Scale(moved, Range(*item), room)) : 0;
+}
+
+int CPtrnData::WheelToScroll(int direction, PTRNDATA* item)
+{
+    return Wheel(*this, direction, item);
+}
+
+int CPtrnData::ConvScrollKey(int key, PTRNDATA* item)
+{
+    struct KeyStep {
+        int Key;
+        bool Vertical;
+        int Present; ///< parameter that turns the key on
+        int Step;    ///< parameter with the distance
+        int Sign;
+    };
+    constexpr KeyStep steps[] = {
+        {XK_Left, false, SBAR_ARROWS, SBAR_LINE_STEP, -1},
+        {XK_Right, false, SBAR_ARROWS, SBAR_LINE_STEP, 1},
+        {XK_Up, true, SBAR_ARROWS, SBAR_LINE_STEP, -1},
+        {XK_Down, true, SBAR_ARROWS, SBAR_LINE_STEP, 1},
+        {XK_Page_Up, true, SBAR_PAGES, SBAR_PAGE_STEP, -1},
+        {XK_Page_Down, true, SBAR_PAGES, SBAR_PAGE_STEP, 1},
+    };
+    const bool vertical = item->Parm[SBAR_VERTICAL] != 0;
+    for (const KeyStep& step : steps)
+        if (step.Key == key && step.Vertical == vertical && item->Parm[step.Present])
+            return ScrollBy(item, std::int64_t{step.Sign} * item->Parm[step.Step]);
+    return 0;
+}
+
+int CPtrnData::SetScrollKey(int key, PTRNDATA* item)
+{
+    for (const int recd : {ScrollPtrn2, ScrollPtrn3}) {
+        if (recd >= 0 && recd < PtrnCont && ConvScrollKey(key, &PtrnData[recd])) {
+            *item = PtrnData[recd];
+            return 1;
+        }
+    }
+    for (int i = 0; i < PtrnCont; ++i) {
+        PTRNDATA& bar = PtrnData[i];
+        if (bar.Type == PTRN_SBAR && !IsHidden(bar) && bar.Parm[SBAR_KEYS] && ConvScrollKey(key, &bar)) {
+            KeyBar(*this, bar) = i;
+            *item = bar;
+            return 1;
+        }
+    }
+    return 0;
 }

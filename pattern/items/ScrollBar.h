@@ -3,6 +3,9 @@
 
 #include "pattern/PtrnData.h"
 
+namespace tessary
+{
+
 /// Parts of a scroll bar, TestScrollBar.
 enum ScrollPart {
     SCROLL_NONE = 0,
@@ -27,3 +30,5 @@ int ScrollBy(const PTRNDATA* item, std::int64_t distance);
 
 /// Moves it by the step that belongs to a part.
 int StepScrollBar(const PTRNDATA* item, int part);
+
+} // namespace tessary

@@ -3,6 +3,9 @@
 
 #include "pattern/PtrnData.h"
 
+namespace tessary
+{
+
 /// Parts of a spin button, TestSpinButn.
 enum SpinPart {
     SPIN_NONE = 0,
@@ -17,3 +20,5 @@ float SpinValue(float value, int part, float minimum, float maximum);
 /// One step of the button's cell between its own limits, both 0 included: such a button steps to 0.
 /// @return 1 when the cell's value changed
 int StepSpinButn(const PTRNDATA* item, int part);
+
+} // namespace tessary

@@ -1,0 +1,7 @@
+// Where the parameters of a bitmap lie in PTRNDATA::Parm.
+#pragma once
+
+enum BitmapParm {
+    BMAP_KEY_COLOR = 4,
+    BMAP_KEYED = 5,
+};
