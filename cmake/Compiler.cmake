@@ -16,7 +16,7 @@ endif()
 add_library(tessary_flags INTERFACE)
 target_compile_options(tessary_flags INTERFACE
   -finput-charset=UTF-8 -fexec-charset=EUC-JP
-  -Wall -Wextra -Werror -Wno-deprecated-declarations)
+  -Wall -Wextra -Wconversion -Wshadow -Wold-style-cast -Werror -Wno-deprecated-declarations)
 if(TESSARY_SANITIZE)
   target_compile_options(tessary_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

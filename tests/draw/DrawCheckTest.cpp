@@ -300,22 +300,22 @@ TEST(DrawContract, holds_at_both_ends_of_every_range)
     useFont(0, 16);
     useFont(19, 16);
     Canvas canvas(30, 30);
-    for (const int colr : {0, 99}) {
-        canvas->ClearScreen(colr);
-        canvas->DrawText(0, 0, 19, colr, colr, "A");
-        canvas->DrawText(0, 0, 0, colr, -1, "A");
-        canvas->ClearText(0, 0, 19, colr, "A");
-        canvas->DrawGbox(0, 0, 0, 0, 0, 98, 0, 98, colr, colr, colr, colr, colr);
-        canvas->DrawButn(0, 0, 0, 0, 98, colr, colr, colr, colr, 0, 19, "A");
-        canvas->DrawMark(0, 0, 9, 9, colr, colr, 0);
-        canvas->DrawMark(0, 0, 0, 0, colr, -1, 353);
-        canvas->DrawBmap(0, 0, 9, 9, colr, "");
+    for (const int end : {0, 99}) {
+        canvas->ClearScreen(end);
+        canvas->DrawText(0, 0, 19, end, end, "A");
+        canvas->DrawText(0, 0, 0, end, -1, "A");
+        canvas->ClearText(0, 0, 19, end, "A");
+        canvas->DrawGbox(0, 0, 0, 0, 0, 98, 0, 98, end, end, end, end, end);
+        canvas->DrawButn(0, 0, 0, 0, 98, end, end, end, end, 0, 19, "A");
+        canvas->DrawMark(0, 0, 9, 9, end, end, 0);
+        canvas->DrawMark(0, 0, 0, 0, end, -1, 353);
+        canvas->DrawBmap(0, 0, 9, 9, end, "");
         canvas->DrawBmap(0, 0, 9, 9, -1, nullptr);
         for (const int wide : {0, 98}) {
-            canvas->DrawRect(0, 0, 9, 9, wide, 0, colr, colr);
-            canvas->DrawCrcl(0, 0, 9, 9, wide, 0, colr, -1);
-            canvas->DrawLine(9, 9, 0, 0, 0, 98, 0, colr);
-            canvas->DrawLine(9, 9, 0, 0, 2, 1, 0, colr);
+            canvas->DrawRect(0, 0, 9, 9, wide, 0, end, end);
+            canvas->DrawCrcl(0, 0, 9, 9, wide, 0, end, -1);
+            canvas->DrawLine(9, 9, 0, 0, 0, 98, 0, end);
+            canvas->DrawLine(9, 9, 0, 0, 2, 1, 0, end);
         }
     }
     canvas->ClearScreen(99);

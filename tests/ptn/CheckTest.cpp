@@ -73,7 +73,7 @@ TEST_P(CheckItem, names_place_and_remedy)
     expectFinds(std::string("src/screens/a.yaml") + GetParam().message + "\n");
 }
 
-const MessageCase cases[] = {
+const MessageCase itemCases[] = {
     {"unknown_attribute", "  - { type: line, rect: [1, 1, 2, 2], colour: hot }\n",
      ":4: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
     {"character_that_euc_lacks", u8"  - { type: text, at: [1, 1], text: 한 }\n",
@@ -180,7 +180,7 @@ const MessageCase cases[] = {
      "or draw it in the front pass."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(cases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(itemCases), CaseName);
 
 TEST_F(Check, looks_at_the_window_too)
 {

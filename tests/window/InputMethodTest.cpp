@@ -31,13 +31,10 @@ struct FakeContext {
 struct FakeContextClass {
     GtkIMContextClass parent;
 };
-G_DEFINE_TYPE(FakeContext, fake_context, GTK_TYPE_IM_CONTEXT)
 
-void fake_context_init(FakeContext*) {}
-
-void fake_context_class_init(FakeContextClass* type)
+void setCalls(gpointer type, gpointer)
 {
-    GtkIMContextClass& calls = type->parent;
+    GtkIMContextClass& calls = static_cast<FakeContextClass*>(type)->parent;
     calls.filter_keypress = [](GtkIMContext*, GdkEventKey* event) -> gboolean {
         return method->key && method->key(event);
     };
@@ -51,6 +48,14 @@ void fake_context_class_init(FakeContextClass* type)
     calls.set_cursor_location = [](GtkIMContext*, GdkRectangle* area) { method->place = *area; };
 }
 
+GType fakeContextType()
+{
+    static const GType type =
+        g_type_register_static_simple(GTK_TYPE_IM_CONTEXT, "FakeContext", sizeof(FakeContextClass), setCalls,
+                                      sizeof(FakeContext), nullptr, GTypeFlags(0));
+    return type;
+}
+
 class InputMethod : public KeyEdit
 {
   protected:
@@ -58,7 +63,7 @@ class InputMethod : public KeyEdit
     {
         KeyEdit::SetUp();
         method = &own;
-        own.context = GTK_IM_CONTEXT(g_object_new(fake_context_get_type(), nullptr));
+        own.context = GTK_IM_CONTEXT(g_object_new(fakeContextType(), nullptr));
         SetInputMethod(own.context);
     }
 
