@@ -377,7 +377,7 @@ TEST_F(OldPicture, of_items_below_has_a_hole_where_one_has_been_hidden)
 TEST_F(OldPicture, of_a_frozen_item_stays_although_a_new_window_shows_the_new_one)
 {
     setText(1, "Tank");
-    for (int type = 1; type <= CONT_PTRN; ++type) {
+    for (int type = 1; type <= PTRN_SPIN; ++type) {
         if (type == PTRN_BMAP || type == PTRN_SPIN || type == PTRN_SBAR)
             continue; // look the same in every colour
         setState(1, 0);

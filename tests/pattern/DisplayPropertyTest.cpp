@@ -26,12 +26,13 @@ class PlainItems : public LoadedPattern
         useRandomArtwork(project, 1);
     }
 
-    /// Every type at least once, none on top of another; some share a cell, some are bound to nothing.
+    /// Every type that plain rules are known for at least once, none on top of another; some share a cell,
+    /// some are bound to nothing.
     Pattern randomPattern(Random& random)
     {
         Pattern pattern("p");
         for (int box = 0; box < columns * rows; ++box) {
-            const int type = box < CONT_PTRN ? box + 1 : random.between(1, CONT_PTRN);
+            const int type = box < PTRN_SPIN ? box + 1 : random.between(1, PTRN_SPIN);
             const CellRules changes =
                 addPlainItem(pattern, type, random, box % columns * boxWidth, box / columns * boxHeight);
             pattern.parm(PARM_PASS, random.oneIn(9) ? 2 : random.below(2));

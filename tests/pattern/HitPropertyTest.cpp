@@ -47,9 +47,7 @@ class HitItems : public LoadedPattern
     /// The topmost type first, within a type the first in the file; the upper pass first.
     int expected(POINT point)
     {
-        static constexpr int order[] = {PTRN_NUMR, PTRN_CHAR, PTRN_FCHR, PTRN_CHCK, PTRN_RDIO,
-                                        PTRN_BUTN, PTRN_SPIN, PTRN_SBAR, PTRN_MARK, PTRN_BMAP,
-                                        PTRN_LINE, PTRN_BARG, PTRN_CRCL, PTRN_RECT, PTRN_GBOX};
+        const std::vector<int> order(std::rbegin(TypeTabl), std::rend(TypeTabl));
         for (const int pass : {1, 0})
             for (const int type : order)
                 for (int i = 0; i < data().PtrnCont; ++i) {

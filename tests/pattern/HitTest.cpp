@@ -31,7 +31,7 @@ TEST_F(ItemHit, is_the_item_of_the_type_that_is_drawn_last)
     // Every type at the same place; the font's cell is large enough for texts and labels to cover the point.
     FontSize[0] = {20, 100};
     Pattern pattern("p");
-    for (int type = 1; type <= CONT_PTRN; ++type)
+    for (int type = 1; type <= PTRN_SPIN; ++type)
         pattern.item(type, 0, 0, 100, 100).action(1).parm(FIELD_WIDTH, 5);
     load(pattern);
 
@@ -123,7 +123,7 @@ TEST_F(ItemHit, is_never_an_item_of_another_pass_or_type)
              .item(PTRN_RECT, 0, 0, 99, 99)
              .action(1)
              .top(-1)
-             .item(16, 0, 0, 99, 99)
+             .item(PTRN_END, 0, 0, 99, 99)
              .action(1)
              .item(0, 0, 0, 99, 99)
              .action(1));

@@ -1,57 +1,37 @@
 #include "tests/support/PatternBuilder.h"
 
+#include "pattern/ItemTable.h"
+
 #include <stdexcept>
 #include <utility>
 
 namespace
 {
 
-using Colors = std::vector<int>; ///< parameters that hold their own index
-using Values = std::vector<std::pair<int, std::int32_t>>;
-
-struct Defaults {
+/// What the defaults of the schema would hide in a picture, or what is told apart better by another value.
+struct Different {
     int type;
-    Colors colors;
-    Values values;
+    int index;
+    std::int32_t value;
+};
+constexpr Different different[] = {
+    {PTRN_GBOX, GBOX_TOP_WIDTH, 2},   {PTRN_GBOX, GBOX_BOTTOM_WIDTH, 2}, {PTRN_GBOX, GBOX_LEFT_WIDTH, 2},
+    {PTRN_GBOX, GBOX_RIGHT_WIDTH, 2}, {PTRN_BARG, BARG_FRAME_WIDTH, 0},  {PTRN_CHAR, FIELD_WIDTH, 5},
+    {PTRN_NUMR, FIELD_WIDTH, 5},      {PTRN_RDIO, RDIO_VALUE, 1},        {PTRN_SBAR, SBAR_TROUGH_STEP, 5},
 };
 
-Colors fours(std::initializer_list<int> firsts, Colors singles = {})
+std::int32_t defaultOf(const tessary::ParmSchema& parm, int variant)
 {
-    for (const int first : firsts)
-        for (int c = 0; c < 4; ++c)
-            singles.push_back(first + c);
-    return singles;
+    switch (parm.kind) {
+    case tessary::ParmKind::Color:
+    case tessary::ParmKind::OptionalColor:
+        return parm.index + variant;
+    case tessary::ParmKind::Mark:
+        return parm.written ? 0 : CONT_MARK + variant;
+    default:
+        return parm.initial;
+    }
 }
-
-const Colors checkColors{CHECK_COLOR, CHECK_COLOR_LOCKED, CHECK_BACK, CHECK_BACK_LOCKED};
-
-const std::vector<Defaults> defaults{
-    {PTRN_GBOX, fours({GBOX_FACE4, GBOX_TOP4, GBOX_BOTTOM4, GBOX_LEFT4, GBOX_RIGHT4}),
-     Values{{GBOX_TOP_WIDTH, 2}, {GBOX_BOTTOM_WIDTH, 2}, {GBOX_LEFT_WIDTH, 2}, {GBOX_RIGHT_WIDTH, 2}}},
-    {PTRN_LINE, fours({LINE_COLOR4}), Values{{LINE_WIDTH, 1}}},
-    {PTRN_RECT, fours({SHAPE_OUTLINE4, SHAPE_FILL4}), Values{{SHAPE_WIDTH, 1}}},
-    {PTRN_CRCL, fours({SHAPE_OUTLINE4, SHAPE_FILL4}), Values{{SHAPE_WIDTH, 1}}},
-    {PTRN_BARG, fours({BARG_BAR4, BARG_BACK4}, {BARG_FRAME_COLOR}), Values{{BARG_MAXIMUM, 100}}},
-    {PTRN_FCHR, fours({TEXT_COLOR4, TEXT_BACK4}), Values{}},
-    {PTRN_CHAR, fours({TEXT_COLOR4, TEXT_BACK4}), Values{{FIELD_WIDTH, 5}}},
-    {PTRN_NUMR, fours({TEXT_COLOR4, TEXT_BACK4}), Values{{FIELD_WIDTH, 5}}},
-    {PTRN_BUTN, Colors{BUTN_LIGHT, BUTN_DARK, BUTN_FACE, BUTN_CAPTION, BUTN_CAPTION_LOCKED},
-     Values{{BUTN_WIDTH, 2}}},
-    {PTRN_RDIO, checkColors, Values{{RDIO_VALUE, 1}}},
-    {PTRN_CHCK, checkColors, Values{}},
-    {PTRN_BMAP, Colors{BMAP_KEY_COLOR}, Values{}},
-    {PTRN_MARK, fours({MARK_COLOR4, MARK_BACK4}),
-     Values{{MARK_NUMBER4, 350}, {MARK_NUMBER4 + 1, 351}, {MARK_NUMBER4 + 2, 352}, {MARK_NUMBER4 + 3, 353}}},
-    {PTRN_SBAR, Colors{SBAR_LIGHT, SBAR_DARK, SBAR_FRAME, SBAR_THUMB},
-     Values{{SBAR_ARROWS, 1},
-            {SBAR_WIDTH, 1},
-            {SBAR_VISIBLE, 10},
-            {SBAR_TOTAL, 100},
-            {SBAR_LINE_STEP, 1},
-            {SBAR_PAGE_STEP, 10},
-            {SBAR_TROUGH_STEP, 5}}},
-    {PTRN_SPIN, Colors{}, Values{{SPIN_MAXIMUM, 100}}},
-};
 
 template <typename Array> std::string ints(const Array& values)
 {
@@ -115,14 +95,13 @@ Pattern& Pattern::item(int type, int x1, int y1, int x2, int y2)
 {
     items_.emplace_back();
     last().type = type;
-    for (const Defaults& row : defaults) {
-        if (row.type != type)
-            continue;
-        for (const int color : row.colors)
-            parm(color, color);
-        for (const auto& [index, value] : row.values)
-            parm(index, value);
-    }
+    if (const tessary::ItemClass* schema = tessary::FindItemClass(type))
+        for (const tessary::ParmSchema& row : schema->parms)
+            for (int variant = 0; variant < row.count; ++variant)
+                parm(row.index + variant, defaultOf(row, variant));
+    for (const Different& row : different)
+        if (row.type == type)
+            parm(row.index, row.value);
     return parm4(PARM_X1, x1, y1, x2, y2).parm(PARM_CLEAR, PARM_CLEAR);
 }
 
