@@ -5,6 +5,7 @@
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"
 #include "draw/Resource.h"
+#include "draw/ResourceLoad.h"
 #include "draw/ToolkitPtr.h"
 #include "log/Logfile.h"
 
@@ -25,6 +26,8 @@ constexpr std::int64_t FILE_PIXELS_MAX = 100'000'000;
 
 /// Most names of missing bitmaps that are remembered.
 constexpr std::size_t MISSING_MAX = 1000;
+
+std::set<std::string> missing; ///< bitmaps that the log has named
 
 /// What becomes of an image's transparent pixels.
 enum class Alpha { Ignored, OneBit };
@@ -112,7 +115,6 @@ PixbufPtr FileImage(const std::string& path)
 /// Tells the log once about each bitmap that can not be loaded, not at every draw.
 void ReportMissing(const char* name)
 {
-    static std::set<std::string> missing;
     if (missing.size() >= MISSING_MAX || !missing.insert(name).second)
         return;
     char text[SIZE_LOGMESG2 + 2];
@@ -127,6 +129,11 @@ void SetMarkColor(int mark, int line, char key, int red, int green, int blue)
 }
 
 } // namespace
+
+void tessary::BitmapExit()
+{
+    missing.clear();
+}
 
 void CDraw::DrawMark(int xpos1, int ypos1, int xpos2, int ypos2, int colr1, int colr2, int mark)
 {

@@ -3,9 +3,12 @@
 #include "config/Settings.h"
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
+#include "draw/ToolkitPtr.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 #include <gdk/gdkx.h>
 #include <langinfo.h>
@@ -18,6 +21,13 @@ namespace
 {
 
 constexpr char kLog[] = "SYSTEM";
+
+/// What DrawFont points at. Never destroyed: the display may go before the program ends.
+std::array<FontPtr, CONT_FONT>& Fonts()
+{
+    static auto& fonts = *new std::array<FontPtr, CONT_FONT>;
+    return fonts;
+}
 
 /// Name of the profile key; 64 bits, because a language number may be as large as the profile can write it.
 std::string FontKey(int no)
@@ -47,13 +57,15 @@ std::string MissingCharsets(GdkFont* font)
 /// @return false when something of the font is missing
 bool LoadFont(int no, const std::string& key, const std::string& name)
 {
-    DrawFont[no] = gdk_fontset_load(name.c_str());
+    FontPtr& font = Fonts()[static_cast<std::size_t>(no)];
+    font.reset(gdk_fontset_load(name.c_str()));
+    DrawFont[no] = font.get();
     FontDataInit(no, name.c_str());
-    if (!DrawFont[no]) {
+    if (!font) {
         LogText(kLog, __FILE__, __LINE__, "フォントの読込みに失敗 [%s=%s]", key.c_str(), name.c_str());
         return false;
     }
-    const std::string missing = MissingCharsets(DrawFont[no]);
+    const std::string missing = MissingCharsets(font.get());
     if (missing.empty())
         return true;
     LogText(kLog, __FILE__, __LINE__, "フォントに文字集合がない [%s: %s]", key.c_str(), missing.c_str());
@@ -62,7 +74,7 @@ bool LoadFont(int no, const std::string& key, const std::string& name)
 
 } // namespace
 
-void FontInit()
+void tessary::FontInit()
 {
     int named = 0;
     bool complete = true;
@@ -87,13 +99,10 @@ void FontInit()
             __FILE__, __LINE__);
 }
 
-void FontExit()
+void tessary::FontExit()
 {
-    for (GdkFont*& font : DrawFont) {
-        if (font)
-            gdk_font_unref(font);
-        font = nullptr;
-    }
+    std::fill(std::begin(DrawFont), std::end(DrawFont), nullptr);
+    Fonts() = {};
     std::memset(FontSize, 0, sizeof FontSize);
 }
 

@@ -1,19 +1,30 @@
-// Colours of the button pictures.
+// Colours of the button pictures and bits of the cursors.
 #include "draw/Images.h"
 
+#include "base/Limits.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
-#include "draw/Resource.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <initializer_list>
+
+char XPM_Cursor1_data[SIZE_CURSOR], XPM_Cursor1_mask[SIZE_CURSOR];
+char XPM_Cursor2_data[SIZE_CURSOR], XPM_Cursor2_mask[SIZE_CURSOR];
+char XPM_Cursor3_data[SIZE_CURSOR], XPM_Cursor3_mask[SIZE_CURSOR];
+char XPM_Cursor4_data[SIZE_CURSOR], XPM_Cursor4_mask[SIZE_CURSOR];
+char XPM_Cursor5_data[SIZE_CURSOR], XPM_Cursor5_mask[SIZE_CURSOR];
+char XPM_Cursor6_data[SIZE_CURSOR], XPM_Cursor6_mask[SIZE_CURSOR];
+char XPM_Cursor7_data[SIZE_CURSOR], XPM_Cursor7_mask[SIZE_CURSOR];
+char XPM_Cursor8_data[SIZE_CURSOR], XPM_Cursor8_mask[SIZE_CURSOR];
 
 namespace
 {
 
 constexpr int SIZE_RRGGBB = 6;
-constexpr int SIZE_PROFTEXT = 100; // what the profile reader may store for one field
+constexpr int SIZE_PROFTEXT =
+    tessary::PROFILE_FIELD_MAX + 1; // what the profile reader may store for one field
 
 char builtin1[] = "  c #FFFFFF";
 char builtin2[] = ". c #C0C0C0";
@@ -24,8 +35,17 @@ char** const buttons[] = {
     XPM_RightArrow2, XPM_UpArrow1, XPM_UpArrow2,   XPM_DownArrow1, XPM_DownArrow2,
 };
 
-char** const cursors[CONT_CURSOR] = {
-    XPM_Cursor1, XPM_Cursor2, XPM_Cursor3, XPM_Cursor4, XPM_Cursor5, XPM_Cursor6, XPM_Cursor7, XPM_Cursor8,
+/// A cursor's picture and what it is made into.
+struct CursorBits {
+    char** xpm;
+    char* data;
+    char* mask;
+};
+constexpr CursorBits cursors[] = {
+    {XPM_Cursor1, XPM_Cursor1_data, XPM_Cursor1_mask}, {XPM_Cursor2, XPM_Cursor2_data, XPM_Cursor2_mask},
+    {XPM_Cursor3, XPM_Cursor3_data, XPM_Cursor3_mask}, {XPM_Cursor4, XPM_Cursor4_data, XPM_Cursor4_mask},
+    {XPM_Cursor5, XPM_Cursor5_data, XPM_Cursor5_mask}, {XPM_Cursor6, XPM_Cursor6_data, XPM_Cursor6_mask},
+    {XPM_Cursor7, XPM_Cursor7_data, XPM_Cursor7_mask}, {XPM_Cursor8, XPM_Cursor8_data, XPM_Cursor8_mask},
 };
 
 /// The colour lines of one family of pictures, which share a profile key.
@@ -65,6 +85,24 @@ void SetXpmColr(char** xpm, int no, char* colr1, char* colr2, char* colr3)
     ReplaceColor(xpm[3], colr3, "X c #%s", text3);
 }
 
+void MakeCursor(char** xpm, char* data, char* mask)
+{
+    constexpr int side = 32;
+    std::memset(data, 0, SIZE_CURSOR);
+    std::memset(mask, 0, SIZE_CURSOR);
+    for (int row = 0; row < side; ++row) {
+        const char* pixels = xpm[4 + row];
+        for (int column = 0; column < side && pixels[column]; ++column) {
+            const int at = row * (side / 8) + column / 8;
+            const int bit = 1 << column % 8;
+            if (pixels[column] != ' ')
+                mask[at] = static_cast<char>(mask[at] | bit);
+            if (pixels[column] == 'X')
+                data[at] = static_cast<char>(data[at] | bit);
+        }
+    }
+}
+
 void XPM_DataInit()
 {
     XPM_DataExit();
@@ -77,8 +115,8 @@ void XPM_DataInit()
                        XPM_UpArrow2, XPM_DownArrow1, XPM_DownArrow1})
         OverrideColors(xpm, 3, arrow);
 
-    for (int n = 0; n < CONT_CURSOR; ++n)
-        MakeCursor(cursors[n], CursorData[n], CursorMask[n]);
+    for (const CursorBits& cursor : cursors)
+        MakeCursor(cursor.xpm, cursor.data, cursor.mask);
 }
 
 void XPM_DataExit()
@@ -87,5 +125,12 @@ void XPM_DataExit()
         xpm[1] = builtin1;
         xpm[2] = builtin2;
         xpm[3] = builtin3;
+    }
+    printer = {};
+    spinButn = {};
+    arrow = {};
+    for (const CursorBits& cursor : cursors) {
+        std::fill_n(cursor.data, SIZE_CURSOR, '\0');
+        std::fill_n(cursor.mask, SIZE_CURSOR, '\0');
     }
 }

@@ -5,6 +5,8 @@
 constexpr int CONT_IMAGELINE = 1 + 3 + 32;
 /// Lines of a built-in mark: header, two colour lines, 16 rows.
 constexpr int CONT_BUILTINLINE = 1 + 2 + 16;
+/// Bytes of a cursor's one-bit picture: 32 rows of 4 bytes, the lowest bit leftmost.
+constexpr int SIZE_CURSOR = 128;
 /// Bytes of a colour line such as "X c #FF8000", its terminator included.
 constexpr int SIZE_XPMCOLR = 12;
 
@@ -38,20 +40,20 @@ extern char* XPM_Radio_ON[CONT_BUILTINLINE];
 extern char* XPM_Check_OFF[CONT_BUILTINLINE];
 extern char* XPM_Check_ON[CONT_BUILTINLINE];
 
-// Bits of the cursors, SIZE_CURSOR bytes each; CursorData and CursorMask point at them.
-extern char XPM_Cursor1_data[128], XPM_Cursor1_mask[128];
-extern char XPM_Cursor2_data[128], XPM_Cursor2_mask[128];
-extern char XPM_Cursor3_data[128], XPM_Cursor3_mask[128];
-extern char XPM_Cursor4_data[128], XPM_Cursor4_mask[128];
-extern char XPM_Cursor5_data[128], XPM_Cursor5_mask[128];
-extern char XPM_Cursor6_data[128], XPM_Cursor6_mask[128];
-extern char XPM_Cursor7_data[128], XPM_Cursor7_mask[128];
-extern char XPM_Cursor8_data[128], XPM_Cursor8_mask[128];
+// Bits of the cursors: picture and mask.
+extern char XPM_Cursor1_data[SIZE_CURSOR], XPM_Cursor1_mask[SIZE_CURSOR];
+extern char XPM_Cursor2_data[SIZE_CURSOR], XPM_Cursor2_mask[SIZE_CURSOR];
+extern char XPM_Cursor3_data[SIZE_CURSOR], XPM_Cursor3_mask[SIZE_CURSOR];
+extern char XPM_Cursor4_data[SIZE_CURSOR], XPM_Cursor4_mask[SIZE_CURSOR];
+extern char XPM_Cursor5_data[SIZE_CURSOR], XPM_Cursor5_mask[SIZE_CURSOR];
+extern char XPM_Cursor6_data[SIZE_CURSOR], XPM_Cursor6_mask[SIZE_CURSOR];
+extern char XPM_Cursor7_data[SIZE_CURSOR], XPM_Cursor7_mask[SIZE_CURSOR];
+extern char XPM_Cursor8_data[SIZE_CURSOR], XPM_Cursor8_mask[SIZE_CURSOR];
 
 /// Gives every button picture the colours that the profile file sets and makes the bits of the cursors.
 void XPM_DataInit();
 
-/// Gives every button picture its own three colours again.
+/// Gives every button picture its own three colours again and clears the bits of the cursors.
 void XPM_DataExit();
 
 /// Replaces colours of one picture by those of the profile key "XPM_COLR" + `no` of section "COLOR", three

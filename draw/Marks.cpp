@@ -62,7 +62,7 @@ void MarkDataInit()
     CopyLines(Mark_XPM[CONT_MARK + 3], XPM_Check_ON);
 }
 
-void MarkExit()
+void tessary::MarkExit()
 {
     std::memset(MarkData, 0, sizeof MarkData);
     std::memset(Mark_XPM, 0, sizeof Mark_XPM);

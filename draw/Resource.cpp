@@ -9,6 +9,8 @@
 
 #include <cstring>
 
+using namespace tessary;
+
 COLRDATA ColrData[CONT_COLR];
 GdkColor DrawColr[CONT_COLR];
 int DispSizeX;
@@ -55,6 +57,7 @@ void DrawCntlExit()
     std::memset(DrawColr, 0, sizeof DrawColr);
     FontExit();
     MarkExit();
-    CursorExit();
+    CursorColorExit();
+    BitmapExit();
     XPM_DataExit();
 }

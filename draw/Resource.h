@@ -4,6 +4,7 @@
 
 #include "base/Constants.h"
 #include "base/Types.h"
+#include "draw/Images.h"
 
 #include <gdk/gdk.h>
 
@@ -43,8 +44,6 @@ constexpr int SIZE_MARKGROUP = 50;
 static_assert(CONT_MARKGROUP * SIZE_MARKGROUP == CONT_MARK);
 
 constexpr int CONT_CURSOR = 8;
-/// Bytes of a cursor's one-bit picture: 32 rows of 4 bytes, the lowest bit leftmost.
-constexpr int SIZE_CURSOR = 128;
 
 /// Colours as the project's file has them, and the same allocated in the system colormap. All black
 /// when the file is missing or short.

@@ -1,6 +1,9 @@
 // Steps of DrawCntlInit and DrawCntlExit that lie in the file of their resource. Nobody else calls them.
 #pragma once
 
+namespace tessary
+{
+
 /// Loads the font sets of `Language` and fills `DrawFont` and `FontSize`; the log tells what is missing.
 void FontInit();
 
@@ -9,4 +12,9 @@ void CursorColorInit();
 
 void FontExit();
 void MarkExit();
-void CursorExit();
+void CursorColorExit();
+
+/// Forgets which bitmaps the log has named as missing.
+void BitmapExit();
+
+} // namespace tessary

@@ -15,3 +15,8 @@ using GcPtr = ObjectPtr<GdkGC>;
 using PixmapPtr = ObjectPtr<GdkPixmap>;
 using BitmapPtr = ObjectPtr<GdkBitmap>;
 using PixbufPtr = ObjectPtr<GdkPixbuf>;
+
+struct FontUnref {
+    void operator()(GdkFont* font) const { gdk_font_unref(font); }
+};
+using FontPtr = std::unique_ptr<GdkFont, FontUnref>;

@@ -442,6 +442,16 @@ TEST_F(DrawBmap, of_a_file_that_is_missing_draws_nothing_and_is_reported_once)
     EXPECT_EQ(reports("missing2.ppm"), 1);
 }
 
+TEST_F(DrawBmap, of_a_file_that_is_missing_is_reported_again_after_the_resources_were_given_back)
+{
+    project.start();
+    canvas->DrawBmap(10, 12, 22, 22, NONE, "missing3.ppm");
+    DrawCntlExit();
+    canvas->DrawBmap(10, 12, 22, 22, NONE, "missing3.ppm");
+    canvas->DrawBmap(10, 12, 22, 22, NONE, "missing3.ppm");
+    EXPECT_EQ(reports("missing3.ppm"), 2);
+}
+
 TEST_F(DrawBmap, of_a_file_that_is_no_picture_draws_nothing)
 {
     project.start();
