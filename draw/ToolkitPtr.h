@@ -20,3 +20,8 @@ struct FontUnref {
     void operator()(GdkFont* font) const { gdk_font_unref(font); }
 };
 using FontPtr = std::unique_ptr<GdkFont, FontUnref>;
+
+struct CursorUnref {
+    void operator()(GdkCursor* cursor) const { gdk_cursor_unref(cursor); }
+};
+using CursorPtr = std::unique_ptr<GdkCursor, CursorUnref>;

@@ -160,16 +160,13 @@ void CPtrnDisp::PtrnSetCursor(int type, const char* file, int line)
 {
     CursorType = type;
     if (type >= 0 && type < CONT_CURSOR && DrawArea && DrawArea->window) {
-        // One cursor for all windows, made anew at every call: a screen class changes the pointer by storing
-        // another number, and the next tick brings it to the screen.
-        static GdkCursor* cursor = nullptr;
-        if (cursor)
-            gdk_cursor_unref(cursor);
+        // Made anew at every call: a screen class changes the pointer by storing another number, and the next
+        // tick brings it to the screen. The window keeps its cursor until it gets another.
         const BitmapPtr source = DrawnBitmap(CursorData[type]);
         const BitmapPtr mask(gdk_bitmap_create_from_data(nullptr, CursorMask[type], 32, 32));
-        cursor = gdk_cursor_new_from_pixmap(source.get(), mask.get(), &CusrColr[0], &CusrColr[1],
-                                            CursorHome[type].x, CursorHome[type].y);
-        gdk_window_set_cursor(DrawArea->window, cursor);
+        const CursorPtr cursor(gdk_cursor_new_from_pixmap(
+            source.get(), mask.get(), &CusrColr[0], &CusrColr[1], CursorHome[type].x, CursorHome[type].y));
+        gdk_window_set_cursor(DrawArea->window, cursor.get());
     }
     if (file)
         LogText("PTRNDISP", file, line, "カーソル設定  [%d]", type);
