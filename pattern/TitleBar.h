@@ -1,5 +1,25 @@
-// Texts of the title bar's clock.
+// What the title bar says and what it is asked.
 #pragma once
+
+namespace tessary
+{
+
+/// What CPtrnData::TestTitle is asked about.
+enum TitleQuestion {
+    TITLE_ANY = 0,   ///< the title bar as a whole
+    TITLE_LEFT = 1,  ///< the left button
+    TITLE_RIGHT = 2, ///< the right button
+};
+
+/// What CPtrnData::TestTitle answers.
+enum TitleHit {
+    TITLE_NOTHING = 0,
+    TITLE_LOGO = 1,     ///< for TITLE_ANY: the title bar
+    TITLE_HARDCOPY = 2, ///< the hard-copy button
+    TITLE_DRAG = 3,     ///< where the window can be dragged
+};
+
+} // namespace tessary
 
 /// Weekday names, indexed by the clock cell's weekday, 0 = Sunday.
 extern const char* const Week1[7]; ///< English

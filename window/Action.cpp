@@ -5,6 +5,9 @@
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 #include "window/Retire.h"
+#include "window/WindowCodes.h"
+
+using namespace tessary;
 
 namespace
 {
@@ -44,10 +47,30 @@ void CPtrnDisp::ExecMessage(PTRNDATA* item)
     }
 }
 
+void CPtrnDisp::SystemAction(const PTRNDATA& item)
+{
+    switch (item.ID_Type) {
+    case ACTION_OPEN_SYSTEM:
+        PtrnDispSysWnd(item.ID_Name, nullptr, 0);
+        break;
+    case ACTION_VERSION:
+        PtrnDispVersnWnd();
+        break;
+    case ACTION_MAINTENANCE:
+        PtrnDispMenteWnd();
+        break;
+    case ACTION_HARDCOPY:
+        ReqHardCopy(nullptr, 0);
+        break;
+    default:
+        break;
+    }
+}
+
 void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
 {
     switch (which) {
-    case 0:
+    case CLOSE_SELF:
         if (!ParentWnd)
             LogfileWrite(kLog, "最上位ウィンドウを閉じることはできません。", file, line);
         else if (PtrnType == KIND_CHILD1 || PtrnType == KIND_CHILD2)
@@ -55,8 +78,8 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
         else if (PtrnType == KIND_SYSTEM)
             PtrnDispSysWnd("", file, line);
         break;
-    case 1:
-    case 2:
+    case CLOSE_CHILD1:
+    case CLOSE_CHILD2:
         if (CPtrnDisp* child = Slot(which)) {
             child->PtrnExit();
             if (Slot(which) == child) // its exit hook may have opened another window here
@@ -64,11 +87,12 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
             RetirePtrnWnd(child);
             if (file)
                 LogfileWrite(kLog,
-                             which == 1 ? "子ウィンドウ（１）を閉じる。" : "子ウィンドウ（２）を閉じる。",
+                             which == CLOSE_CHILD1 ? "子ウィンドウ（１）を閉じる。"
+                                                   : "子ウィンドウ（２）を閉じる。",
                              file, line);
         }
         break;
-    case 3:
+    case CLOSE_SYSTEM:
         PtrnDispSysWnd("", nullptr, 0);
         if (file)
             LogfileWrite(kLog, "システムウィンドウを閉じる。", file, line);
@@ -81,11 +105,11 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
 void CPtrnDisp::PtrnSendMessage(int target, int mesg, const char* file, int line)
 {
     CPtrnDisp* receiver = nullptr;
-    if (target == 0)
+    if (target == MESSAGE_SELF)
         receiver = this;
-    else if (target == 1) // child 2 is reached only through target 1, while slot 1 is empty
+    else if (target == MESSAGE_CHILD)
         receiver = ChildWnd1 ? ChildWnd1 : ChildWnd2;
-    else if (target == 3)
+    else if (target == MESSAGE_PARENT)
         receiver = ParentWnd;
     if (receiver)
         receiver->PtrnMesgFunc(mesg);

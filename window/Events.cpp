@@ -4,22 +4,33 @@
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 #include "window/Retire.h"
+#include "window/WindowCodes.h"
 
 #include <gdk/gdkkeysyms.h>
 
+using namespace tessary;
+
 namespace
 {
+
+/// Buttons of the pointer as the server numbers them; the middle one does nothing.
+enum ServerButton : guint {
+    BUTTON_LEFT = 1,
+    BUTTON_RIGHT = 3,
+    BUTTON_WHEEL_UP = 4,
+    BUTTON_WHEEL_DOWN = 5,
+};
 
 /// One value for the modifiers: Shift first.
 int Modifiers(guint state)
 {
     if (state & GDK_SHIFT_MASK)
-        return 1;
+        return MODIFIER_SHIFT;
     if (state & GDK_CONTROL_MASK)
-        return 2;
+        return MODIFIER_CONTROL;
     if (state & GDK_MOD1_MASK)
-        return 4;
-    return 0;
+        return MODIFIER_ALT;
+    return MODIFIER_NONE;
 }
 
 POINT PointOf(double x, double y)
@@ -136,18 +147,18 @@ int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd)
     const POINT pt = PointOf(event->x, event->y);
     const int flags = Modifiers(event->state);
     switch (event->button) {
-    case 1:
+    case BUTTON_LEFT:
         wnd->LButtonDown(pt, flags);
         CatchUp(wnd, pt, flags);
         break;
-    case 3:
+    case BUTTON_RIGHT:
         wnd->RButtonDown(pt, flags);
         break;
-    case 4:
-        wnd->MouseWheel(pt, 0);
+    case BUTTON_WHEEL_UP:
+        wnd->MouseWheel(pt, WHEEL_UP);
         break;
-    case 5:
-        wnd->MouseWheel(pt, 1);
+    case BUTTON_WHEEL_DOWN:
+        wnd->MouseWheel(pt, WHEEL_DOWN);
         break;
     default:
         break;
@@ -160,10 +171,10 @@ int Mouse_Release(GtkWidget*, GdkEventButton* event, CPtrnDisp* wnd)
     const HandlerScope scope;
     const POINT pt = PointOf(event->x, event->y);
     const int flags = Modifiers(event->state);
-    if (event->button == 1) {
+    if (event->button == BUTTON_LEFT) {
         DragToRelease(wnd, *event);
         wnd->LButtonUp(pt, flags);
-    } else if (event->button == 3) {
+    } else if (event->button == BUTTON_RIGHT) {
         wnd->RButtonUp(pt, flags);
     }
     return TRUE;
@@ -173,9 +184,9 @@ int Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
     if (event->direction == GDK_SCROLL_UP)
-        wnd->MouseWheel(PointOf(event->x, event->y), 0);
+        wnd->MouseWheel(PointOf(event->x, event->y), WHEEL_UP);
     else if (event->direction == GDK_SCROLL_DOWN)
-        wnd->MouseWheel(PointOf(event->x, event->y), 1);
+        wnd->MouseWheel(PointOf(event->x, event->y), WHEEL_DOWN);
     return TRUE;
 }
 

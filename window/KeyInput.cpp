@@ -1,18 +1,23 @@
 // Editing a field: start, end, store, draw.
 #include "base/Coord.h"
 #include "base/EucText.h"
+#include "base/StateWord.h"
 #include "comndata/ComnData.h"
 #include "comndata/LimtData.h"
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
 #include "config/Profile.h"
 #include "log/LogText.h"
+#include "pattern/ItemCell.h"
 #include "pattern/ItemParm.h"
 #include "window/InputMethod.h"
 #include "window/KeyText.h"
 #include "window/PtrnDisp.h"
 
 #include <cstdlib>
+#include <string>
+
+using namespace tessary;
 
 namespace
 {
@@ -22,9 +27,9 @@ constexpr char kLog[] = "PTRNDISP";
 // What KeyInputDisp draws.
 enum KeyDraw { DRAW_BACK = 1, DRAW_TEXT = 2, DRAW_CURSOR = 4, DRAW_NO_CURSOR = 8 };
 
-const char* NameOf(int dataNo)
+std::string NameOf(int dataNo)
 {
-    static char name[SIZE_DTNONAME + 1];
+    char name[SIZE_DTNONAME];
     ConvertDtno(dataNo, name);
     return name;
 }
@@ -35,13 +40,13 @@ void CPtrnDisp::KeyInputStart(int dataNo, const char* file, int line)
 {
     PTRNDATA item;
     if (!PtrnReadData(dataNo, PTRN_CHAR, &item) && !PtrnReadData(dataNo, PTRN_NUMR, &item)) {
-        LogText(kLog, file, line, "キー入力開始に失敗  [%s]", NameOf(dataNo));
+        LogText(kLog, file, line, "キー入力開始に失敗  [%s]", NameOf(dataNo).c_str());
         return;
     }
-    if (item.wData >= STATE_DISABLE || item.Parm[FIELD_KEYENTRY] != 1)
+    if (!IsUsable(item.wData) || item.Parm[FIELD_KEYENTRY] != 1)
         return;
     if (file)
-        LogText(kLog, file, line, "キー入力開始  [%s]", NameOf(dataNo));
+        LogText(kLog, file, line, "キー入力開始  [%s]", NameOf(dataNo).c_str());
     KeyInputStart(&item);
 }
 
@@ -71,14 +76,12 @@ int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int l
     if (KeyInputCheck(static_cast<int>(key)) == 0)
         return 0;
     if (file)
-        LogText(kLog, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo));
+        LogText(kLog, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo).c_str());
 
     PTRNDATA item = KeyInputPtrn;
     if (Draw) {
         KeyInputDisp(Draw.get(), DRAW_NO_CURSOR);
-        item.wData = Get_wData(item.DataNo, nullptr, 0);
-        item.fData = Get_fData(item.DataNo, nullptr, 0);
-        CopyText(item.sData, Get_sData(item.DataNo, nullptr, 0));
+        ReadCell(&item);
         PtrnData->DispPtrnData(Draw.get(), &item, 1);
     }
     DropKeyInput();

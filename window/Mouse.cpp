@@ -4,8 +4,12 @@
 #include "comndata/MesgData.h"
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
+#include "pattern/TitleBar.h"
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
+#include "window/WindowCodes.h"
+
+using namespace tessary;
 
 namespace
 {
@@ -32,20 +36,22 @@ int CPtrnDisp::MouseEnable()
     return 1;
 }
 
-void CPtrnDisp::SystemAction(const PTRNDATA& item)
+bool CPtrnDisp::InTitle(POINT pt) const
 {
-    switch (item.ID_Type) {
-    case ACTION_OPEN_SYSTEM:
-        PtrnDispSysWnd(item.ID_Name, nullptr, 0);
-        break;
-    case ACTION_VERSION:
+    return PtrnData->TestTitle(pt, TITLE_ANY) != TITLE_NOTHING;
+}
+
+void CPtrnDisp::PressTitle(POINT pt)
+{
+    switch (PtrnData->TestTitle(pt, TITLE_LEFT)) {
+    case TITLE_LOGO:
         PtrnDispVersnWnd();
         break;
-    case ACTION_MAINTENANCE:
-        PtrnDispMenteWnd();
-        break;
-    case ACTION_HARDCOPY:
+    case TITLE_HARDCOPY:
         ReqHardCopy(nullptr, 0);
+        break;
+    case TITLE_DRAG:
+        MoveWindow1(pt);
         break;
     default:
         break;
@@ -57,39 +63,27 @@ void CPtrnDisp::LButtonDown(POINT pt, int flags)
     pt = Shifted(pt, Offset);
     ClearErrorMesg();
     ReqKeyReset();
-    if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 1, flags) == 1)
+    if (!InTitle(pt) && PtrnMouseFunc(pt, MOUSE_LEFT, flags) == 1)
         return;
     if (Closed) // the hook has closed this window
         return;
 
     const int index = PtrnData->TestPtrnData(pt);
     if (index < 0) {
-        switch (PtrnData->TestTitle(pt, 1)) {
-        case 1:
-            PtrnDispVersnWnd();
-            break;
-        case 2:
-            ReqHardCopy(nullptr, 0);
-            break;
-        case 3:
-            MoveWindow1(pt);
-            break;
-        default:
-            break;
-        }
+        PressTitle(pt);
         return;
     }
 
     PTRNDATA item = PtrnData->PtrnData[index];
     if (MouseEnable() == 1) {
         switch (PtrnData->LButtonDown(pt, &item)) {
-        case 1:
+        case PRESS_ACTION:
             ExecMessage(&item);
             break;
-        case 2:
+        case PRESS_KEYENTRY:
             KeyInputStart(&item);
             break;
-        case 3:
+        case PRESS_DRAG:
             MoveScrollBar1(&item);
             break;
         default:
@@ -106,14 +100,14 @@ void CPtrnDisp::RButtonDown(POINT pt, int flags)
     pt = Shifted(pt, Offset);
     ClearErrorMesg();
     ReqKeyReset();
-    if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 2, flags) == 1)
+    if (!InTitle(pt) && PtrnMouseFunc(pt, MOUSE_RIGHT, flags) == 1)
         return;
     if (Closed)
         return;
 
     const int index = PtrnData->TestPtrnData(pt);
     if (index < 0) {
-        if (PtrnData->TestTitle(pt, 2) == 1)
+        if (PtrnData->TestTitle(pt, TITLE_RIGHT) == TITLE_LOGO)
             PtrnDispMenteWnd();
         return;
     }
@@ -147,7 +141,7 @@ void CPtrnDisp::RButtonUp(POINT, int) {}
 void CPtrnDisp::MouseMove(POINT pt, int flags)
 {
     pt = Shifted(pt, Offset);
-    if (PtrnData->TestTitle(pt, 0) == 0 && PtrnMouseFunc(pt, 0, flags) == 1)
+    if (!InTitle(pt) && PtrnMouseFunc(pt, MOUSE_MOTION, flags) == 1)
         return;
     if (Closed)
         return;
@@ -170,7 +164,7 @@ int CPtrnDisp::MouseWheel(POINT pt, int direction)
         return 0;
 
     PTRNDATA item = PtrnData->PtrnData[index];
-    const tessary::ItemClass* type = tessary::FindItemClass(item.Type);
+    const ItemClass* type = FindItemClass(item.Type);
     if (!type || !type->wheel || type->wheel(*PtrnData, direction, &item) != 1)
         return 0;
     ExecMessage(&item);

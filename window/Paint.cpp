@@ -7,8 +7,11 @@
 #include "window/Buffer.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
+#include "window/WindowCodes.h"
 
 #include <algorithm>
+
+using namespace tessary;
 
 namespace
 {
@@ -41,7 +44,7 @@ void CPtrnDisp::PaintEvent()
     PtrnData->DispPtrnData(draw.get());
     if (KeyInputMode == 1)
         ShowKeyInput();
-    PtrnDispFunc(draw.get(), 0);
+    PtrnDispFunc(draw.get(), DISPLAY_PAINT);
 }
 
 void CPtrnDisp::ReleaseBuffer()
@@ -141,7 +144,7 @@ void CPtrnDisp::TimrEvent()
     PtrnData->DispCalender(draw.get());
     PtrnData->FlikPtrnData(draw.get());
     PtrnData->UpdtPtrnData(draw.get());
-    PtrnDispFunc(draw.get(), 1);
+    PtrnDispFunc(draw.get(), DISPLAY_TICK);
     if (!Pixmap)
         return;
     PtrnUpdate();

@@ -57,7 +57,7 @@ class CPtrnDisp
     virtual void PtrnInitFunc();
     /// When the window is exited, before its toolkit window goes.
     virtual void PtrnExitFunc();
-    /// @param mode  0 at the end of a full paint, 1 at every tick after the items
+    /// @param mode  DisplayMode: 0 at the end of a full paint, 1 at every tick after the items
     virtual void PtrnDispFunc(CDraw* draw, int mode);
     /// Every tick, before any drawing of that tick.
     virtual void PtrnTimrFunc();
@@ -65,7 +65,8 @@ class CPtrnDisp
     virtual void PtrnMesgFunc(int mesg);
     /// Right click on an item.
     virtual void PtrnRbtnFunc(int dataNo);
-    /// First, for every press and motion off the title bar. @param button 1 left, 2 right, 0 motion
+    /// First, for every press and motion off the title bar. @param button  MouseEvent: 1 left, 2 right, 0
+    /// motion
     /// @return 1 to keep the event from the items
     virtual int PtrnMouseFunc(POINT pt, int button, int flags);
     /// Never called by the framework.
@@ -120,7 +121,7 @@ class CPtrnDisp
     void LButtonUp(POINT pt, int flags);
     void RButtonUp(POINT pt, int flags);
     void MouseMove(POINT pt, int flags);
-    /// @param direction  0 up, 1 down. @return 1 when a value changed
+    /// @param direction  WheelDirection: 0 up, 1 down. @return 1 when a value changed
     int MouseWheel(POINT pt, int direction);
     void MouseLeave();
     /// 1 when the items may be operated: no system window and no modal child is open.
@@ -137,11 +138,12 @@ class CPtrnDisp
     /// Opens a child beside a rectangle or point of the screen, so that it stays on the display.
     void PtrnDispPopup(int which, const char* name, RECT rect, const char* file, int line);
     void PtrnDispPopup(int which, const char* name, POINT pt, const char* file, int line);
-    /// @param which  0 this window, 1 and 2 the children, 3 the system window
+    /// @param which  CloseTarget: 0 this window, 1 and 2 the children, 3 the system window
     void PtrnCloseWnd(int which, const char* file, int line);
-    /// @param target  0 this window, 1 child 1 or else child 2, 2 nobody, 3 the parent
+    /// @param target  MessageTarget: 0 this window, 1 child 1 or else child 2, 2 nobody, 3 the parent
     void PtrnSendMessage(int target, int mesg, const char* file, int line);
-    /// Scrolls the view of this window (0), a child (1, 2) or the parent (3).
+    /// Scrolls a view so that it begins at a point of its pattern.
+    /// @param target  ViewTarget: 0 this window, 1 and 2 the children, 3 the parent
     void PtrnSetOffset(int target, int x, int y, const char* file, int line);
     /// Sizes the scroll bar bound to `dataNo` for a list of `total` rows whose first visible row is `pos`.
     void PtrnSetScroll(int dataNo, int total, int pos, const char* file, int line);
@@ -207,6 +209,8 @@ class CPtrnDisp
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
     void PlaceWindow();
+    bool InTitle(POINT pt) const;
+    void PressTitle(POINT pt);
     void ExitChildren();
     void ReleaseBuffer();
     void ClearUncovered(RECT view);

@@ -1,17 +1,21 @@
 // What a screen class reads and sets of its own pattern: view offset, scroll bars, items, headers.
-#include "base/EucText.h"
+#include "base/StateWord.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
 #include "comndata/PtrnCode.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
 #include "log/LogText.h"
+#include "pattern/ItemCell.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnHedr.h"
 #include "window/PtrnDisp.h"
+#include "window/WindowCodes.h"
 
 #include <cstring>
 #include <string>
+
+using namespace tessary;
 
 namespace
 {
@@ -20,10 +24,13 @@ constexpr char kLog[] = "PTRNDISP";
 
 void CPtrnDisp::PtrnSetOffset(int target, int x, int y, const char* file, int line)
 {
-    if (target != 0) {
-        CPtrnDisp* const targets[] = {ChildWnd1, ChildWnd2, ParentWnd};
-        if (target >= 1 && target <= 3 && targets[target - 1])
-            targets[target - 1]->PtrnSetOffset(0, x, y, nullptr, 0);
+    if (target != VIEW_SELF) {
+        CPtrnDisp* const other = target == VIEW_CHILD1   ? ChildWnd1
+                                 : target == VIEW_CHILD2 ? ChildWnd2
+                                 : target == VIEW_PARENT ? ParentWnd
+                                                         : nullptr;
+        if (other)
+            other->PtrnSetOffset(VIEW_SELF, x, y, nullptr, 0);
         return;
     }
     Offset = {x, y};
@@ -65,10 +72,8 @@ void CPtrnDisp::PtrnDispData(CDraw* draw, int dataNo, int type)
         PTRNDATA item = PtrnData->PtrnData[i];
         if (item.DataNo != dataNo || (type != 0 && item.Type != type))
             continue;
-        item.wData = Get_wData(dataNo, nullptr, 0);
-        item.fData = Get_fData(dataNo, nullptr, 0);
-        CopyText(item.sData, Get_sData(dataNo, nullptr, 0));
-        if (item.wData & STATE_HIDDEN)
+        ReadCell(&item);
+        if (IsHidden(item.wData))
             PtrnData->ClerPtrnData(draw, &item);
         else
             PtrnData->DispPtrnData(draw, &item, 1);
@@ -89,7 +94,7 @@ int CPtrnDisp::PtrnTestData(POINT pt, int dataNo, int type)
 {
     for (int i = 0; i < PtrnData->PtrnCont; i++) {
         PTRNDATA& item = PtrnData->PtrnData[i];
-        if (item.Type == type && item.DataNo == dataNo && !(item.wData & STATE_HIDDEN) &&
+        if (item.Type == type && item.DataNo == dataNo && !IsHidden(item.wData) &&
             PtrnData->TestPtrnData(pt, &item))
             return 1;
     }
