@@ -5,13 +5,14 @@
 
 #include <algorithm>
 
+using namespace tessary;
+
 namespace
 {
 
-constexpr int kLongest = tessary::COORDINATE_MAX;
-constexpr int kLargest = 32 * 1024 * 1024;
+constexpr int kMostPixels = 32 * 1024 * 1024;
 /// Smaller ones are not refused by any server that shows their window.
-constexpr int kDoubtful = 4 * 1024 * 1024;
+constexpr int kDoubtfulPixels = 4 * 1024 * 1024;
 
 /// @return null when the server refuses it
 GdkPixmap* TryPixmap(GdkWindow* window, SIZE size)
@@ -31,7 +32,7 @@ GdkPixmap* TryPixmap(GdkWindow* window, SIZE size)
 
 GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
 {
-    if (size.cx * size.cy <= kDoubtful)
+    if (size.cx * size.cy <= kDoubtfulPixels)
         return gdk_pixmap_new(window, size.cx, size.cy, -1);
     if (GdkPixmap* pixmap = TryPixmap(window, size))
         return pixmap;
@@ -43,8 +44,8 @@ GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
 
 SIZE BoundedBuffer(int width, int height)
 {
-    const int cx = std::clamp(width, 1, kLongest);
-    return {cx, std::clamp(height, 1, std::min(kLongest, kLargest / cx))};
+    const int cx = std::clamp(width, 1, COORDINATE_MAX);
+    return {cx, std::clamp(height, 1, std::min(COORDINATE_MAX, kMostPixels / cx))};
 }
 
 std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)

@@ -213,7 +213,7 @@ int Mouse_Leave(GtkWidget*, GdkEventCrossing*, CPtrnDisp* wnd)
 int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 {
     const HandlerScope scope;
-    if (InputMethodFilter(widget, event))
+    if (DesktopMethod().filter(widget, event))
         return TRUE;
     // A modifier key types nothing; its effect comes with the key it modifies.
     if (event->is_modifier)
@@ -225,6 +225,6 @@ int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 {
     const HandlerScope scope;
-    InputMethodFilter(widget, event);
+    DesktopMethod().filter(widget, event);
     return TRUE;
 }

@@ -12,21 +12,10 @@
 #include <cstring>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
-
-/// The one input context of the process; made for the first edit of a text field.
-GtkIMContext* method;
-/// It is not the desktop's.
-bool replaced;
-/// The window whose text field is in edit; null when none is.
-CPtrnDisp* edited;
-/// The window that the method knows as receiving the keys, and whether there is a method behind it.
-GdkWindow* client;
-bool serves;
-/// The key that the method is looking at, and whether it has only given back its own character.
-const GdkEventKey* offered;
-bool returned;
 
 std::string CharacterOf(const GdkEventKey& event)
 {
@@ -68,52 +57,6 @@ std::string FieldForm(const std::string& character)
     return ok && (plain || wide) ? euc : "";
 }
 
-void TypeText(const char* utf8)
-{
-    if (!g_utf8_validate(utf8, -1, nullptr))
-        return;
-    const std::string text = WideKatakana(utf8);
-    edited->KeyInputCode = 0; // half a character that a key has left
-    for (const char* at = text.c_str(); *at; at = g_utf8_next_char(at)) {
-        const auto length = static_cast<std::size_t>(g_utf8_next_char(at) - at);
-        const std::string euc = FieldForm(std::string(at, length));
-        if (euc.empty())
-            LogText("PTRNDISP", nullptr, 0, "入力できない文字  [U+%04X]", g_utf8_get_char(at));
-        for (const unsigned char byte : euc)
-            ReqKeyEntry(byte, 0);
-    }
-}
-
-void Commit(GtkIMContext*, const char* utf8, gpointer)
-{
-    if (!edited)
-        return;
-    if (offered && CharacterOf(*offered) == utf8)
-        returned = true;
-    else
-        TypeText(utf8);
-}
-
-void Use(GtkIMContext* context)
-{
-    method = context;
-    // What is being composed is shown by the method itself, at the place that it is told.
-    gtk_im_context_set_use_preedit(method, FALSE);
-    g_signal_connect(method, "commit", G_CALLBACK(Commit), nullptr);
-}
-
-void SetClient(GdkWindow* window)
-{
-    if (client == window)
-        return;
-    if (client)
-        gtk_im_context_focus_out(method);
-    client = window;
-    gtk_im_context_set_client_window(method, client);
-    if (client)
-        gtk_im_context_focus_in(method);
-}
-
 /// The toolkit's own composing and the X library's (which is there without any server of a method) are no
 /// input methods: keys keep what they are.
 bool IsMethod(const char* id)
@@ -128,92 +71,148 @@ bool IsMethod(const char* id)
     return !name.empty() && name != "none" && name != "local";
 }
 
-/// Tells the method where the keys come from. Which method the desktop has can change at any time.
-void Attach(GdkWindow* window)
-{
-    if (!method)
-        Use(gtk_im_multicontext_new());
-    SetClient(window);
-    serves = replaced || IsMethod(gtk_im_multicontext_get_context_id(GTK_IM_MULTICONTEXT(method)));
-}
-
-void DropMethod()
-{
-    if (!method)
-        return;
-    SetClient(nullptr);
-    g_signal_handlers_disconnect_by_func(method, reinterpret_cast<gpointer>(Commit), nullptr);
-    g_object_unref(method);
-    method = nullptr;
-}
-
 } // namespace
 
-void SetInputMethod(GtkIMContext* context)
+InputMethod::~InputMethod()
 {
-    DropMethod();
-    edited = nullptr;
-    replaced = context != nullptr;
-    if (context)
-        Use(GTK_IM_CONTEXT(g_object_ref(context)));
+    drop();
 }
 
-void InputMethodStart(CPtrnDisp* wnd)
+void InputMethod::replace(GtkIMContext* context)
+{
+    drop();
+    edited_ = nullptr;
+    replaced_ = context != nullptr;
+    if (context)
+        use(GTK_IM_CONTEXT(g_object_ref(context)));
+}
+
+void InputMethod::use(GtkIMContext* context)
+{
+    context_.reset(context);
+    // What is being composed is shown by the method itself, at the place that it is told.
+    gtk_im_context_set_use_preedit(context, FALSE);
+    g_signal_connect(context, "commit", G_CALLBACK(commit), this);
+}
+
+void InputMethod::drop()
+{
+    if (!context_)
+        return;
+    setClient(nullptr);
+    g_signal_handlers_disconnect_by_func(context_.get(), reinterpret_cast<gpointer>(commit), this);
+    context_.reset();
+}
+
+/// Tells the method where the keys come from. Which method the desktop has can change at any time.
+void InputMethod::attach(GdkWindow* window)
+{
+    if (!context_)
+        use(gtk_im_multicontext_new());
+    setClient(window);
+    serves_ = replaced_ || IsMethod(gtk_im_multicontext_get_context_id(GTK_IM_MULTICONTEXT(context_.get())));
+}
+
+void InputMethod::setClient(GdkWindow* window)
+{
+    if (client_ == window)
+        return;
+    if (client_)
+        gtk_im_context_focus_out(context_.get());
+    client_ = window;
+    gtk_im_context_set_client_window(context_.get(), client_);
+    if (client_)
+        gtk_im_context_focus_in(context_.get());
+}
+
+void InputMethod::commit(GtkIMContext*, const char* utf8, InputMethod* self)
+{
+    if (!self->edited_)
+        return;
+    if (self->offered_ && CharacterOf(*self->offered_) == utf8)
+        self->returned_ = true;
+    else
+        self->type(utf8);
+}
+
+void InputMethod::type(const char* utf8)
+{
+    if (!g_utf8_validate(utf8, -1, nullptr))
+        return;
+    const std::string text = WideKatakana(utf8);
+    edited_->KeyInputCode = 0; // half a character that a key has left
+    for (const char* at = text.c_str(); *at; at = g_utf8_next_char(at)) {
+        const auto length = static_cast<std::size_t>(g_utf8_next_char(at) - at);
+        const std::string euc = FieldForm(std::string(at, length));
+        if (euc.empty())
+            LogText("PTRNDISP", nullptr, 0, "入力できない文字  [U+%04X]", g_utf8_get_char(at));
+        for (const unsigned char byte : euc)
+            ReqKeyEntry(byte, 0);
+    }
+}
+
+void InputMethod::start(CPtrnDisp* wnd)
 {
     if (wnd->KeyInputPtrn.Type != PTRN_CHAR)
         return;
-    edited = wnd;
+    edited_ = wnd;
     if (wnd->Widget && GTK_WIDGET_REALIZED(wnd->Widget)) // else the first key will do it
-        Attach(wnd->Widget->window);
-    InputMethodMove(wnd);
+        attach(wnd->Widget->window);
+    move(wnd);
 }
 
-void InputMethodMove(const CPtrnDisp* wnd)
+void InputMethod::move(const CPtrnDisp* wnd)
 {
-    if (edited != wnd || !client || !serves)
+    if (edited_ != wnd || !client_ || !serves_)
         return;
     const PTRNDATA& item = wnd->KeyInputPtrn;
     const SIZE cell = FontCell(item.Parm[TEXT_FONT]);
     int left = 0;
     int top = 0;
-    gdk_window_get_origin(client, &left, &top);
+    gdk_window_get_origin(client_, &left, &top);
     const std::int64_t x = std::int64_t{wnd->WindRect.left} - wnd->Offset.x - left + item.Parm[PARM_X1] +
                            std::int64_t{cell.cx} * wnd->KeyInputPost;
     const std::int64_t y = std::int64_t{wnd->WindRect.top} - wnd->Offset.y - top + item.Parm[PARM_Y1];
     GdkRectangle place = {Saturate(x), Saturate(y), 1, cell.cy};
-    gtk_im_context_set_cursor_location(method, &place);
+    gtk_im_context_set_cursor_location(context_.get(), &place);
 }
 
-void InputMethodStop(const CPtrnDisp* wnd)
+void InputMethod::stop(const CPtrnDisp* wnd)
 {
-    if (edited != wnd)
+    if (edited_ != wnd)
         return;
-    edited = nullptr; // what the method still commits comes too late
-    if (!client)
+    edited_ = nullptr; // what the method still commits comes too late
+    if (!client_)
         return;
-    gtk_im_context_reset(method);
-    SetClient(nullptr);
+    gtk_im_context_reset(context_.get());
+    setClient(nullptr);
 }
 
-bool InputMethodFilter(GtkWidget* top, GdkEventKey* event)
+bool InputMethod::filter(GtkWidget* top, GdkEventKey* event)
 {
-    if (!edited)
+    if (!edited_)
         return false;
-    if (client != top->window) {
-        Attach(top->window);
-        InputMethodMove(edited);
+    if (client_ != top->window) {
+        attach(top->window);
+        move(edited_);
     }
-    if (!serves)
+    if (!serves_)
         return false;
-    offered = event;
-    returned = false;
-    const bool taken = gtk_im_context_filter_keypress(method, event);
-    offered = nullptr;
-    return taken && !returned;
+    offered_ = event;
+    returned_ = false;
+    const bool taken = gtk_im_context_filter_keypress(context_.get(), event);
+    offered_ = nullptr;
+    return taken && !returned_;
 }
 
-void InputMethodRelease(GtkWidget* top)
+void InputMethod::release(GtkWidget* top)
 {
-    if (client && client == top->window)
-        SetClient(nullptr);
+    if (client_ && client_ == top->window)
+        setClient(nullptr);
+}
+
+InputMethod& tessary::DesktopMethod()
+{
+    static InputMethod& method = *new InputMethod; // the display goes before the program's statics would
+    return method;
 }

@@ -65,7 +65,7 @@ void CPtrnDisp::KeyInputStart(PTRNDATA* item)
 
     KeyInputPost = item->Type == PTRN_NUMR ? KeyFieldWidth(*item) : 0;
     KeyInputCode = 0;
-    InputMethodStart(this);
+    DesktopMethod().start(this);
 }
 
 int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int line)
@@ -96,7 +96,7 @@ void CPtrnDisp::DropKeyInput()
         return;
     KeyInputMode = 0;
     AND_wData(KeyInputPtrn.DataNo, static_cast<WORD>(~STATE_FROZEN), nullptr, 0);
-    InputMethodStop(this);
+    DesktopMethod().stop(this);
 }
 
 int CPtrnDisp::KeyInputCheck(int key)
@@ -205,7 +205,7 @@ void CPtrnDisp::HideKeyCursor()
 {
     KeyInputFlag = 0;
     KeyInputTimr = KEYCURSOR_OFF;
-    InputMethodMove(this);
+    DesktopMethod().move(this);
 }
 
 void CPtrnDisp::KeyTimer(CDraw* draw)

@@ -9,11 +9,10 @@
 
 #include <algorithm>
 
+using namespace tessary;
+
 namespace
 {
-
-/// X knows no larger window, and no place beyond.
-constexpr int kLargest = tessary::COORDINATE_MAX;
 
 template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
 {
@@ -28,7 +27,7 @@ int Refuse_Delete(GtkWidget*, GdkEvent*, CPtrnDisp*)
 
 void Window_Unrealize(GtkWidget* widget, CPtrnDisp*)
 {
-    InputMethodRelease(widget);
+    DesktopMethod().release(widget);
 }
 
 GtkWidget* NewTop(GtkWidget* parent, const char* name, RECT rect)
@@ -38,8 +37,9 @@ GtkWidget* NewTop(GtkWidget* parent, const char* name, RECT rect)
     gtk_window_set_decorated(GTK_WINDOW(top), FALSE);
     gtk_window_set_resizable(GTK_WINDOW(top), FALSE);
     gtk_window_set_gravity(GTK_WINDOW(top), GDK_GRAVITY_STATIC);
-    gtk_window_move(GTK_WINDOW(top), std::clamp(rect.left, -kLargest, kLargest),
-                    std::clamp(rect.top, -kLargest, kLargest));
+    // X knows no place beyond, and no larger window.
+    gtk_window_move(GTK_WINDOW(top), std::clamp(rect.left, -COORDINATE_MAX, COORDINATE_MAX),
+                    std::clamp(rect.top, -COORDINATE_MAX, COORDINATE_MAX));
     if (parent)
         gtk_window_set_transient_for(GTK_WINDOW(top), GTK_WINDOW(parent));
     return top;
@@ -48,8 +48,8 @@ GtkWidget* NewTop(GtkWidget* parent, const char* name, RECT rect)
 GtkWidget* NewArea(GtkWidget* top, RECT rect)
 {
     GtkWidget* area = gtk_drawing_area_new();
-    gtk_widget_set_size_request(area, std::clamp(rect.width, 1, kLargest),
-                                std::clamp(rect.height, 1, kLargest));
+    gtk_widget_set_size_request(area, std::clamp(rect.width, 1, COORDINATE_MAX),
+                                std::clamp(rect.height, 1, COORDINATE_MAX));
     // The back buffer is this window's own; the toolkit's would only cost a copy.
     gtk_widget_set_double_buffered(area, FALSE);
     gtk_widget_set_app_paintable(area, TRUE);
@@ -135,7 +135,7 @@ void CPtrnDisp::DestroyWidget()
     GtkWidget* const top = Widget;
     for (GtkWidget* widget : {DrawArea, top})
         g_signal_handlers_disconnect_matched(widget, G_SIGNAL_MATCH_DATA, 0, 0, nullptr, nullptr, this);
-    InputMethodRelease(top);
+    DesktopMethod().release(top);
     LeaveWidget();
     DestroyTop(top);
 }

@@ -56,7 +56,7 @@ GType fakeContextType()
     return type;
 }
 
-class InputMethod : public KeyEdit
+class AnInputMethod : public KeyEdit
 {
   protected:
     void SetUp() override
@@ -64,12 +64,12 @@ class InputMethod : public KeyEdit
         KeyEdit::SetUp();
         method = &own;
         own.context = GTK_IM_CONTEXT(g_object_new(fakeContextType(), nullptr));
-        SetInputMethod(own.context);
+        tessary::DesktopMethod().replace(own.context);
     }
 
     void TearDown() override
     {
-        SetInputMethod(nullptr);
+        tessary::DesktopMethod().replace(nullptr);
         g_object_unref(own.context);
     }
 
@@ -95,7 +95,7 @@ std::string utf8(const char* eucText)
 
 } // namespace
 
-TEST_F(InputMethod, types_what_the_method_commits)
+TEST_F(AnInputMethod, types_what_the_method_commits)
 {
     open(fields("p"));
     edit(TEXT);
@@ -110,7 +110,7 @@ TEST_F(InputMethod, types_what_the_method_commits)
     EXPECT_THAT(callsOf({"keyfunc"}), ElementsAre("keyfunc 65293 0 103"));
 }
 
-TEST_F(InputMethod, leaves_keys_that_it_does_not_take_to_the_field)
+TEST_F(AnInputMethod, leaves_keys_that_it_does_not_take_to_the_field)
 {
     open(fields("p"));
     edit(TEXT);
@@ -123,7 +123,7 @@ TEST_F(InputMethod, leaves_keys_that_it_does_not_take_to_the_field)
     EXPECT_FALSE(editing());
 }
 
-TEST_F(InputMethod, which_only_gives_a_key_s_own_character_back_changes_nothing)
+TEST_F(AnInputMethod, which_only_gives_a_key_s_own_character_back_changes_nothing)
 {
     open(fields("p"));
     edit(TEXT);
@@ -147,7 +147,7 @@ TEST_F(InputMethod, which_only_gives_a_key_s_own_character_back_changes_nothing)
     EXPECT_THAT(callsOf({"keyfunc"}), ElementsAre("keyfunc 65293 1 103"));
 }
 
-TEST_F(InputMethod, is_asked_for_releases_and_modifiers_too)
+TEST_F(AnInputMethod, is_asked_for_releases_and_modifiers_too)
 {
     open(fields("p"));
     edit(TEXT);
@@ -164,7 +164,7 @@ TEST_F(InputMethod, is_asked_for_releases_and_modifiers_too)
     EXPECT_EQ(text(), "");
 }
 
-TEST_F(InputMethod, is_not_asked_for_numbers_nor_without_a_field_in_edit)
+TEST_F(AnInputMethod, is_not_asked_for_numbers_nor_without_a_field_in_edit)
 {
     open(fields("p"));
     int asked = 0;
@@ -182,7 +182,7 @@ TEST_F(InputMethod, is_not_asked_for_numbers_nor_without_a_field_in_edit)
     EXPECT_FALSE(editing());
 }
 
-TEST_F(InputMethod, serves_the_field_whichever_window_has_the_keyboard)
+TEST_F(AnInputMethod, serves_the_field_whichever_window_has_the_keyboard)
 {
     know(fields("other").header(HEDR_LEFT, 500).header(HEDR_MODELESS, 1));
     open(fields("p"));
@@ -200,7 +200,7 @@ TEST_F(InputMethod, serves_the_field_whichever_window_has_the_keyboard)
     EXPECT_EQ(text(), "字字");
 }
 
-TEST_F(InputMethod, shows_what_is_composed_in_its_own_window_at_the_cursor)
+TEST_F(AnInputMethod, shows_what_is_composed_in_its_own_window_at_the_cursor)
 {
     open(fields("p").header(HEDR_LEFT, 200).header(HEDR_TOP, 100));
     EXPECT_THAT(own.told, ElementsAre("preedit in its own window"));
@@ -217,7 +217,7 @@ TEST_F(InputMethod, shows_what_is_composed_in_its_own_window_at_the_cursor)
     EXPECT_EQ(own.place.x, left - 5);
 }
 
-TEST_F(InputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboard)
+TEST_F(AnInputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboard)
 {
     know(fields("other").header(HEDR_LEFT, 500).header(HEDR_TOP, 300).header(HEDR_MODELESS, 1));
     open(fields("p"));
@@ -230,7 +230,7 @@ TEST_F(InputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboard
     EXPECT_EQ(own.place.y, top(TEXT) - 300);
 }
 
-TEST_F(InputMethod, is_reset_when_the_input_ends_and_can_not_type_any_more)
+TEST_F(AnInputMethod, is_reset_when_the_input_ends_and_can_not_type_any_more)
 {
     open(fields("p"));
     edit(TEXT);
@@ -246,7 +246,7 @@ TEST_F(InputMethod, is_reset_when_the_input_ends_and_can_not_type_any_more)
     EXPECT_EQ(own.told.back(), "focus in");
 }
 
-TEST_F(InputMethod, is_left_when_the_window_of_the_field_goes)
+TEST_F(AnInputMethod, is_left_when_the_window_of_the_field_goes)
 {
     know(fields("other").header(HEDR_LEFT, 500).header(HEDR_MODELESS, 1));
     open(fields("p"));
@@ -258,7 +258,7 @@ TEST_F(InputMethod, is_left_when_the_window_of_the_field_goes)
     own.commit(utf8("漢"));
 }
 
-TEST_F(InputMethod, may_be_there_before_the_window_is)
+TEST_F(AnInputMethod, may_be_there_before_the_window_is)
 {
     hooks.init = [](CPtrnDisp& wnd) { wnd.KeyInputStart(TEXT, nullptr, 0); };
     open(fields("p"));
@@ -269,7 +269,7 @@ TEST_F(InputMethod, may_be_there_before_the_window_is)
 
 // --- characters ------------------------------------------------------------------------------------
 
-TEST_F(InputMethod, half_a_character_left_by_a_key_does_not_spoil_what_is_committed)
+TEST_F(AnInputMethod, half_a_character_left_by_a_key_does_not_spoil_what_is_committed)
 {
     open(fields("p"));
     edit(TEXT);
@@ -278,7 +278,7 @@ TEST_F(InputMethod, half_a_character_left_by_a_key_does_not_spoil_what_is_commit
     EXPECT_EQ(text(), "漢字");
 }
 
-TEST_F(InputMethod, half_width_katakana_become_full_width)
+TEST_F(AnInputMethod, half_width_katakana_become_full_width)
 {
     open(fields("p"));
     edit(TEXT);
@@ -287,7 +287,7 @@ TEST_F(InputMethod, half_width_katakana_become_full_width)
     EXPECT_THAT(project.log(), IsEmpty());
 }
 
-TEST_F(InputMethod, full_width_letters_stay_what_they_are)
+TEST_F(AnInputMethod, full_width_letters_stay_what_they_are)
 {
     open(fields("p"));
     edit(TEXT);
@@ -295,7 +295,7 @@ TEST_F(InputMethod, full_width_letters_stay_what_they_are)
     EXPECT_EQ(text(), "Ａ１");
 }
 
-TEST_F(InputMethod, characters_that_no_field_can_hold_are_left_out_and_logged)
+TEST_F(AnInputMethod, characters_that_no_field_can_hold_are_left_out_and_logged)
 {
     open(fields("p"));
     edit(TEXT);
@@ -306,7 +306,7 @@ TEST_F(InputMethod, characters_that_no_field_can_hold_are_left_out_and_logged)
                                                 "入力できない文字  [U+000A]"));
 }
 
-TEST_F(InputMethod, damaged_text_is_ignored)
+TEST_F(AnInputMethod, damaged_text_is_ignored)
 {
     open(fields("p"));
     edit(TEXT);
