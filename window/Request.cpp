@@ -14,9 +14,6 @@
 
 #include <string>
 
-CPtrnDisp* AppliWnd;
-CPtrnDisp* SystmWnd;
-int SystemWnd;
 int SystemStop;
 int WaitTimer;
 

@@ -1,15 +1,12 @@
-// The two window slots and what any window or screen class may ask of the whole system.
+// What any window or screen class may ask of the whole system.
 //
 // `file` and `line` are the caller's place: with a null `file` success is not logged, failure always is.
 #pragma once
 
-class CPtrnDisp;
+#include "window/Slots.h"
 
-extern CPtrnDisp* AppliWnd; ///< the application window; null until the start pattern is shown
-extern CPtrnDisp* SystmWnd; ///< the window over it; null when none
-extern int SystemWnd;       ///< 1 while a system window is open
-extern int SystemStop;      ///< set to 1 by ReqSystemStop, for applications to look at
-extern int WaitTimer;       ///< ticks until the system stops; 0 when no stop is pending
+extern int SystemStop; ///< set to 1 by ReqSystemStop, for applications to look at, also after TessaryExit
+extern int WaitTimer;  ///< ticks until the system stops; 0 when no stop is pending
 
 /// Shows a pattern as the application window. The new window is opened before the old one is taken down.
 /// A name the registry does not know is logged and changes nothing.

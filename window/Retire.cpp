@@ -1,7 +1,7 @@
 #include "window/Retire.h"
 
 #include "window/PtrnDisp.h"
-#include "window/Request.h"
+#include "window/Slots.h"
 
 #include <algorithm>
 #include <utility>
@@ -72,6 +72,12 @@ void DestroyTop(GtkWidget* top)
         gtk_widget_destroy(top);
 }
 
+void DestroyUnwantedTops()
+{
+    for (GtkWidget* top : std::exchange(unwanted, {}))
+        gtk_widget_destroy(top);
+}
+
 void RetirePtrnWnd(CPtrnDisp* wnd)
 {
     if (std::find(retired.begin(), retired.end(), wnd) == retired.end())
@@ -82,8 +88,7 @@ void DeleteRetiredWnd(std::size_t kept)
 {
     if (handlers > 1 || gtk_main_level() > 1)
         return;
-    for (GtkWidget* top : std::exchange(unwanted, {}))
-        gtk_widget_destroy(top);
+    DestroyUnwantedTops();
     if (retired.size() <= kept)
         return;
     const Windows old(retired.begin(), retired.end() - static_cast<std::ptrdiff_t>(kept));

@@ -1,0 +1,5 @@
+#include "window/Slots.h"
+
+CPtrnDisp* AppliWnd;
+CPtrnDisp* SystmWnd;
+int SystemWnd;
