@@ -226,6 +226,11 @@ void CPtrnMente::SetDispData2(int first)
         OR_wData(KeyInputPtrn.DataNo, STATE_FROZEN, nullptr, 0);
 }
 
+void tessary::PtrnMenteExit()
+{
+    SlctCode = LineNo1 = LineNo2 = 0;
+}
+
 CPtrnDisp* tessary::NewMaintenanceWnd()
 {
     return new CPtrnMente;

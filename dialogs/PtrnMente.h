@@ -15,6 +15,14 @@ extern std::int32_t SlctCode; ///< selected row of the code table; 0 until the s
 extern std::int32_t LineNo1;  ///< the list of codes shows rows LineNo1 + 1 to LineNo1 + 10
 extern std::int32_t LineNo2;  ///< first offset in the list of data numbers
 
+namespace tessary
+{
+
+/// Forgets what was selected and shown.
+void PtrnMenteExit();
+
+} // namespace tessary
+
 /// Row 0 of the code table is never listed. Whatever lies outside the table, the selected code or the store
 /// is neither shown nor changed.
 class CPtrnMente : public CPtrnDisp

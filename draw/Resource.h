@@ -90,7 +90,7 @@ extern const POINT CursorHome[CONT_CURSOR];
 void DrawCntlInit();
 
 /// Releases fonts and colours and returns every table to zero and every built-in picture to its own
-/// colours. The program itself keeps its resources until it ends; tests use this.
+/// colours.
 void DrawCntlExit();
 
 /// Derives `FontSize[no]` from an X logical font description: pixel size, or when that is "*" the point

@@ -6,6 +6,7 @@
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "dialogs/MessageBox.h"
+#include "dialogs/PtrnMente.h"
 #include "draw/Resource.h"
 #include "log/Clock.h"
 #include "log/Logfile.h"
@@ -14,14 +15,22 @@
 #include "window/Registry.h"
 #include "window/Request.h"
 #include "window/Retire.h"
+#include "window/WindowExit.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <gtk/gtk.h>
+
+using namespace tessary;
 
 int Platform;
 
 namespace
 {
+
+constexpr int kLogTicks = 10; ///< ticks from one look at the log's timer to the next
+
+int ticks; ///< since the last look
 
 /// "<folder>/<base name>.ini" of the program.
 void FindProfile(const char* program)
@@ -68,9 +77,16 @@ int TessaryInit(char* path)
 
 void TessaryExit()
 {
+    WindowExit();
+    PtrnMenteExit();
+    DrawCntlExit();
     ComnDataExit();
     LogfileWrite("", "システム停止", nullptr, 0);
     LogfileExit();
+    Platform = 0;
+    ticks = 0;
+    std::fill(std::begin(ProfName), std::end(ProfName), '\0');
+    std::fill(std::begin(ProjPath), std::end(ProjPath), '\0');
 }
 
 void TessaryTimr()
@@ -82,8 +98,7 @@ void TessaryTimr()
     for (const int value : clock)
         Set_iData(no++, value, nullptr, 0);
 
-    static int ticks = 0;
-    if (++ticks > 9) {
+    if (++ticks >= kLogTicks) {
         ticks = 0;
         LogfileTimr();
     }

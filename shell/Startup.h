@@ -10,8 +10,9 @@ extern int Platform;
 /// @return 1 on success; 0 after a message box has told what is missing, or when the data can not be loaded
 int TessaryInit(char* path);
 
-/// Releases the common data and closes the log. Safe after a start-up that failed. Window objects stay: who
-/// holds on to one may still look at it.
+/// Takes the windows off the screen, releases the drawing resources and the common data and closes the log.
+/// Everything is then as it was before TessaryInit, which may be called again; three things are left for
+/// those who still look at them: window objects, SystemStop, and LogName. Safe after a start-up that failed.
 void TessaryExit();
 
 /// The framework's own part of a tick: clock snapshot, clock cells 1..7, the log's timer every tenth tick.

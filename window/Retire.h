@@ -31,6 +31,9 @@ class LayoutScope
 /// the toolkit is laying a window out.
 void DestroyTop(GtkWidget* top);
 
+/// Destroys those that have been waiting for it.
+void DestroyUnwantedTops();
+
 /// Hands over an exited or replaced window. Its object lives on, so that the code that closed it may
 /// finish and may still look at it; the newest few stay until others take their place. Handing it over
 /// again changes nothing.

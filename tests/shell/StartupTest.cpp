@@ -3,9 +3,12 @@
 
 #include "comndata/ComnData.h"
 #include "config/Settings.h"
+#include "dialogs/PtrnMente.h"
+#include "draw/Resource.h"
 #include "log/Clock.h"
 #include "log/Logfile.h"
 #include "tests/support/Screen.h"
+#include "window/Request.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -141,4 +144,83 @@ TEST_F(StartUp, tick_goes_from_the_application_to_its_window_and_then_to_the_sys
     hooks.timr = [&order](CPtrnDisp& wnd) { order.push_back(wnd.PtrnName); };
     EXPECT_EQ(Timer_Event(nullptr), 1);
     EXPECT_THAT(order, ElementsAre("application", "first", "second"));
+}
+
+namespace
+{
+
+/// A program from its start to its end, with everything in between that leaves something behind.
+class WholeRun : public StartUp
+{
+  protected:
+    WholeRun()
+    {
+        project.set("COLOR", "CURSOR_FG", "1,2,3").set("COLOR", "CURSOR_BG", "4,5,6");
+        project.set("TESSARY", "WAITTIMER", "60");
+        know(Pattern("shown").size(200, 100).item(PTRN_BMAP, 10, 10, 40, 40).text("missing.ppm"));
+        TessaryExit(); // ticks of the tests before
+    }
+
+    /// @return what it has logged, and after which of its ticks the log's timer ran
+    std::vector<std::string> run()
+    {
+        EXPECT_EQ(startAs(project.root() + "/panel"), 1);
+        openTop("shown");
+        openChild(AppliWnd, 1, "second", 500, 300);
+        SlctCode = LineNo1 = LineNo2 = 3;
+        openSystem("first");
+        std::vector<std::string> seen;
+        for (int number = 1; number <= 17; number++) {
+            LogDay = 0;
+            tick();
+            if (LogDay != 0)
+                seen.push_back("tick " + std::to_string(number));
+        }
+        ReqSystemStop("stop.cpp", 1);
+        TessaryExit();
+        user.settle();
+        for (const std::string& message : project.messages())
+            seen.push_back(message);
+        project.clearLog();
+        return seen;
+    }
+};
+
+} // namespace
+
+TEST_F(WholeRun, is_the_same_the_second_time)
+{
+    const std::vector<std::string> first = run();
+    EXPECT_THAT(first, ElementsAre("tick 10", "システム起動", "ビットマップの読込みに失敗 [missing.ppm]",
+                                   "システム停止要求", "システム停止"));
+    EXPECT_EQ(run(), first);
+}
+
+TEST_F(WholeRun, leaves_nothing_behind)
+{
+    run();
+    EXPECT_TRUE(user.windows().empty());
+    EXPECT_EQ(AppliWnd, nullptr);
+    EXPECT_EQ(SystmWnd, nullptr);
+    EXPECT_EQ(SystemWnd, 0);
+    EXPECT_EQ(WaitTimer, 0);
+    EXPECT_EQ(Platform, 0);
+    EXPECT_STREQ(ProfName, "");
+    EXPECT_STREQ(ProjPath, "");
+    EXPECT_EQ(Language, 0);
+    EXPECT_EQ(DispSizeX, 0);
+    EXPECT_EQ(DrawFont[0], nullptr);
+    EXPECT_EQ(PtrnDataNo, 0);
+    EXPECT_EQ(LogBuff, nullptr);
+    EXPECT_EQ(SlctCode, 0);
+    EXPECT_EQ(LineNo1, 0);
+    EXPECT_EQ(LineNo2, 0);
+    EXPECT_EQ(SystemStop, 1) << "whoever asked for the stop may still be asked about";
+}
+
+TEST_F(WholeRun, calls_no_exit_hook_when_it_ends_with_windows_open)
+{
+    run();
+    EXPECT_THAT(callsOf({"exit"}), ElementsAre());
+    EXPECT_EQ(RecordingWnd::alive.size(), 3u) << "and the objects stay";
 }
