@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace tessary;
+
 namespace
 {
 
@@ -38,10 +40,10 @@ struct Move {
     bool wraps; ///< past the last column to the next line, before the first to the previous
 };
 constexpr Move kMoves[] = {
-    {KEY_TAB, MODIFIER_SHIFT, -1, 0, true}, {KEY_TAB, kAnyState, 1, 0, true},
-    {KEY_RETURN, kAnyState, 1, 0, true},    {KEY_LEFT, kAnyState, -1, 0, false},
-    {KEY_RIGHT, kAnyState, 1, 0, false},    {KEY_UP, kAnyState, 0, -1, false},
-    {KEY_DOWN, kAnyState, 0, 1, false},
+    {KEYVAL_TAB, MODIFIER_SHIFT, -1, 0, true}, {KEYVAL_TAB, kAnyState, 1, 0, true},
+    {KEYVAL_RETURN, kAnyState, 1, 0, true},    {KEYVAL_LEFT, kAnyState, -1, 0, false},
+    {KEYVAL_RIGHT, kAnyState, 1, 0, false},    {KEYVAL_UP, kAnyState, 0, -1, false},
+    {KEYVAL_DOWN, kAnyState, 0, 1, false},
 };
 
 const Move* FindMove(int key, int state)
@@ -189,7 +191,7 @@ int CHaisenhyo::PtrnKeyStart(PTRNDATA* item)
 
 void CHaisenhyo::PtrnKeyFunc(int key, int state, PTRNDATA* item)
 {
-    if (key == KEY_ESCAPE)
+    if (key == KEYVAL_ESCAPE)
         return;
     DispDataGet();
     const int cell = item->DataNo - kTableCell;

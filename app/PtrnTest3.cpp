@@ -9,6 +9,8 @@
 #include "window/FieldText.h"
 #include "window/KeyText.h"
 
+using namespace tessary;
+
 namespace
 {
 
@@ -46,17 +48,17 @@ const Move* FindMove(int field)
 int Target(const Move& move, unsigned int key, int state)
 {
     switch (key) {
-    case KEY_TAB:
+    case KEYVAL_TAB:
         return state == MODIFIER_SHIFT ? move.previous : move.next;
-    case KEY_RETURN:
+    case KEYVAL_RETURN:
         return move.next;
-    case KEY_UP:
+    case KEYVAL_UP:
         return move.up;
-    case KEY_DOWN:
+    case KEYVAL_DOWN:
         return move.down;
-    case KEY_LEFT:
+    case KEYVAL_LEFT:
         return move.left;
-    case KEY_RIGHT:
+    case KEYVAL_RIGHT:
         return move.right;
     default:
         return kStay;
@@ -147,7 +149,7 @@ int CPtrnTest3::PtrnKeyStart(PTRNDATA* item)
 
 void CPtrnTest3::PtrnKeyFunc(int key, int state, PTRNDATA* item)
 {
-    if (key == KEY_ESCAPE)
+    if (key == KEYVAL_ESCAPE)
         return;
     TakeHeader();
     const Move* move = FindMove(item->DataNo);

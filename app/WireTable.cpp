@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <cstring>
 
+using namespace tessary;
+
 HAISENHEDR HaisenHedr;
 std::vector<HAISENDATA> HaisenData;
 std::vector<std::int32_t> HaisenIndx;

@@ -104,7 +104,7 @@ void SortHaisenhyo(int column, int descending);
 /// A text that may fill its field to the last byte.
 template <std::size_t N> std::string FieldText(const char (&field)[N])
 {
-    return std::string(field, BoundedLength(field, N));
+    return std::string(field, tessary::BoundedLength(field, N));
 }
 
 /// Changes a field as SetWireText does.

@@ -56,6 +56,9 @@ constexpr int DTNO_SYSEROR = 11; ///< the error line
 constexpr int DTNO_MENTE = 20;   ///< 20..81: the maintenance screen
 constexpr int DTNO_SYSTEM = 100; ///< first number of the application
 
+namespace tessary
+{
+
 // Display state of the items bound to a cell: the bits of the cell's word.
 constexpr int STATE_COLOR = 0x0003;   ///< colour selection 0..3
 constexpr int STATE_LOCKED = 0x0001;  ///< of the same two bits: locks buttons, radio buttons and check boxes
@@ -93,3 +96,7 @@ enum PressResult {
     PRESS_KEYENTRY = 2, ///< start keyboard entry
     PRESS_DRAG = 3,     ///< start dragging the thumb
 };
+
+} // namespace tessary
+
+using namespace tessary;

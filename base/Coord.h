@@ -3,6 +3,9 @@
 
 #include <cstdint>
 
+namespace tessary
+{
+
 /// A sum or product computed in 64 bits, held at the ends of the int range. Both ends lie far outside any
 /// drawable, so nothing that can be seen moves.
 constexpr int Saturate(std::int64_t value)
@@ -15,3 +18,7 @@ constexpr int Shift(int coordinate, int offset)
 {
     return Saturate(std::int64_t{coordinate} + offset);
 }
+
+} // namespace tessary
+
+using namespace tessary;

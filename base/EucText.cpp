@@ -3,6 +3,9 @@
 #include <cstring>
 #include <iconv.h>
 
+namespace tessary
+{
+
 std::size_t BoundedLength(const char* text, std::size_t size)
 {
     return text ? strnlen(text, size) : 0;
@@ -88,3 +91,5 @@ std::string Utf8ToEuc(const std::string& text, bool* ok)
 {
     return Convert("UTF-8", "EUC-JP", text, ok);
 }
+
+} // namespace tessary

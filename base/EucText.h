@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <string>
 
+namespace tessary
+{
+
 /// True for a byte that is half of a two-byte EUC-JP character (161..254).
 constexpr bool IsEucHalf(unsigned char byte)
 {
@@ -42,3 +45,7 @@ std::string EucToUtf8(const std::string& text);
 /// Converts UTF-8 to EUC-JP.
 /// @param ok  when given, false after the call if a character has no EUC-JP form ("?" stands for it)
 std::string Utf8ToEuc(const std::string& text, bool* ok = nullptr);
+
+} // namespace tessary
+
+using namespace tessary;

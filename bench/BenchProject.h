@@ -22,7 +22,7 @@ class BenchProject : public BenchFiles
     /// Connects to the X server of $DISPLAY and loads a project with that many cells of the code "ITEM".
     explicit BenchProject(int cells) : BenchFiles(cells)
     {
-        UseEucLocale();
+        tessary::UseEucLocale();
         gtk_disable_setlocale();
         if (!gtk_init_check(nullptr, nullptr)) {
             std::fprintf(stderr, "No X server at $DISPLAY.\n");
@@ -36,7 +36,7 @@ class BenchProject : public BenchFiles
 
     ~BenchProject()
     {
-        DrawCntlExit();
+        tessary::DrawCntlExit();
         ComnDataExit();
     }
 };

@@ -43,7 +43,7 @@ class BenchWindow : public CPtrnDisp
     /// Opens the pattern and returns when it is on the screen. Ends the program when it does not come up.
     explicit BenchWindow(const char* name)
     {
-        PtrnDispInit(nullptr, name, KIND_APPLICATION);
+        PtrnDispInit(nullptr, name, tessary::KIND_APPLICATION);
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
         do {
             HandleEvents();

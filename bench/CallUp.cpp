@@ -14,6 +14,8 @@
 #include <chrono>
 #include <functional>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <chrono>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <gdk/gdkx.h>
 
+using namespace tessary;
+
 namespace
 {
 

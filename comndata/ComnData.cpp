@@ -1,9 +1,10 @@
 #include "comndata/ComnData.h"
 
 #include "base/EucText.h"
+#include "comndata/Cells.h"
+#include "comndata/CodeTable.h"
 #include "comndata/LimtData.h"
 #include "comndata/MesgData.h"
-#include "comndata/PtrnCode.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -12,6 +13,8 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+using namespace tessary;
 
 COMNDATA* ComnData;
 std::int32_t PtrnDataNo;
@@ -113,7 +116,7 @@ void ComnDataExit()
     ExitLimtData();
 }
 
-void CreateCells(int count)
+void tessary::CreateCells(int count)
 {
     const auto size = static_cast<std::size_t>(count);
     cells = std::vector<COMNDATA>(size);
@@ -215,7 +218,7 @@ void Set_sData(int no, const char* text, const char* file, int line)
     SetLogfile(no, 1, own ? own.get() : "", file, line);
 }
 
-void ShareText(int no, char* text)
+void tessary::ShareText(int no, char* text)
 {
     if (!CheckComnData(no, nullptr, 0))
         return;
@@ -223,7 +226,7 @@ void ShareText(int no, char* text)
     ComnData[no].sData = text;
 }
 
-void ReleaseText(int no, const char* text)
+void tessary::ReleaseText(int no, const char* text)
 {
     if (CheckComnData(no, nullptr, 0) && ComnData[no].sData == text)
         ComnData[no].sData = nullptr;

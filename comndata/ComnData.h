@@ -27,11 +27,16 @@ static_assert(sizeof(COMNDATA) == sizeof(WORD) + sizeof(float) + sizeof(LPTSTR))
 extern COMNDATA* ComnData;      ///< the cells; to be read only. Null without a code table
 extern std::int32_t PtrnDataNo; ///< number of cells; valid data numbers are 0 to PtrnDataNo - 1
 
+namespace tessary
+{
+
 /// Most cells a store may have. The code table ends before the row that would pass it.
 constexpr int CONT_COMNDATA = 1000000;
 
 /// Size of the buffer that Get_sData returns: 255 bytes of text and the terminator.
 constexpr int SIZE_SDATA = 256;
+
+} // namespace tessary
 
 // --- life ------------------------------------------------------------------------------------------
 
@@ -120,15 +125,3 @@ void SetLogfile(int no, int write, WORD value, const char* file, int line);
 void SetLogfile(int no, int write, int value, const char* file, int line);
 void SetLogfile(int no, int write, float value, const char* file, int line);
 void SetLogfile(int no, int write, const char* value, const char* file, int line);
-
-// --- for the tables of this folder -----------------------------------------------------------------
-
-/// Frees the cells and makes `count` new ones, all zero and without text; 0 leaves no store.
-void CreateCells(int count);
-
-/// Makes the text of a cell point at `text` without copying it. The text must live until the cell is
-/// written, freed, or released by ReleaseText. A number outside the store is ignored.
-void ShareText(int no, char* text);
-
-/// Leaves the cell without text if it still shares `text`.
-void ReleaseText(int no, const char* text);

@@ -5,6 +5,8 @@
 #include "comndata/PtrnCode.h"
 #include "log/LogText.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -12,6 +12,8 @@
 #include <cstring>
 #include <deque>
 
+using namespace tessary;
+
 LIMTDATA* LimtData[CONT_LIMTDATA];
 
 namespace

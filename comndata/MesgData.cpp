@@ -1,6 +1,7 @@
 #include "comndata/MesgData.h"
 
 #include "base/EucText.h"
+#include "comndata/Cells.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
 #include "comndata/PtrnCode.h"
@@ -11,6 +12,8 @@
 
 #include <algorithm>
 #include <deque>
+
+using namespace tessary;
 
 MESGDATA* MesgData[CONT_MESGDATA];
 

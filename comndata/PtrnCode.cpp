@@ -1,7 +1,8 @@
-#include "comndata/PtrnCode.h"
+#include "comndata/CodeTable.h"
 
 #include "base/BuiltIn.h"
 #include "base/EucText.h"
+#include "comndata/Cells.h"
 #include "comndata/ComnData.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
@@ -14,6 +15,8 @@
 #include <string>
 #include <unordered_map>
 #include <vector>
+
+using namespace tessary;
 
 PTRNCODE* PtrnCode;
 std::int32_t PtrnRecd;
@@ -172,7 +175,7 @@ int LoadCodeData()
     return 1;
 }
 
-void ExitCodeData()
+void tessary::ExitCodeData()
 {
     CreateCells(0);
     rows = std::vector<PTRNCODE>();
@@ -186,7 +189,7 @@ void ExitCodeData()
     PtrnCount = 0;
 }
 
-const PTRNCODE* FindCode(int no)
+const PTRNCODE* tessary::FindCode(int no)
 {
     return FirstRow([no](const PTRNCODE& row) {
         const std::int64_t offset = OffsetIn(row, no);

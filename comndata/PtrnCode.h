@@ -29,23 +29,19 @@ extern BYTE* PtrnFlag;         ///< one byte for each data number; bit 0: it has
 extern PTRNNAME* PtrnName;     ///< in the order of the directory; null without any
 extern std::int32_t PtrnCount; ///< number of names
 
-/// Most rows that are read of a code table.
-constexpr int CONT_PTRNCODE = 1000000;
+namespace tessary
+{
 
 /// Bytes of the name of a data number: a code of 22 bytes, "+", an int of 11, the terminator.
 constexpr int SIZE_DTNONAME = 22 + 1 + 11 + 1;
+
+} // namespace tessary
 
 /// Loads "PtrnCode" and "PtrnFlag" of the project directory, creates the cells, brings "PtrnFlag" to the
 /// length of the store and lists the project's pattern files. Whatever was loaded before is freed first.
 /// The table ends before a row whose count is negative or with which the store would pass CONT_COMNDATA
 /// cells; that is logged. Without "PtrnCode" there are no cells and no flags. @return 1
 int LoadCodeData();
-
-/// Frees table, flags, names and cells.
-void ExitCodeData();
-
-/// The first row, in file order, whose block holds the data number; null when none does.
-const PTRNCODE* FindCode(int no);
 
 /// Name of a data number: code, "+", offset within the code.
 /// @param name  receives the text; at least SIZE_DTNONAME bytes

@@ -2,6 +2,9 @@
 
 #include "log/LogText.h"
 
+namespace tessary
+{
+
 bool TablePath(char (&path)[SIZE_PATH + 1], const char* name, const char* mesg1)
 {
     MakePath(path, "ProjPath", name, "prf");
@@ -11,3 +14,5 @@ bool TablePath(char (&path)[SIZE_PATH + 1], const char* name, const char* mesg1)
     LogText(mesg1, __FILE__, __LINE__, "%s: %d bytes, at most %d are read", path, size, SIZE_TABLEFILE);
     return false;
 }
+
+} // namespace tessary

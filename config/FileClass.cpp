@@ -1,6 +1,8 @@
 // The reader and the writer of one open file.
 #include "config/FileStream.h"
 
+using namespace tessary;
+
 CFileRead::CFileRead(const char* dir, const char* name, const char* file, int line)
 {
     Open(dir, name, file, line);

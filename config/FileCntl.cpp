@@ -14,6 +14,8 @@
 #include <tuple>
 #include <unistd.h>
 
+using namespace tessary;
+
 namespace
 {
 

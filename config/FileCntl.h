@@ -12,8 +12,13 @@
 
 #include <cstdio>
 
+namespace tessary
+{
+
 /// Longest path in bytes that MakePath and SplitPath produce; their results need SIZE_PATH + 1 bytes.
 constexpr int SIZE_PATH = 256;
+
+} // namespace tessary
 
 /// Reads blocks and records of one file. The file is closed with the object, or by the next Open.
 class CFileRead

@@ -3,6 +3,9 @@
 #include "base/Constants.h"
 #include "config/PathName.h"
 
+namespace tessary
+{
+
 FileReportSink FileSink;
 
 void FileReport::success(const FileEvent& event, const std::string& subject) const
@@ -25,3 +28,5 @@ void FileReport::write(const char* text, const std::string& subject) const
     const std::string message = CutText(TextOf(text) + " [" + subject + "]", SIZE_LOGMESG2 + 2);
     FileSink("FILECNTL", message.c_str(), file_, line_);
 }
+
+} // namespace tessary

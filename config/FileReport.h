@@ -3,6 +3,9 @@
 
 #include <string>
 
+namespace tessary
+{
+
 /// Where the lines go; null: nowhere. The log enters itself here while it is open.
 /// @param mesg1  category
 /// @param mesg2  message
@@ -58,3 +61,5 @@ class FileReport
     bool successes_;
     bool failures_;
 };
+
+} // namespace tessary

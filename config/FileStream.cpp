@@ -8,6 +8,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -132,3 +135,5 @@ void ClearBuffer(void* buffer, int size)
     if (buffer && size > 0)
         std::memset(buffer, 0, static_cast<std::size_t>(size));
 }
+
+} // namespace tessary

@@ -6,6 +6,9 @@
 
 #include <cstdint>
 
+namespace tessary
+{
+
 /// Where a block lies in its file.
 class FilePlace
 {
@@ -41,3 +44,5 @@ int WriteBytes(CFileWrite& writer, const FilePlace& place, const void* buffer, i
 
 /// Zeros in place of what could not be read; a negative size and a null buffer are left alone.
 void ClearBuffer(void* buffer, int size);
+
+} // namespace tessary

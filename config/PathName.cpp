@@ -3,6 +3,11 @@
 #include "base/EucText.h"
 #include "config/FileCntl.h"
 
+using namespace tessary;
+
+namespace tessary
+{
+
 std::string TextOf(const char* text)
 {
     return text ? text : "";
@@ -25,6 +30,8 @@ std::string JoinPath(const char* dir, const char* name, const char* ext)
         path += '.';
     return path + extension;
 }
+
+} // namespace tessary
 
 namespace
 {

@@ -16,6 +16,8 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+using namespace tessary;
+
 namespace
 {
 

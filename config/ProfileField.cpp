@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstring>
 
+using namespace tessary;
+
 namespace
 {
 

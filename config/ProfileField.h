@@ -3,6 +3,9 @@
 
 #include "base/Types.h"
 
+namespace tessary
+{
+
 /// Bytes of the buffers that hold a value or a field, its terminator included.
 constexpr int SIZE_FIELD = 256;
 
@@ -18,19 +21,21 @@ enum FieldKind {
     FIELD_FLOAT = 4,
 };
 
+} // namespace tessary
+
 /// Copies the text between the i-th and the next comma of `value`; beyond the last comma it is empty.
-void GetString(int i, char (&field)[SIZE_FIELD], const char* value);
+void GetString(int i, char (&field)[tessary::SIZE_FIELD], const char* value);
 
 /// @return the kind of letter i; FIELD_NONE past the end of `format` and for a letter without a kind
 int GetFormat(int i, const char* format);
 
 /// Empties a field that holds a character which its kind does not allow (a sign is allowed in none) and
 /// cuts a text at SIZE_FIELDTEXT bytes.
-void CheckBuffer(int kind, char (&field)[SIZE_FIELD]);
+void CheckBuffer(int kind, char (&field)[tessary::SIZE_FIELD]);
 
 /// "%d".
-void itoa(int value, char (&text)[SIZE_FIELD]);
+void itoa(int value, char (&text)[tessary::SIZE_FIELD]);
 /// "%4X": upper case, with blanks before the number up to four characters.
-void htoa(WORD value, char (&text)[SIZE_FIELD]);
+void htoa(WORD value, char (&text)[tessary::SIZE_FIELD]);
 /// "%.4f".
-void ftoa(float value, char (&text)[SIZE_FIELD]);
+void ftoa(float value, char (&text)[tessary::SIZE_FIELD]);

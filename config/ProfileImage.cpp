@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
 
@@ -176,7 +178,7 @@ void ProfileReplace(const char* key, const char* value)
         ReplaceBytes(ProfPont, ProfLeng, KeyLine(key, value));
 }
 
-void ProfileRemove()
+void tessary::ProfileRemove()
 {
     ReplaceBytes(ProfPont, ProfLeng, "");
 }

@@ -7,11 +7,16 @@
 
 #include "config/ProfileField.h"
 
+namespace tessary
+{
+
 /// Longest line in bytes; the rest of a longer one is the next line.
 constexpr int SIZE_PROFLINE = 256;
 
 /// Longest profile file in bytes.
 constexpr int SIZE_PROFILE = 64 * 1024 * 1024;
+
+} // namespace tessary
 
 /// Loads the file. A missing or empty file gives no image.
 /// @return 1, or 0 when the file exists but can not be read or is too long: there is no image then, and
@@ -23,7 +28,7 @@ void ProfileExit(const char* file, int write);
 
 /// Copies the value of a key.
 /// @param value  receives the value, or empty text when there is none
-void ReadProfile(const char* section, const char* key, char (&value)[SIZE_FIELD]);
+void ReadProfile(const char* section, const char* key, char (&value)[tessary::SIZE_FIELD]);
 
 /// Replaces the key line, or inserts it as the first of its section, or appends the section with it.
 /// @return 1, or 0 with the image unchanged when it would become too long
@@ -53,8 +58,13 @@ void ProfileInsert(const char* key, const char* value);
 /// Replaces the current line by a key line. An empty key replaces nothing.
 void ProfileReplace(const char* key, const char* value);
 
+namespace tessary
+{
+
 /// Removes the current line.
 void ProfileRemove();
+
+} // namespace tessary
 
 /// Goes back to the start of the image.
 /// @return 1 when there is an image, else 0
@@ -63,4 +73,4 @@ int ProfileReadInit();
 /// Makes the next line the current one and copies it without its comment, its trailing blanks (the first
 /// character stays) and its line feed. A NUL byte ends a line as a line feed does.
 /// @return 1, or 0 with an empty line at the end of the image
-int ProfileReadLine(char (&line)[SIZE_PROFLINE + 1]);
+int ProfileReadLine(char (&line)[tessary::SIZE_PROFLINE + 1]);

@@ -13,6 +13,8 @@
 #include <limits>
 #include <string>
 
+using namespace tessary;
+
 std::int32_t SlctCode;
 std::int32_t LineNo1;
 std::int32_t LineNo2;
@@ -162,7 +164,7 @@ int CPtrnMente::PtrnKeyStart(PTRNDATA* item)
 
 void CPtrnMente::PtrnKeyFunc(int key, int, PTRNDATA* item)
 {
-    if (key != KEY_RETURN)
+    if (key != KEYVAL_RETURN)
         return;
     const int cell = item->DataNo;
     const int no = NumberInLine(LineOf(cell));

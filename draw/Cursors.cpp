@@ -5,6 +5,8 @@
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
 
+using namespace tessary;
+
 GdkColor CusrColr[2];
 
 char* const CursorData[CONT_CURSOR] = {

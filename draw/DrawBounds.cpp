@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -84,3 +87,5 @@ void TextBounded(GdkDrawable* window, GdkGC* gc, GdkFont* font, int x, int y, co
     if (InBounds(x) && InBounds(y))
         gdk_draw_string(window, font, gc, x, y, text);
 }
+
+} // namespace tessary

@@ -4,6 +4,9 @@
 
 #include <gdk/gdk.h>
 
+namespace tessary
+{
+
 /// Filled box; left <= right and top <= bottom, the right column and the bottom row are left out.
 void FillBounded(GdkDrawable* window, GdkGC* gc, int left, int top, int right, int bottom);
 
@@ -20,3 +23,5 @@ void LineBounded(GdkDrawable* window, GdkGC* gc, int x1, int y1, int x2, int y2)
 
 /// Text with its baseline at y; nothing when it begins beyond the display's coordinates.
 void TextBounded(GdkDrawable* window, GdkGC* gc, GdkFont* font, int x, int y, const char* text);
+
+} // namespace tessary

@@ -8,7 +8,9 @@
 
 #include <cstdlib>
 
-void DrawCheckFailed(int line, const char* function, const char* condition)
+using namespace tessary;
+
+void tessary::DrawCheckFailed(int line, const char* function, const char* condition)
 {
     // The panel's own log tells too why it ended, with the lines that were still buffered.
     LogText("DRAWCNTL", nullptr, 0, "%s: assertion failed: (%s)", function, condition);

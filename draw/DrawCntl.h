@@ -139,6 +139,9 @@ class CClientDraw : public CDraw
     ~CClientDraw() {}
 };
 
+namespace tessary
+{
+
 /// Releases the graphics context together with its CPaintDraw.
 struct PaintDrawRelease {
     void operator()(CPaintDraw* draw) const
@@ -152,3 +155,5 @@ using PaintDrawPtr = std::unique_ptr<CPaintDraw, PaintDrawRelease>;
 
 /// Cell size of a font (FontSize); (0, 0) for a font number outside the table.
 SIZE FontCell(int font);
+
+} // namespace tessary

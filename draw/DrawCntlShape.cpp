@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace tessary;
+
 gint8 dash1[2] = {12, 4};
 gint8 dash2[2] = {4, 2};
 

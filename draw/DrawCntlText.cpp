@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstring>
 
+using namespace tessary;
+
 namespace
 {
 
@@ -35,7 +37,7 @@ Extents Measure(int font, const char* text)
 
 } // namespace
 
-SIZE FontCell(int font)
+SIZE tessary::FontCell(int font)
 {
     return font >= 0 && font < CONT_FONT ? FontSize[font] : SIZE{0, 0};
 }

@@ -14,6 +14,8 @@
 #include <langinfo.h>
 #include <string>
 
+using namespace tessary;
+
 GdkFont* DrawFont[CONT_FONT];
 SIZE FontSize[CONT_FONT];
 

@@ -4,11 +4,14 @@
 #include "base/Limits.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "draw/ResourceLoad.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <initializer_list>
+
+using namespace tessary;
 
 char XPM_Cursor1_data[SIZE_CURSOR], XPM_Cursor1_mask[SIZE_CURSOR];
 char XPM_Cursor2_data[SIZE_CURSOR], XPM_Cursor2_mask[SIZE_CURSOR];
@@ -119,7 +122,7 @@ void XPM_DataInit()
         MakeCursor(cursor.xpm, cursor.data, cursor.mask);
 }
 
-void XPM_DataExit()
+void tessary::XPM_DataExit()
 {
     for (char** xpm : buttons) {
         xpm[1] = builtin1;

@@ -1,6 +1,9 @@
 // Built-in pictures: XPM text in the program itself, so that a panel needs no icon files.
 #pragma once
 
+namespace tessary
+{
+
 /// Lines of a 32-row picture with three colours: header, three colour lines, rows.
 constexpr int CONT_IMAGELINE = 1 + 3 + 32;
 /// Lines of a built-in mark: header, two colour lines, 16 rows.
@@ -10,35 +13,37 @@ constexpr int SIZE_CURSOR = 128;
 /// Bytes of a colour line such as "X c #FF8000", its terminator included.
 constexpr int SIZE_XPMCOLR = 12;
 
+} // namespace tessary
+
 // Pictures on buttons. Keys: space light, "." grey, "X" dark. Only lines 1..3 (the colours) ever change.
-extern char* XPM_Printer[CONT_IMAGELINE];  ///< 32 x 32, hard-copy button of the title bar
-extern char* XPM_SpinButn[CONT_IMAGELINE]; ///< 16 x 32, an up button above a down button
+extern char* XPM_Printer[tessary::CONT_IMAGELINE];  ///< 32 x 32, hard-copy button of the title bar
+extern char* XPM_SpinButn[tessary::CONT_IMAGELINE]; ///< 16 x 32, an up button above a down button
 
 // Buttons of a scroll bar, 32 x 32: ...1 moves by a line, ...2 by a page.
-extern char* XPM_LeftArrow1[CONT_IMAGELINE];
-extern char* XPM_LeftArrow2[CONT_IMAGELINE];
-extern char* XPM_RightArrow1[CONT_IMAGELINE];
-extern char* XPM_RightArrow2[CONT_IMAGELINE];
-extern char* XPM_UpArrow1[CONT_IMAGELINE];
-extern char* XPM_UpArrow2[CONT_IMAGELINE];
-extern char* XPM_DownArrow1[CONT_IMAGELINE];
-extern char* XPM_DownArrow2[CONT_IMAGELINE];
+extern char* XPM_LeftArrow1[tessary::CONT_IMAGELINE];
+extern char* XPM_LeftArrow2[tessary::CONT_IMAGELINE];
+extern char* XPM_RightArrow1[tessary::CONT_IMAGELINE];
+extern char* XPM_RightArrow2[tessary::CONT_IMAGELINE];
+extern char* XPM_UpArrow1[tessary::CONT_IMAGELINE];
+extern char* XPM_UpArrow2[tessary::CONT_IMAGELINE];
+extern char* XPM_DownArrow1[tessary::CONT_IMAGELINE];
+extern char* XPM_DownArrow2[tessary::CONT_IMAGELINE];
 
 // Pointer cursors, 32 x 32. Keys: space transparent, "." background, "X" foreground.
-extern char* XPM_Cursor1[CONT_IMAGELINE]; ///< arrow
-extern char* XPM_Cursor2[CONT_IMAGELINE]; ///< cross hair
-extern char* XPM_Cursor3[CONT_IMAGELINE]; ///< busy
-extern char* XPM_Cursor4[CONT_IMAGELINE]; ///< move in all directions
-extern char* XPM_Cursor5[CONT_IMAGELINE]; ///< move up and down
-extern char* XPM_Cursor6[CONT_IMAGELINE]; ///< move left and right
-extern char* XPM_Cursor7[CONT_IMAGELINE]; ///< move along the falling diagonal
-extern char* XPM_Cursor8[CONT_IMAGELINE]; ///< move along the rising diagonal
+extern char* XPM_Cursor1[tessary::CONT_IMAGELINE]; ///< arrow
+extern char* XPM_Cursor2[tessary::CONT_IMAGELINE]; ///< cross hair
+extern char* XPM_Cursor3[tessary::CONT_IMAGELINE]; ///< busy
+extern char* XPM_Cursor4[tessary::CONT_IMAGELINE]; ///< move in all directions
+extern char* XPM_Cursor5[tessary::CONT_IMAGELINE]; ///< move up and down
+extern char* XPM_Cursor6[tessary::CONT_IMAGELINE]; ///< move left and right
+extern char* XPM_Cursor7[tessary::CONT_IMAGELINE]; ///< move along the falling diagonal
+extern char* XPM_Cursor8[tessary::CONT_IMAGELINE]; ///< move along the rising diagonal
 
 // Radio and check marks, 16 x 16. Keys: "." background, "X" foreground.
-extern char* XPM_Radio_OFF[CONT_BUILTINLINE];
-extern char* XPM_Radio_ON[CONT_BUILTINLINE];
-extern char* XPM_Check_OFF[CONT_BUILTINLINE];
-extern char* XPM_Check_ON[CONT_BUILTINLINE];
+extern char* XPM_Radio_OFF[tessary::CONT_BUILTINLINE];
+extern char* XPM_Radio_ON[tessary::CONT_BUILTINLINE];
+extern char* XPM_Check_OFF[tessary::CONT_BUILTINLINE];
+extern char* XPM_Check_ON[tessary::CONT_BUILTINLINE];
 
 // Bits of the cursors: picture and mask.
 extern char XPM_Cursor1_data[SIZE_CURSOR], XPM_Cursor1_mask[SIZE_CURSOR];
@@ -52,9 +57,6 @@ extern char XPM_Cursor8_data[SIZE_CURSOR], XPM_Cursor8_mask[SIZE_CURSOR];
 
 /// Gives every button picture the colours that the profile file sets and makes the bits of the cursors.
 void XPM_DataInit();
-
-/// Gives every button picture its own three colours again and clears the bits of the cursors.
-void XPM_DataExit();
 
 /// Replaces colours of one picture by those of the profile key "XPM_COLR" + `no` of section "COLOR", three
 /// texts RRGGBB. A text that is not six characters long leaves its colour as it is.

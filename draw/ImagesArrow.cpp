@@ -1,6 +1,8 @@
 // The buttons of a scroll bar, each with its own bevel.
 #include "draw/Images.h"
 
+using namespace tessary;
+
 // XPM takes pointers to writable text, although nothing ever writes a line: the colours of a picture are
 // changed by pointing at other lines.
 #pragma GCC diagnostic ignored "-Wwrite-strings"

@@ -2,6 +2,8 @@
 // covered entirely are drawn, so strokes are two pixels wide, and slanted ones thicker.
 #include "draw/Images.h"
 
+using namespace tessary;
+
 // XPM takes pointers to writable text, although nothing ever writes a line: the colours of a picture are
 // changed by pointing at other lines.
 #pragma GCC diagnostic ignored "-Wwrite-strings"

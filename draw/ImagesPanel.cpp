@@ -1,6 +1,8 @@
 // The printer of the title bar and the spin button.
 #include "draw/Images.h"
 
+using namespace tessary;
+
 // XPM takes pointers to writable text, although nothing ever writes a line: the colours of a picture are
 // changed by pointing at other lines.
 #pragma GCC diagnostic ignored "-Wwrite-strings"

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <cstring>
 
+using namespace tessary;
+
 MARKDATA MarkData[CONT_MARK];
 MARK_XPM Mark_XPM[CONT_MARK + CONT_BUILTINMARK];
 

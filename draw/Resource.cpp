@@ -48,7 +48,7 @@ void DrawCntlInit()
     MarkDataInit();
 }
 
-void DrawCntlExit()
+void tessary::DrawCntlExit()
 {
     DispSizeX = 0;
     DispSizeY = 0;

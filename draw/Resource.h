@@ -23,18 +23,13 @@ struct MARKDATA {
 };
 static_assert(sizeof(MARKDATA) == SIZE_MARK);
 
+namespace tessary
+{
+
 /// Lines of a mark as XPM text: header, background and foreground colour, up to 64 rows.
 constexpr int CONT_MARKLINE = 3 + 64;
 /// Bytes of such a line, its terminator included.
 constexpr int SIZE_MARKLINE = 66;
-
-/// A mark as XPM text. `mark[k]` always points at `data[k]` of the same entry, so `mark` can be passed
-/// to gdk-pixbuf. Lines 1 (background, key ".") and 2 (foreground, key "X") are written by whoever
-/// draws the mark, each time.
-struct MARK_XPM {
-    char* mark[CONT_MARKLINE];
-    char data[CONT_MARKLINE][SIZE_MARKLINE];
-};
 
 /// The built-in marks follow those of the project: radio off, radio on, check off, check on.
 constexpr int CONT_BUILTINMARK = 4;
@@ -44,6 +39,16 @@ constexpr int SIZE_MARKGROUP = 50;
 static_assert(CONT_MARKGROUP * SIZE_MARKGROUP == CONT_MARK);
 
 constexpr int CONT_CURSOR = 8;
+
+} // namespace tessary
+
+/// A mark as XPM text. `mark[k]` always points at `data[k]` of the same entry, so `mark` can be passed
+/// to gdk-pixbuf. Lines 1 (background, key ".") and 2 (foreground, key "X") are written by whoever
+/// draws the mark, each time.
+struct MARK_XPM {
+    char* mark[tessary::CONT_MARKLINE];
+    char data[tessary::CONT_MARKLINE][tessary::SIZE_MARKLINE];
+};
 
 /// Colours as the project's file has them, and the same allocated in the system colormap. All black
 /// when the file is missing or short.
@@ -58,10 +63,10 @@ extern SIZE FontSize[CONT_FONT];
 
 /// Marks as the project's file has them, and all marks as XPM text.
 extern MARKDATA MarkData[CONT_MARK];
-extern MARK_XPM Mark_XPM[CONT_MARK + CONT_BUILTINMARK];
+extern MARK_XPM Mark_XPM[CONT_MARK + tessary::CONT_BUILTINMARK];
 /// Width and height in pixels of marks 0..49, 50..99, ... 300..349.
-extern const int MarkXsize[CONT_MARKGROUP];
-extern const int MarkYsize[CONT_MARKGROUP];
+extern const int MarkXsize[tessary::CONT_MARKGROUP];
+extern const int MarkYsize[tessary::CONT_MARKGROUP];
 
 namespace tessary
 {
@@ -79,19 +84,24 @@ extern GdkColor CusrColr[2];
 /// Picture and mask of each cursor, SIZE_CURSOR bytes each, 32 x 32 pixels, as
 /// gdk_bitmap_create_from_data takes them. A pixel of the mask that is not in the picture has the
 /// background colour.
-extern char* const CursorData[CONT_CURSOR];
-extern char* const CursorMask[CONT_CURSOR];
+extern char* const CursorData[tessary::CONT_CURSOR];
+extern char* const CursorMask[tessary::CONT_CURSOR];
 /// Hot spot of each cursor.
-extern const POINT CursorHome[CONT_CURSOR];
+extern const POINT CursorHome[tessary::CONT_CURSOR];
 
 /// Fills all of the above and `Language` from the profile file (`ProfName`) and the files "PtrnColr" and
 /// "PtrnMark" of the project directory (`ProjPath`). Called once by start-up, when the display is open and
 /// the log is running. Nothing that is missing stops it: the log tells what, and what to install or set.
 void DrawCntlInit();
 
+namespace tessary
+{
+
 /// Releases fonts and colours and returns every table to zero and every built-in picture to its own
 /// colours.
 void DrawCntlExit();
+
+} // namespace tessary
 
 /// Derives `FontSize[no]` from an X logical font description: pixel size, or when that is "*" the point
 /// size in tenths. (0, 0) when the name has no such field.

@@ -10,6 +10,9 @@ void FontInit();
 /// Reads the two cursor colours; they are allocated when both are complete.
 void CursorColorInit();
 
+/// Gives every button picture its own three colours again and clears the bits of the cursors.
+void XPM_DataExit();
+
 void FontExit();
 void MarkExit();
 void CursorColorExit();

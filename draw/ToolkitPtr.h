@@ -5,6 +5,9 @@
 #include <gdk/gdk.h>
 #include <memory>
 
+namespace tessary
+{
+
 struct ObjectUnref {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
@@ -25,3 +28,5 @@ struct CursorUnref {
     void operator()(GdkCursor* cursor) const { gdk_cursor_unref(cursor); }
 };
 using CursorPtr = std::unique_ptr<GdkCursor, CursorUnref>;
+
+} // namespace tessary

@@ -5,6 +5,9 @@
 #include <cstdarg>
 #include <cstdio>
 
+namespace tessary
+{
+
 void LogText(const char* mesg1, const char* file, int line, const char* format, ...)
 {
     char text[256];
@@ -14,3 +17,5 @@ void LogText(const char* mesg1, const char* file, int line, const char* format, 
     va_end(arguments);
     LogfileWrite(mesg1, text, file, line);
 }
+
+} // namespace tessary

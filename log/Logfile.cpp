@@ -16,6 +16,8 @@
 #include <sys/stat.h>
 #include <vector>
 
+using namespace tessary;
+
 char LogPath[255];
 char LogName[255];
 LOGBUFFER* LogBuff;

@@ -16,8 +16,13 @@ struct LOGBUFFER {
 #pragma pack(pop)
 static_assert(sizeof(LOGBUFFER) == 258);
 
+namespace tessary
+{
+
 /// Lines that the buffer holds at most, whatever the profile asks for (2.5 MB).
 constexpr int LOGSIZE_MAX = 10000;
+
+} // namespace tessary
 
 extern char LogPath[255];  ///< log directory; empty while logging is off
 extern char LogName[255];  ///< full path of today's file; after LogfileExit still that of the last one

@@ -7,6 +7,9 @@
 #include <langinfo.h>
 #include <X11/Xlib.h>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -54,3 +57,5 @@ const char* LocaleProblem()
 {
     return problem;
 }
+
+} // namespace tessary

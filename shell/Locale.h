@@ -1,6 +1,9 @@
 // The character set of the process: all text of the system is EUC-JP, whatever the environment says.
 #pragma once
 
+namespace tessary
+{
+
 /// Makes the process read and draw text as EUC-JP. The locale of the environment stays when its code set is
 /// EUC-JP; otherwise the character classification becomes that of ja_JP.eucJP. Numbers in texts always
 /// use ".".
@@ -12,3 +15,5 @@ bool UseEucLocale();
 
 /// What the last UseEucLocale() could not do, in words for the log (at most 200 bytes); null when nothing.
 const char* LocaleProblem();
+
+} // namespace tessary

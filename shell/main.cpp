@@ -8,6 +8,8 @@
 
 #include <gtk/gtk.h>
 
+using namespace tessary;
+
 int main(int argc, char** argv)
 {
     gtk_set_locale();

@@ -9,6 +9,8 @@
 
 using namespace tessary;
 
+using namespace tessary;
+
 namespace
 {
 constexpr char kLog[] = "PTRNDISP";

@@ -5,7 +5,8 @@
 
 #include <algorithm>
 
-using namespace tessary;
+namespace tessary
+{
 
 namespace
 {
@@ -59,3 +60,5 @@ std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)
                 g_object_unref(buffer);
             }};
 }
+
+} // namespace tessary

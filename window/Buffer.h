@@ -7,6 +7,9 @@
 #include <gtk/gtk.h>
 #include <memory>
 
+namespace tessary
+{
+
 /// The size of the back buffer of a pattern: at least one pixel each way, at most what the display server
 /// allows (32767) and 32 Mi pixels in all, for which the height is cut.
 SIZE BoundedBuffer(int width, int height);
@@ -15,3 +18,5 @@ SIZE BoundedBuffer(int width, int height);
 /// the pixmap. Pixmap and graphics context go with the last owner. When the server has no memory for it, the
 /// buffer is one pixel large; that is logged.
 std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size);
+
+} // namespace tessary

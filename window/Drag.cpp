@@ -4,6 +4,8 @@
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"
 
+using namespace tessary;
+
 void CPtrnDisp::MoveWindow1(POINT pt)
 {
     if (Header(HEDR_KIND) != 1 || Header(HEDR_NO_DRAG) != 0)

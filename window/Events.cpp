@@ -1,4 +1,6 @@
 // The toolkit's events turned into the window's calls.
+#include "window/Events.h"
+
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
@@ -180,7 +182,7 @@ int Mouse_Release(GtkWidget*, GdkEventButton* event, CPtrnDisp* wnd)
     return TRUE;
 }
 
-int Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
+int tessary::Mouse_Wheel(GtkWidget*, GdkEventScroll* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
     if (event->direction == GDK_SCROLL_UP)
@@ -222,7 +224,7 @@ int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
     return TRUE;
 }
 
-int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
+int tessary::Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 {
     const HandlerScope scope;
     DesktopMethod().filter(widget, event);

@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+namespace tessary
+{
+
 void RefreshFieldText(PTRNDATA* item)
 {
     if (item->Type != PTRN_CHAR)
@@ -14,3 +17,5 @@ void RefreshFieldText(PTRNDATA* item)
     const int width = std::clamp(item->Parm[FIELD_WIDTH], 0, SIZE_PTRNTEXT);
     CopyText(item->Text, EucCut(text, static_cast<std::size_t>(width)) + 1, text);
 }
+
+} // namespace tessary

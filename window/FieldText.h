@@ -4,5 +4,10 @@
 
 #include "pattern/PtrnData.h"
 
+namespace tessary
+{
+
 /// Gives a variable text the text of its cell, cut to the field. Other items are left alone.
 void RefreshFieldText(PTRNDATA* item);
+
+} // namespace tessary

@@ -12,7 +12,8 @@
 #include <cstring>
 #include <string>
 
-using namespace tessary;
+namespace tessary
+{
 
 namespace
 {
@@ -211,8 +212,10 @@ void InputMethod::release(GtkWidget* top)
         setClient(nullptr);
 }
 
-InputMethod& tessary::DesktopMethod()
+InputMethod& DesktopMethod()
 {
     static InputMethod& method = *new InputMethod; // the display goes before the program's statics would
     return method;
 }
+
+} // namespace tessary

@@ -19,6 +19,8 @@
 
 using namespace tessary;
 
+using namespace tessary;
+
 namespace
 {
 
@@ -101,7 +103,7 @@ void CPtrnDisp::DropKeyInput()
 
 int CPtrnDisp::KeyInputCheck(int key)
 {
-    if (key == 0 || key == KEY_ESCAPE)
+    if (key == 0 || key == KEYVAL_ESCAPE)
         return 1;
     const int no = KeyInputPtrn.DataNo;
     if (KeyInputPtrn.Type == PTRN_NUMR) {
@@ -128,24 +130,24 @@ void CPtrnDisp::KeyEntry(unsigned int key, int flags)
 
     const int nav = KeyInputPtrn.Parm[FIELD_NAVIGATION];
     switch (key) {
-    case KEY_BACKSPACE:
-    case KEY_DELETE:
+    case KEYVAL_BACKSPACE:
+    case KEYVAL_DELETE:
         KeyInputDelete(key);
         return;
-    case KEY_RETURN:
-    case KEY_ESCAPE:
-    case KEY_TAB:
+    case KEYVAL_RETURN:
+    case KEYVAL_ESCAPE:
+    case KEYVAL_TAB:
         KeyInputStop(key, flags, nullptr, 0);
         return;
-    case KEY_LEFT:
-    case KEY_RIGHT:
+    case KEYVAL_LEFT:
+    case KEYVAL_RIGHT:
         KeyInputShift(key, flags, nav);
         return;
-    case KEY_UP:
+    case KEYVAL_UP:
         if (nav & NAV_UP)
             KeyInputStop(key, flags, nullptr, 0);
         return;
-    case KEY_DOWN:
+    case KEYVAL_DOWN:
         if (nav & NAV_DOWN)
             KeyInputStop(key, flags, nullptr, 0);
         return;
@@ -185,7 +187,7 @@ void CPtrnDisp::KeyInputShift(unsigned int key, int flags, int nav)
 {
     const int moved = ShiftKey(KeyInputPtrn, KeyInputText, KeyInputPost, key);
     if (moved == KeyInputPost) {
-        if (nav & (key == KEY_LEFT ? NAV_LEFT : NAV_RIGHT))
+        if (nav & (key == KEYVAL_LEFT ? NAV_LEFT : NAV_RIGHT))
             KeyInputStop(key, flags, nullptr, 0);
         return;
     }

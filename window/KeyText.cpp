@@ -7,6 +7,9 @@
 #include <cctype>
 #include <cstring>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -95,7 +98,7 @@ int InsertKey(const PTRNDATA& item, char* text, int cursor, unsigned int c1, uns
 
 int DeleteKey(int width, char* text, int cursor, unsigned int key)
 {
-    const bool back = key == KEY_BACKSPACE;
+    const bool back = key == KEYVAL_BACKSPACE;
     if (back ? cursor == 0 : cursor == width - 1)
         return cursor;
 
@@ -112,7 +115,7 @@ int DeleteKey(int width, char* text, int cursor, unsigned int key)
 
 int ShiftKey(const PTRNDATA& item, const char* text, int cursor, unsigned int key)
 {
-    if (key == KEY_LEFT) {
+    if (key == KEYVAL_LEFT) {
         if (cursor == 0)
             return cursor;
         if (item.Type == PTRN_NUMR)
@@ -132,3 +135,5 @@ void DropTrailingBlank(char* text, int width)
     for (int i = width - 1; i >= 0 && i < KEYTEXT_SIZE && text[i] == ' '; i++)
         text[i] = '\0';
 }
+
+} // namespace tessary

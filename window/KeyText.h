@@ -3,21 +3,12 @@
 #pragma once
 
 #include "pattern/PtrnData.h"
+#include "window/KeyValue.h"
+
+namespace tessary
+{
 
 constexpr int KEYTEXT_SIZE = 256;
-
-// Key values.
-enum KeyValue : unsigned int {
-    KEY_BACKSPACE = 0xFF08,
-    KEY_TAB = 0xFF09,
-    KEY_RETURN = 0xFF0D,
-    KEY_ESCAPE = 0xFF1B,
-    KEY_LEFT = 0xFF51,
-    KEY_UP = 0xFF52,
-    KEY_RIGHT = 0xFF53,
-    KEY_DOWN = 0xFF54,
-    KEY_DELETE = 0xFFFF,
-};
 
 // Navigation flags of a field: which keys end the input.
 enum Navigation {
@@ -50,3 +41,5 @@ int ShiftKey(const PTRNDATA& item, const char* text, int cursor, unsigned int ke
 
 /// From the field's last position on, blanks end the text; blanks before that position stay.
 void DropTrailingBlank(char* text, int width);
+
+} // namespace tessary

@@ -2,6 +2,9 @@
 
 #include <gdk/gdkx.h>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -30,3 +33,5 @@ void ShowAgain(GtkWidget* top)
 {
     XMapWindow(GDK_WINDOW_XDISPLAY(top->window), GDK_WINDOW_XID(top->window));
 }
+
+} // namespace tessary

@@ -11,6 +11,8 @@
 
 using namespace tessary;
 
+using namespace tessary;
+
 namespace
 {
 

@@ -13,6 +13,9 @@
 constexpr int KEYCURSOR_ON = 5;
 constexpr int KEYCURSOR_OFF = 2;
 
+namespace tessary
+{
+
 /// What a window is, CPtrnDisp::PtrnType.
 enum PtrnKind {
     KIND_APPLICATION = 0,
@@ -20,6 +23,10 @@ enum PtrnKind {
     KIND_CHILD2 = 2,
     KIND_SYSTEM = 3,
 };
+
+struct WindowSignals;
+
+} // namespace tessary
 
 class CPtrnDisp
 {
@@ -192,9 +199,7 @@ class CPtrnDisp
     void KeyInputDisp(CDraw* draw, int mode);
 
   private:
-    friend int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);
-    friend int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
-    friend int Window_Map(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd);
+    friend struct tessary::WindowSignals;
     friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
     /// is using it, since a hook of that may close the window.
@@ -222,7 +227,7 @@ class CPtrnDisp
     void HideKeyCursor();
     int Header(int parm) const { return PtrnData->PtrnHedr.Parm1[parm]; }
     void SystemAction(const PTRNDATA& item);
-    CPtrnDisp*& Slot(int kind) { return kind == KIND_CHILD1 ? ChildWnd1 : ChildWnd2; }
+    CPtrnDisp*& Slot(int kind) { return kind == tessary::KIND_CHILD1 ? ChildWnd1 : ChildWnd2; }
 };
 
 /// Makes the toolkit window of `wnd`, connects its events, runs PtrnInit and shows it.
@@ -237,12 +242,5 @@ int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Release(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd);
 int Mouse_Leave(GtkWidget* widget, GdkEventCrossing* event, CPtrnDisp* wnd);
-/// Wheel clicks come as scroll events: up is direction 0, down is direction 1.
-int Mouse_Wheel(GtkWidget* widget, GdkEventScroll* event, CPtrnDisp* wnd);
-
-// Toolkit handlers of the top-level window.
+/// Toolkit handler of the top-level window; returns TRUE.
 int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
-int Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);
-int Window_Configure(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
-int Window_Map(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd);
-int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd);

@@ -14,6 +14,8 @@
 
 #include <string>
 
+using namespace tessary;
+
 int SystemStop;
 int WaitTimer;
 

@@ -7,6 +7,9 @@
 #include <utility>
 #include <vector>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -125,3 +128,5 @@ void ForgetPtrnWnd(CPtrnDisp* wnd)
             other->ChildWnd2 = nullptr;
     }
 }
+
+} // namespace tessary

@@ -7,6 +7,9 @@
 
 class CPtrnDisp;
 
+namespace tessary
+{
+
 /// Marks the time in which a toolkit handler, the tick, or the opening or exit of a window runs.
 class HandlerScope
 {
@@ -50,3 +53,5 @@ void DeleteRetiredWnd(std::size_t kept = 16);
 /// child, application or system window) forget it.
 void RegisterPtrnWnd(CPtrnDisp* wnd);
 void ForgetPtrnWnd(CPtrnDisp* wnd);
+
+} // namespace tessary

@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+using namespace tessary;
+
 namespace
 {
 

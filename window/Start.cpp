@@ -1,6 +1,7 @@
 // The toolkit window of a pattern window.
 #include "base/EucText.h"
 #include "base/Limits.h"
+#include "window/Events.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
@@ -92,28 +93,31 @@ void RaiseChildren(const CPtrnDisp& wnd)
 
 } // namespace
 
-int Window_Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
-{
-    wnd->Configured = true;
-    wnd->Reported = {event->x, event->y};
-    return FALSE; // the toolkit has to know it too
-}
+/// Handlers of the top-level window.
+struct tessary::WindowSignals {
+    static int Configure(GtkWidget*, GdkEventConfigure* event, CPtrnDisp* wnd)
+    {
+        wnd->Configured = true;
+        wnd->Reported = {event->x, event->y};
+        return FALSE; // the toolkit has to know it too
+    }
 
-int Window_Map(GtkWidget* widget, GdkEvent*, CPtrnDisp* wnd)
-{
-    wnd->Shown = true;
-    FreeKeyboard(widget, false);
-    if (wnd == AppliWnd && SystmWnd)
-        KeepAbove(*SystmWnd, widget);
-    return FALSE;
-}
+    static int Map(GtkWidget* widget, GdkEvent*, CPtrnDisp* wnd)
+    {
+        wnd->Shown = true;
+        FreeKeyboard(widget, false);
+        if (wnd == AppliWnd && SystmWnd)
+            KeepAbove(*SystmWnd, widget);
+        return FALSE;
+    }
 
-int Widget_Destroy(GtkWidget* widget, CPtrnDisp* wnd)
-{
-    if (wnd->Widget == widget)
-        wnd->LeaveWidget();
-    return TRUE;
-}
+    static int Destroy(GtkWidget* widget, CPtrnDisp* wnd)
+    {
+        if (wnd->Widget == widget)
+            wnd->LeaveWidget();
+        return TRUE;
+    }
+};
 
 /// However the toolkit window went, nothing may draw on it or destroy it again.
 void CPtrnDisp::LeaveWidget()
@@ -160,11 +164,11 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     Connect(area, "scroll_event", Mouse_Wheel, wnd);
     Connect(top, "key_press_event", Key_Press, wnd);
     Connect(top, "key_release_event", Key_Release, wnd);
-    Connect(top, "configure_event", Window_Configure, wnd);
-    Connect(top, "map_event", Window_Map, wnd);
+    Connect(top, "configure_event", WindowSignals::Configure, wnd);
+    Connect(top, "map_event", WindowSignals::Map, wnd);
     Connect(top, "delete_event", Refuse_Delete, wnd);
     Connect(top, "unrealize", Window_Unrealize, wnd);
-    Connect(top, "destroy", Widget_Destroy, wnd);
+    Connect(top, "destroy", WindowSignals::Destroy, wnd);
 
     wnd->PtrnInit();
     // Each step calls hooks, which may close the window: the toolkit paints it when it is realized.

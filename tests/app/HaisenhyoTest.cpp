@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::Each;
 using testing::ElementsAre;
 
@@ -173,9 +175,9 @@ TEST_F(WireScreen, refuses_key_input_in_empty_lines)
 TEST_F(WireScreen, keys_stay_within_a_short_table)
 {
     openTable(4);
-    EXPECT_EQ(move(0, 5, 3, KEY_DOWN), std::vector<int>({0, 5, 3}));
-    EXPECT_EQ(move(0, 15, 3, KEY_RETURN), std::vector<int>({0, 15, 3}));
-    EXPECT_EQ(move(0, 15, 2, KEY_RETURN), std::vector<int>({0, 0, 3}));
+    EXPECT_EQ(move(0, 5, 3, KEYVAL_DOWN), std::vector<int>({0, 5, 3}));
+    EXPECT_EQ(move(0, 15, 3, KEYVAL_RETURN), std::vector<int>({0, 15, 3}));
+    EXPECT_EQ(move(0, 15, 2, KEYVAL_RETURN), std::vector<int>({0, 0, 3}));
 }
 
 // --- sorting -------------------------------------------------------------------------------------------
@@ -271,7 +273,7 @@ TEST_F(WireScreen, sorts_lengths_as_numbers)
 TEST_F(WireScreen, return_and_tab_go_to_the_next_column_and_then_to_the_next_line)
 {
     openTable(40);
-    for (const unsigned int key : {KEY_RETURN, KEY_TAB}) {
+    for (const unsigned int key : {KEYVAL_RETURN, KEYVAL_TAB}) {
         for (int column = 0; column < 15; column++)
             EXPECT_EQ(move(3, column, 7, key), std::vector<int>({3, column + 1, 7}));
         EXPECT_EQ(move(3, 15, 7, key), std::vector<int>({3, 0, 8}));
@@ -279,60 +281,60 @@ TEST_F(WireScreen, return_and_tab_go_to_the_next_column_and_then_to_the_next_lin
         EXPECT_EQ(move(24, 15, lastLine, key), std::vector<int>({25, 0, lastLine}));
         EXPECT_EQ(move(25, 15, lastLine, key), std::vector<int>({25, 15, lastLine})) << "the table's end";
     }
-    EXPECT_EQ(move(3, 4, 7, KEY_RETURN, shift), std::vector<int>({3, 5, 7})) << "Shift is for Tab alone";
+    EXPECT_EQ(move(3, 4, 7, KEYVAL_RETURN, shift), std::vector<int>({3, 5, 7})) << "Shift is for Tab alone";
 }
 
 TEST_F(WireScreen, shift_and_tab_go_to_the_previous_column_and_then_to_the_previous_line)
 {
     openTable(40);
     for (int column = 15; column > 0; column--)
-        EXPECT_EQ(move(3, column, 7, KEY_TAB, shift), std::vector<int>({3, column - 1, 7}));
-    EXPECT_EQ(move(3, 0, 7, KEY_TAB, shift), std::vector<int>({3, 15, 6}));
-    EXPECT_EQ(move(3, 0, 0, KEY_TAB, shift), std::vector<int>({2, 15, 0}));
-    EXPECT_EQ(move(0, 0, 0, KEY_TAB, shift), std::vector<int>({0, 0, 0})) << "the table's start";
+        EXPECT_EQ(move(3, column, 7, KEYVAL_TAB, shift), std::vector<int>({3, column - 1, 7}));
+    EXPECT_EQ(move(3, 0, 7, KEYVAL_TAB, shift), std::vector<int>({3, 15, 6}));
+    EXPECT_EQ(move(3, 0, 0, KEYVAL_TAB, shift), std::vector<int>({2, 15, 0}));
+    EXPECT_EQ(move(0, 0, 0, KEYVAL_TAB, shift), std::vector<int>({0, 0, 0})) << "the table's start";
 }
 
 TEST_F(WireScreen, left_and_right_stay_in_the_line)
 {
     openTable(40);
-    EXPECT_EQ(move(3, 5, 7, KEY_LEFT), std::vector<int>({3, 4, 7}));
-    EXPECT_EQ(move(3, 0, 7, KEY_LEFT), std::vector<int>({3, 0, 7}));
-    EXPECT_EQ(move(3, 5, 7, KEY_RIGHT), std::vector<int>({3, 6, 7}));
-    EXPECT_EQ(move(3, 15, 7, KEY_RIGHT), std::vector<int>({3, 15, 7}));
+    EXPECT_EQ(move(3, 5, 7, KEYVAL_LEFT), std::vector<int>({3, 4, 7}));
+    EXPECT_EQ(move(3, 0, 7, KEYVAL_LEFT), std::vector<int>({3, 0, 7}));
+    EXPECT_EQ(move(3, 5, 7, KEYVAL_RIGHT), std::vector<int>({3, 6, 7}));
+    EXPECT_EQ(move(3, 15, 7, KEYVAL_RIGHT), std::vector<int>({3, 15, 7}));
 }
 
 TEST_F(WireScreen, up_and_down_stay_in_the_column_and_scroll_at_the_edges)
 {
     openTable(40);
-    EXPECT_EQ(move(3, 5, 7, KEY_UP), std::vector<int>({3, 5, 6}));
-    EXPECT_EQ(move(3, 5, 0, KEY_UP), std::vector<int>({2, 5, 0}));
-    EXPECT_EQ(move(0, 5, 0, KEY_UP), std::vector<int>({0, 5, 0}));
-    EXPECT_EQ(move(3, 5, 7, KEY_DOWN), std::vector<int>({3, 5, 8}));
-    EXPECT_EQ(move(3, 5, lastLine, KEY_DOWN), std::vector<int>({4, 5, lastLine}));
-    EXPECT_EQ(move(25, 5, lastLine, KEY_DOWN), std::vector<int>({25, 5, lastLine}));
+    EXPECT_EQ(move(3, 5, 7, KEYVAL_UP), std::vector<int>({3, 5, 6}));
+    EXPECT_EQ(move(3, 5, 0, KEYVAL_UP), std::vector<int>({2, 5, 0}));
+    EXPECT_EQ(move(0, 5, 0, KEYVAL_UP), std::vector<int>({0, 5, 0}));
+    EXPECT_EQ(move(3, 5, 7, KEYVAL_DOWN), std::vector<int>({3, 5, 8}));
+    EXPECT_EQ(move(3, 5, lastLine, KEYVAL_DOWN), std::vector<int>({4, 5, lastLine}));
+    EXPECT_EQ(move(25, 5, lastLine, KEYVAL_DOWN), std::vector<int>({25, 5, lastLine}));
 }
 
 TEST_F(WireScreen, escape_ends_key_input_and_stores_nothing)
 {
     openTable(40);
     setText(cell(1, 3), "new");
-    EXPECT_EQ(move(0, 5, 7, KEY_ESCAPE), std::vector<int>({-1}));
+    EXPECT_EQ(move(0, 5, 7, KEYVAL_ESCAPE), std::vector<int>({-1}));
     tableWnd().DispDataSet(0);
     setText(cell(1, 3), "new");
     tableWnd().KeyInputStart(cell(5, 7), nullptr, 0);
-    tableWnd().KeyInputStop(KEY_ESCAPE, 0, nullptr, 0);
+    tableWnd().KeyInputStop(KEYVAL_ESCAPE, 0, nullptr, 0);
     EXPECT_EQ(FieldText(HaisenData[3].senkei), "b4");
 }
 
 TEST_F(WireScreen, scrolling_by_key_shows_the_records_and_moves_the_bar)
 {
     openTable(40);
-    move(0, 5, lastLine, KEY_DOWN);
+    move(0, 5, lastLine, KEYVAL_DOWN);
     EXPECT_EQ(number(1571), 1);
     EXPECT_EQ(text(cell(0, lastLine)), "a16");
     EXPECT_EQ(number(439), 2);
     tableWnd().KeyInputStop(0, 0, nullptr, 0);
-    move(9, 0, 0, KEY_TAB, shift);
+    move(9, 0, 0, KEYVAL_TAB, shift);
     EXPECT_EQ(number(1571), 8);
     EXPECT_EQ(text(cell(0, 0)), "a9");
 }
@@ -368,7 +370,7 @@ TEST_F(WireScreen, every_key_but_escape_stores_all_shown_lines)
         setText(cell(3, line), "P" + std::to_string(line));
         setNumber(cell(lengthColumn, line), 1000 + line);
     }
-    editAfter(tableWnd(), cell(0, 0), KEY_RIGHT);
+    editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     for (int i = 0; i < 40; i++) {
         const bool shown = i >= 20 && i < 35;
         EXPECT_EQ(FieldText(HaisenData[static_cast<std::size_t>(i)].kyoku),
@@ -384,7 +386,7 @@ TEST_F(WireScreen, stores_into_the_records_that_are_shown_when_the_table_is_sort
     clickHeading(1557);
     ASSERT_EQ(text(cell(0, 0)), "a9");
     setText(cell(15, 0), "new");
-    editAfter(tableWnd(), cell(0, 0), KEY_RIGHT);
+    editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     EXPECT_EQ(FieldText(HaisenData[8].sheet), "new");
     EXPECT_EQ(FieldText(HaisenData[0].sheet), "p1");
 }
@@ -395,11 +397,11 @@ TEST_F(WireScreen, lengths_that_a_cell_can_not_hold_stay_exact)
     wires[0].length = 16777217;
     wires[1].length = 2147483647;
     openTable(wireFile({}, wires));
-    editAfter(tableWnd(), cell(0, 0), KEY_RIGHT);
+    editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     EXPECT_EQ(HaisenData[0].length, 16777217);
     EXPECT_EQ(HaisenData[1].length, 2147483647);
     setNumber(cell(lengthColumn, 0), 5);
-    editAfter(tableWnd(), cell(0, 0), KEY_RIGHT);
+    editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     EXPECT_EQ(HaisenData[0].length, 5);
 }
 

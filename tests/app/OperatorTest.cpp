@@ -5,6 +5,8 @@
 #include <array>
 #include <optional>
 
+using namespace tessary;
+
 namespace
 {
 

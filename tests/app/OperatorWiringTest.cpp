@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace tessary;
+
 namespace
 {
 

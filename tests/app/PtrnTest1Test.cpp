@@ -1,6 +1,8 @@
 // Shapes: clicked marks change colour and blink for five seconds.
 #include "tests/app/SampleScreen.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -120,10 +122,10 @@ TEST_F(TableForm, saves_header_and_records)
     setText(100, "B2");
     setText(109, "変更");
     formWnd().KeyInputStart(1548, nullptr, 0);
-    formWnd().KeyInputStop(KEY_RETURN, 0, nullptr, 0);
+    formWnd().KeyInputStop(KEYVAL_RETURN, 0, nullptr, 0);
     setText(cell(15, 2), "SH9");
     tableWnd().KeyInputStart(cell(0, 0), nullptr, 0);
-    tableWnd().KeyInputStop(KEY_RETURN, 0, nullptr, 0);
+    tableWnd().KeyInputStop(KEYVAL_RETURN, 0, nullptr, 0);
     const std::string before = project.read("Haisenhyo");
     clickSave();
 
@@ -188,18 +190,18 @@ struct FieldMove {
 };
 
 constexpr FieldMove fieldMoves[] = {
-    {KEY_RETURN, 0, 1550, 485},  {KEY_RETURN, 0, 485, 1548},  {KEY_RETURN, 0, 1548, 100},
-    {KEY_RETURN, 0, 100, 109},   {KEY_RETURN, 0, 109, 1550},  {KEY_TAB, 0, 1550, 485},
-    {KEY_TAB, 0, 485, 1548},     {KEY_TAB, 0, 1548, 100},     {KEY_TAB, 0, 100, 109},
-    {KEY_TAB, 0, 109, 1550},     {KEY_TAB, shift, 1550, 109}, {KEY_TAB, shift, 485, 1550},
-    {KEY_TAB, shift, 1548, 485}, {KEY_TAB, shift, 100, 1548}, {KEY_TAB, shift, 109, 100},
-    {KEY_UP, 0, 1550, 1550},     {KEY_UP, 0, 485, 485},       {KEY_UP, 0, 1548, 1550},
-    {KEY_UP, 0, 100, 485},       {KEY_UP, 0, 109, 1548},      {KEY_DOWN, 0, 1550, 1548},
-    {KEY_DOWN, 0, 485, 100},     {KEY_DOWN, 0, 1548, 109},    {KEY_DOWN, 0, 100, 109},
-    {KEY_DOWN, 0, 109, 109},     {KEY_LEFT, 0, 1550, 1550},   {KEY_LEFT, 0, 485, 1550},
-    {KEY_LEFT, 0, 1548, 1548},   {KEY_LEFT, 0, 100, 1548},    {KEY_LEFT, 0, 109, 109},
-    {KEY_RIGHT, 0, 1550, 485},   {KEY_RIGHT, 0, 485, 485},    {KEY_RIGHT, 0, 1548, 100},
-    {KEY_RIGHT, 0, 100, 100},    {KEY_RIGHT, 0, 109, 109},    {KEY_RETURN, shift, 1550, 485},
+    {KEYVAL_RETURN, 0, 1550, 485},  {KEYVAL_RETURN, 0, 485, 1548},  {KEYVAL_RETURN, 0, 1548, 100},
+    {KEYVAL_RETURN, 0, 100, 109},   {KEYVAL_RETURN, 0, 109, 1550},  {KEYVAL_TAB, 0, 1550, 485},
+    {KEYVAL_TAB, 0, 485, 1548},     {KEYVAL_TAB, 0, 1548, 100},     {KEYVAL_TAB, 0, 100, 109},
+    {KEYVAL_TAB, 0, 109, 1550},     {KEYVAL_TAB, shift, 1550, 109}, {KEYVAL_TAB, shift, 485, 1550},
+    {KEYVAL_TAB, shift, 1548, 485}, {KEYVAL_TAB, shift, 100, 1548}, {KEYVAL_TAB, shift, 109, 100},
+    {KEYVAL_UP, 0, 1550, 1550},     {KEYVAL_UP, 0, 485, 485},       {KEYVAL_UP, 0, 1548, 1550},
+    {KEYVAL_UP, 0, 100, 485},       {KEYVAL_UP, 0, 109, 1548},      {KEYVAL_DOWN, 0, 1550, 1548},
+    {KEYVAL_DOWN, 0, 485, 100},     {KEYVAL_DOWN, 0, 1548, 109},    {KEYVAL_DOWN, 0, 100, 109},
+    {KEYVAL_DOWN, 0, 109, 109},     {KEYVAL_LEFT, 0, 1550, 1550},   {KEYVAL_LEFT, 0, 485, 1550},
+    {KEYVAL_LEFT, 0, 1548, 1548},   {KEYVAL_LEFT, 0, 100, 1548},    {KEYVAL_LEFT, 0, 109, 109},
+    {KEYVAL_RIGHT, 0, 1550, 485},   {KEYVAL_RIGHT, 0, 485, 485},    {KEYVAL_RIGHT, 0, 1548, 100},
+    {KEYVAL_RIGHT, 0, 100, 100},    {KEYVAL_RIGHT, 0, 109, 109},    {KEYVAL_RETURN, shift, 1550, 485},
 };
 
 } // namespace
@@ -262,13 +264,14 @@ TEST_F(TableForm, escape_leaves_the_header_as_it_is)
 {
     openTable(3);
     setText(1550, "new");
-    EXPECT_EQ(editAfter(*AppliWnd, 485, KEY_ESCAPE), -1);
+    EXPECT_EQ(editAfter(*AppliWnd, 485, KEYVAL_ESCAPE), -1);
     EXPECT_EQ(FieldText(HaisenHedr.systemno), "SYS");
 }
 
 TEST_F(TableForm, every_other_key_takes_over_all_five_fields)
 {
-    for (const unsigned int key : {KEY_RETURN, KEY_TAB, KEY_UP, KEY_DOWN, KEY_LEFT, KEY_RIGHT}) {
+    for (const unsigned int key :
+         {KEYVAL_RETURN, KEYVAL_TAB, KEYVAL_UP, KEYVAL_DOWN, KEYVAL_LEFT, KEYVAL_RIGHT}) {
         if (!AppliWnd)
             openTable(3);
         for (const int field : {1550, 485, 1548, 100, 109})
@@ -289,7 +292,7 @@ TEST_F(TableForm, header_texts_end_within_their_fields)
     for (const int field : {1550, 485, 1548, 100, 109})
         setText(field, std::string(200, 'x'));
     setText(100, "盤盤盤");
-    editAfter(*AppliWnd, 1550, KEY_RETURN);
+    editAfter(*AppliWnd, 1550, KEYVAL_RETURN);
     EXPECT_EQ(FieldText(HaisenHedr.systemno), std::string(9, 'x'));
     EXPECT_EQ(FieldText(HaisenHedr.nousaki), std::string(21, 'x'));
     EXPECT_EQ(FieldText(HaisenHedr.sakuban), std::string(15, 'x'));

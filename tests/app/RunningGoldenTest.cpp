@@ -6,6 +6,8 @@
 #include "tests/app/SampleProject.h"
 #include "tests/support/Golden.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -41,7 +41,7 @@ class SampleProject : public Screen
     void openFromMenu(const std::string& name)
     {
         ASSERT_TRUE(openTop(menuName));
-        clickAction(AppliWnd, ACTION_OPEN_TOP, name);
+        clickAction(AppliWnd, tessary::ACTION_OPEN_TOP, name);
         ASSERT_EQ(AppliWnd->PtrnName, name);
         waitShown(AppliWnd);
     }

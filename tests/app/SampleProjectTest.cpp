@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+using namespace tessary;
+
 using testing::IsEmpty;
 
 namespace

@@ -25,9 +25,9 @@ class SampleScreen : public Screen
     static void setWord(int no, WORD value) { Set_wData(no, value, nullptr, 0); }
     static std::string text(int no) { return Get_sData(no, nullptr, 0); }
     static void setText(int no, const std::string& value) { Set_sData(no, value.c_str(), nullptr, 0); }
-    static int colorOf(int no) { return word(no) & STATE_COLOR; }
-    static bool blinks(int no) { return (word(no) & STATE_FLICKER) != 0; }
-    static bool hidden(int no) { return (word(no) & STATE_HIDDEN) != 0; }
+    static int colorOf(int no) { return word(no) & tessary::STATE_COLOR; }
+    static bool blinks(int no) { return (word(no) & tessary::STATE_FLICKER) != 0; }
+    static bool hidden(int no) { return (word(no) & tessary::STATE_HIDDEN) != 0; }
 
     /// Saves the pattern and opens it as the application window.
     void open(const Pattern& pattern)

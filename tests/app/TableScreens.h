@@ -51,7 +51,8 @@ class TableScreens : public SampleScreen
                       26 + 24 * (i / 2))
                 .parm(FIELD_WIDTH, widths[i])
                 .parm(FIELD_KEYENTRY, 1)
-                .parm(FIELD_NAVIGATION, NAV_UP | NAV_DOWN | NAV_LEFT | NAV_RIGHT)
+                .parm(FIELD_NAVIGATION,
+                      tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
                 .code(code, offset(fields[i]));
         form.item(PTRN_RECT, frameLeft, frameTop, frameLeft + frameWidth, frameTop + frameHeight)
             .code(code, offset(432));
@@ -59,18 +60,18 @@ class TableScreens : public SampleScreen
             .parm(SBAR_VERTICAL, 1)
             .parm(SBAR_VISIBLE, shownLines)
             .code(code, offset(1571))
-            .action(ACTION_MESSAGE_CHILD1);
+            .action(tessary::ACTION_MESSAGE_CHILD1);
         form.item(PTRN_SBAR, frameLeft, barTop, barLeft, barTop + 20)
             .parm(SBAR_VISIBLE, frameWidth)
             .parm(SBAR_LINE_STEP, columnWidth)
             .code(code, offset(433))
-            .action(ACTION_MESSAGE_CHILD1);
+            .action(tessary::ACTION_MESSAGE_CHILD1);
         form.item(PTRN_BUTN, saveLeft, buttonTop, saveLeft + 80, buttonTop + 30)
             .code(code, offset(1554))
-            .action(ACTION_MESSAGE_SELF);
+            .action(tessary::ACTION_MESSAGE_SELF);
         form.item(PTRN_BUTN, printLeft, buttonTop, printLeft + 80, buttonTop + 30)
             .code(code, offset(434))
-            .action(ACTION_MESSAGE_SELF);
+            .action(tessary::ACTION_MESSAGE_SELF);
         return form;
     }
 
@@ -86,14 +87,15 @@ class TableScreens : public SampleScreen
             const int x = column * columnWidth;
             table.item(PTRN_BUTN, x, 0, x + columnWidth, headingHeight)
                 .code(code, offset(headings[column]))
-                .action(ACTION_MESSAGE_SELF);
+                .action(tessary::ACTION_MESSAGE_SELF);
             for (int line = 0; line < shownLines; line++) {
                 const int y = headingHeight + line * lineHeight + 2;
                 table.item(column == lengthColumn ? PTRN_NUMR : PTRN_CHAR, x, y, x + columnWidth, y + 16)
                     .parm(FIELD_WIDTH, 11)
                     .parm(FIELD_KEYENTRY, 1)
                     .parm(TEXT_BACKED, 1)
-                    .parm(FIELD_NAVIGATION, NAV_UP | NAV_DOWN | NAV_LEFT | NAV_RIGHT)
+                    .parm(FIELD_NAVIGATION,
+                          tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
                     .code(code, offset(cell(column, line)));
             }
         }

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <gtest/gtest.h>
 
+using namespace tessary;
+
 TEST(CopyText, keeps_what_fits_and_always_terminates)
 {
     char target[6] = {'x', 'x', 'x', 'x', 'x', 'x'};

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <limits>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <limits>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -12,6 +12,8 @@
 #include <limits>
 #include <type_traits>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

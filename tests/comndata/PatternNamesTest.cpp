@@ -6,6 +6,8 @@
 
 #include <filesystem>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 

@@ -1,10 +1,13 @@
 #include "comndata/PtrnCode.h"
 
+#include "comndata/CodeTable.h"
 #include "comndata/ComnData.h"
 #include "tests/comndata/CommonData.h"
 
 #include <filesystem>
 #include <limits>
+
+using namespace tessary;
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <sys/stat.h>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
 

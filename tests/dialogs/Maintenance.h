@@ -35,14 +35,14 @@ inline Pattern maintenance()
             .parm(FIELD_WIDTH, 16)
             .parm(TEXT_BACKED, 1)
             .code("SYSTEM", cell(20 + i))
-            .action(ACTION_MESSAGE_SELF);
+            .action(tessary::ACTION_MESSAGE_SELF);
         pattern.item(PTRN_NUMR, offsetX, y, offsetX + 40, y + 16)
             .code("SYSTEM", cell(30 + i))
             .parm(TEXT_BACKED, 1);
         pattern.item(PTRN_CHCK, flagX, y, flagX + 16, y + 16)
             .parm(CHECK_BACKED, 1)
             .code("SYSTEM", cell(40 + i))
-            .action(ACTION_MESSAGE_SELF);
+            .action(tessary::ACTION_MESSAGE_SELF);
         pattern.item(PTRN_NUMR, wordX, y, wordX + 56, y + 16)
             .parm(FIELD_WIDTH, 7)
             .parm(FIELD_DECIMALS, 1)
@@ -66,7 +66,7 @@ inline Pattern maintenance()
             .parm(SBAR_VERTICAL, 1)
             .parm(SBAR_VISIBLE, lines)
             .code("SYSTEM", cell(no))
-            .action(ACTION_MESSAGE_SELF);
+            .action(tessary::ACTION_MESSAGE_SELF);
     return pattern;
 }
 
@@ -114,7 +114,7 @@ class Maintenance : public Screen
         Set_fData(no, value, nullptr, 0);
         Set_sData(no, text.c_str(), nullptr, 0);
     }
-    static bool disabled(int no) { return (word(no) & STATE_DISABLE) != 0; }
+    static bool disabled(int no) { return (word(no) & tessary::STATE_DISABLE) != 0; }
     static int first(int row) { return PtrnCode[row].DataNo; }
 
     /// The texts of the list of codes.

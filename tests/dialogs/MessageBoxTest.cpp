@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

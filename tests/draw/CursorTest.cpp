@@ -1,6 +1,8 @@
 // Pointer cursors: bits, hot spots, colours.
 #include "tests/draw/ResourceFixture.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -2,6 +2,8 @@
 #include "draw/Resource.h"
 #include "tests/draw/Drawing.h"
 
+using namespace tessary;
+
 namespace
 {
 

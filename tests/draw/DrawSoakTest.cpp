@@ -12,6 +12,8 @@
 #include <cstring>
 #include <filesystem>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -1,9 +1,12 @@
 // The pictures that are part of the program, and the pointer cursors made of them.
 #include "draw/Images.h"
 #include "draw/Resource.h"
+#include "draw/ResourceLoad.h"
 #include "tests/support/Golden.h"
 #include "tests/support/Project.h"
 #include "tests/support/Sheet.h"
+
+using namespace tessary;
 
 namespace
 {

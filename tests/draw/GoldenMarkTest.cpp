@@ -7,6 +7,8 @@
 #include <array>
 #include <cstring>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <set>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::StartsWith;
 

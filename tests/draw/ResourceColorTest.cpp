@@ -3,6 +3,8 @@
 
 #include "config/Settings.h"
 
+using namespace tessary;
+
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;

@@ -22,7 +22,7 @@ class Resources : public testing::Test
         project.start();
         project.clearLog();
     }
-    ~Resources() override { DrawCntlExit(); }
+    ~Resources() override { tessary::DrawCntlExit(); }
 
     /// The colour file: black, except for the records given.
     void colors(std::initializer_list<std::pair<int, COLRDATA>> records)

@@ -1,6 +1,8 @@
 // Marks: bits to XPM text, sizes by group, the built-in ones.
 #include "tests/draw/ResourceFixture.h"
 
+using namespace tessary;
+
 using testing::ElementsAre;
 
 namespace

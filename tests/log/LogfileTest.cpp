@@ -5,6 +5,8 @@
 #include <limits>
 #include <sys/stat.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;

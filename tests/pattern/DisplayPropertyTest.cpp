@@ -9,6 +9,8 @@
 
 #include <map>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -4,6 +4,8 @@
 #include "tests/pattern/LoadedPattern.h"
 #include "tests/pattern/RandomItems.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include <limits>
 #include <random>
 
+using namespace tessary;
+
 namespace
 {
 

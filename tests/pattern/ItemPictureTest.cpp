@@ -3,6 +3,8 @@
 
 #include <filesystem>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -1,6 +1,8 @@
 // Group box, line, rectangle and circle.
 #include "tests/pattern/ItemCanvas.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -1,6 +1,8 @@
 // Fixed text, variable text and numeric field. Text colours are 4..7, backgrounds 8..11, clear colour 29.
 #include "tests/pattern/ItemCanvas.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 
 #include <limits>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -1,6 +1,8 @@
 // What a left press does with the item under the pointer.
 #include "tests/pattern/PressFixture.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+using namespace tessary;
+
 // --- scroll bars ---------------------------------------------------------------------------------------
 
 namespace

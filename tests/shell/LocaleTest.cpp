@@ -9,6 +9,8 @@
 #include <langinfo.h>
 #include <string>
 
+using namespace tessary;
+
 using testing::HasSubstr;
 
 namespace

@@ -6,6 +6,8 @@
 
 #include <cstdio>
 
+using namespace tessary;
+
 std::uint32_t color(int number)
 {
     const auto part = [](int value) { return static_cast<std::uint32_t>(value) & 0xFF; };

@@ -41,5 +41,5 @@ class Canvas
     int width_;
     int height_;
     GdkPixmap* pixmap_;
-    PaintDrawPtr draw_;
+    tessary::PaintDrawPtr draw_;
 };

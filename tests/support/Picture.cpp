@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 
+using namespace tessary;
+
 namespace
 {
 

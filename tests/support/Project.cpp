@@ -12,6 +12,8 @@
 #include <iterator>
 #include <sstream>
 
+using namespace tessary;
+
 namespace fs = std::filesystem;
 
 std::string readFile(const std::string& path)

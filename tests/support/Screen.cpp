@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace tessary;
+
 std::set<RecordingWnd*> RecordingWnd::alive;
 
 void RecordingWnd::record(const std::string& name, std::initializer_list<int> values)

@@ -16,6 +16,8 @@
 #include <X11/XKBlib.h>
 #include <X11/Xutil.h>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -9,6 +9,8 @@
 #include <map>
 #include <X11/keysym.h>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 
 namespace

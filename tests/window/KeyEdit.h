@@ -87,7 +87,7 @@ class KeyEdit : public Screen
     static bool editing(const CPtrnDisp* wnd = AppliWnd) { return wnd->KeyInputMode == 1; }
     /// Data number of the field in edit.
     static int edited(const CPtrnDisp* wnd = AppliWnd) { return wnd->KeyInputPtrn.DataNo; }
-    static bool frozen(int number) { return Get_wData(number, nullptr, 0) & STATE_FROZEN; }
+    static bool frozen(int number) { return Get_wData(number, nullptr, 0) & tessary::STATE_FROZEN; }
     static float number(int no) { return Get_fData(no, nullptr, 0); }
     static std::string string(int no) { return Get_sData(no, nullptr, 0); }
 

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -209,7 +211,7 @@ TEST_F(KeyInput, a_value_beyond_its_limits_stays_in_edit_with_its_message)
     EXPECT_EQ(string(DTNO_SYSEROR), "too high");
     EXPECT_EQ(Get_wData(DTNO_SYSEROR, nullptr, 0) & STATE_COLOR, 1);
     EXPECT_THAT(callsOf({"keyfunc"}), IsEmpty());
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEY_TAB, 0, here, 1), 0);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_TAB, 0, here, 1), 0);
 
     key(XK_BackSpace);
     EXPECT_EQ(text(), "  06 ");
@@ -231,11 +233,11 @@ TEST_F(KeyInput, checking_stores_a_value_unless_it_is_given_up)
     open(fields("p"));
     edit(NUMBER);
     type("9");
-    for (const unsigned int given : {0u, unsigned{KEY_ESCAPE}}) {
+    for (const unsigned int given : {0u, unsigned{KEYVAL_ESCAPE}}) {
         EXPECT_EQ(AppliWnd->KeyInputCheck(static_cast<int>(given)), 1);
         EXPECT_EQ(number(NUMBER), 0);
     }
-    EXPECT_EQ(AppliWnd->KeyInputCheck(KEY_TAB), 1);
+    EXPECT_EQ(AppliWnd->KeyInputCheck(KEYVAL_TAB), 1);
     EXPECT_EQ(number(NUMBER), 9);
     EXPECT_TRUE(editing()) << "checking alone ends nothing";
 }
@@ -388,7 +390,7 @@ TEST_F(KeyInput, does_nothing_with_keys_while_no_field_is_in_edit)
     for (const unsigned long symbol : {XK_Return, XK_Escape, XK_Tab, XK_Left, XK_Delete, XK_BackSpace, XK_Up})
         key(symbol);
     EXPECT_THAT(callsOf({"keystart", "keyfunc"}), IsEmpty());
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEY_RETURN, 0, here, 1), 1);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_RETURN, 0, here, 1), 1);
     EXPECT_THAT(project.log(), IsEmpty());
 }
 

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -91,10 +93,10 @@ TEST_F(KeyInputStart, from_code_says_so)
     EXPECT_EQ(log[0].mesg2, "キー入力開始  [D+0]");
     EXPECT_EQ(log[0].file, here);
     EXPECT_EQ(log[0].line, 5);
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEY_ESCAPE, 0, here, 6), 1);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_ESCAPE, 0, here, 6), 1);
     EXPECT_EQ(project.messages().back(), "キー入力終了  [D+0]");
     AppliWnd->KeyInputStart(NUMBER, nullptr, 0);
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEY_ESCAPE, 0, nullptr, 0), 1);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_ESCAPE, 0, nullptr, 0), 1);
     EXPECT_EQ(project.log().size(), 2u);
 }
 

@@ -9,6 +9,8 @@
 #include <random>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
 
@@ -213,29 +215,29 @@ TEST_F(KeyText, backspace_removes_the_byte_left_of_the_cursor_and_fills_with_a_b
 {
     field(PTRN_CHAR, 5);
     set("abcde", 3);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "ab|de ");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "ab|de ");
     set("abcde", 5);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "abcd| ");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "abcd| ");
     set("abc", 1);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "|bc   ") << "a short text is filled up";
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "|bc   ") << "a short text is filled up";
 }
 
 TEST_F(KeyText, backspace_does_nothing_at_the_start)
 {
     field(PTRN_CHAR, 5);
     set("abcde", 0);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "|abcde");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "|abcde");
     set("abc", 0);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "|abc") << "a short text is not filled up either";
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "|abc") << "a short text is not filled up either";
 }
 
 TEST_F(KeyText, backspace_removes_two_bytes_when_the_cursor_stands_on_half_a_character)
 {
     field(PTRN_CHAR, 8);
     set("漢字ab", 2);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "|字ab    ");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "|字ab    ");
     set("漢ab", 2); // the byte at the cursor decides, not the one that goes
-    cursor = DeleteKey(8, text, cursor, KEY_BACKSPACE);
+    cursor = DeleteKey(8, text, cursor, KEYVAL_BACKSPACE);
     EXPECT_EQ(cursor, 1);
     EXPECT_EQ(std::string(text), std::string("漢").substr(0, 1) + "ab     ");
 }
@@ -244,44 +246,44 @@ TEST_F(KeyText, backspace_never_takes_the_cursor_below_0)
 {
     field(PTRN_CHAR, 5);
     set("a漢", 1);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "|" + std::string("漢").substr(1) + "    ");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "|" + std::string("漢").substr(1) + "    ");
 }
 
 TEST_F(KeyText, delete_removes_the_byte_at_the_cursor)
 {
     field(PTRN_CHAR, 5);
     set("abcde", 2);
-    EXPECT_EQ(erase(KEY_DELETE), "ab|de ");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "ab|de ");
     set("a漢bc", 1);
-    EXPECT_EQ(erase(KEY_DELETE), "a|bc  ");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "a|bc  ");
 }
 
 TEST_F(KeyText, delete_does_nothing_at_the_last_position_and_blanks_it_behind)
 {
     field(PTRN_CHAR, 5);
     set("abcde", 4);
-    EXPECT_EQ(erase(KEY_DELETE), "abcd|e");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "abcd|e");
     set("abcde", 5);
-    EXPECT_EQ(erase(KEY_DELETE), "abcd |");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "abcd |");
     field(PTRN_CHAR, 1);
     set("", 0);
-    EXPECT_EQ(erase(KEY_DELETE), "|") << "the only position is the last";
+    EXPECT_EQ(erase(KEYVAL_DELETE), "|") << "the only position is the last";
 }
 
 TEST_F(KeyText, a_delete_cuts_a_grown_text_to_its_field)
 {
     field(PTRN_CHAR, 5);
     set("abcdeXY", 1);
-    EXPECT_EQ(erase(KEY_DELETE), "a|cde ");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "a|cde ");
 }
 
 TEST_F(KeyText, a_number_is_edited_the_same_way)
 {
     field(PTRN_NUMR, 5);
     set("  123", 5);
-    EXPECT_EQ(erase(KEY_BACKSPACE), "  12| ");
+    EXPECT_EQ(erase(KEYVAL_BACKSPACE), "  12| ");
     set("  123", 3);
-    EXPECT_EQ(erase(KEY_DELETE), "  1|3 ");
+    EXPECT_EQ(erase(KEYVAL_DELETE), "  1|3 ");
 }
 
 // --- left and right --------------------------------------------------------------------------------
@@ -290,48 +292,48 @@ TEST_F(KeyText, left_stops_at_a_blank_of_a_number)
 {
     field(PTRN_NUMR, 5);
     set("  123", 5);
-    EXPECT_EQ(shift(KEY_LEFT), "  12|3");
-    shift(KEY_LEFT);
-    EXPECT_EQ(shift(KEY_LEFT), "  |123");
-    EXPECT_EQ(shift(KEY_LEFT), "  |123");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "  12|3");
+    shift(KEYVAL_LEFT);
+    EXPECT_EQ(shift(KEYVAL_LEFT), "  |123");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "  |123");
     set("12345", 1);
-    EXPECT_EQ(shift(KEY_LEFT), "|12345");
-    EXPECT_EQ(shift(KEY_LEFT), "|12345");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "|12345");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "|12345");
 }
 
 TEST_F(KeyText, left_passes_a_two_byte_character_at_once)
 {
     field(PTRN_CHAR, 8);
     set("a漢字 b", 7);
-    EXPECT_EQ(shift(KEY_LEFT), "a漢字 |b");
-    EXPECT_EQ(shift(KEY_LEFT), "a漢字| b");
-    EXPECT_EQ(shift(KEY_LEFT), "a漢|字 b");
-    EXPECT_EQ(shift(KEY_LEFT), "a|漢字 b");
-    EXPECT_EQ(shift(KEY_LEFT), "|a漢字 b");
-    EXPECT_EQ(shift(KEY_LEFT), "|a漢字 b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "a漢字 |b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "a漢字| b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "a漢|字 b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "a|漢字 b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "|a漢字 b");
+    EXPECT_EQ(shift(KEYVAL_LEFT), "|a漢字 b");
 }
 
 TEST_F(KeyText, right_goes_to_the_end_of_the_text)
 {
     field(PTRN_NUMR, 5);
     set("  123", 3);
-    EXPECT_EQ(shift(KEY_RIGHT), "  12|3");
-    EXPECT_EQ(shift(KEY_RIGHT), "  123|");
-    EXPECT_EQ(shift(KEY_RIGHT), "  123|");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "  12|3");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "  123|");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "  123|");
     field(PTRN_CHAR, 5);
     set("abcdeXY", 5);
-    EXPECT_EQ(shift(KEY_RIGHT), "abcdeX|Y") << "also where it has outgrown its field";
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "abcdeX|Y") << "also where it has outgrown its field";
 }
 
 TEST_F(KeyText, right_passes_a_two_byte_character_at_once)
 {
     field(PTRN_CHAR, 8);
     set("漢字b", 0);
-    EXPECT_EQ(shift(KEY_RIGHT), "漢|字b");
-    EXPECT_EQ(shift(KEY_RIGHT), "漢字|b");
-    EXPECT_EQ(shift(KEY_RIGHT), "漢字b|");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "漢|字b");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "漢字|b");
+    EXPECT_EQ(shift(KEYVAL_RIGHT), "漢字b|");
     set("a漢", 0); // the byte under the new position decides
-    cursor = ShiftKey(item, text, cursor, KEY_RIGHT);
+    cursor = ShiftKey(item, text, cursor, KEYVAL_RIGHT);
     EXPECT_EQ(cursor, 2);
 }
 
@@ -390,10 +392,11 @@ TEST_F(KeyText, stays_a_text_within_its_buffer_whatever_is_typed)
                 break;
             case 2:
             case 3:
-                cursor = ShiftKey(item, text, cursor, below(3) ? KEY_RIGHT : KEY_LEFT);
+                cursor = ShiftKey(item, text, cursor, below(3) ? KEYVAL_RIGHT : KEYVAL_LEFT);
                 break;
             default:
-                cursor = DeleteKey(KeyFieldWidth(item), text, cursor, below(2) ? KEY_DELETE : KEY_BACKSPACE);
+                cursor =
+                    DeleteKey(KeyFieldWidth(item), text, cursor, below(2) ? KEYVAL_DELETE : KEYVAL_BACKSPACE);
                 break;
             }
             ASSERT_GE(cursor, 0);

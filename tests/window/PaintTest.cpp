@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

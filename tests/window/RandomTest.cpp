@@ -14,6 +14,8 @@
 #include <random>
 #include <X11/keysym.h>
 
+using namespace tessary;
+
 namespace
 {
 

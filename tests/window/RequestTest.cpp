@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <typeinfo>
 
+using namespace tessary;
+
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;

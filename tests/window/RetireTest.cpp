@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;

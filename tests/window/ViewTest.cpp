@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <limits>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
