@@ -18,9 +18,8 @@ enum PtrnType {
     PTRN_MARK = 13, ///< mark (icon)
     PTRN_SBAR = 14, ///< scroll bar
     PTRN_SPIN = 15, ///< spin button
-    PTRN_END,       ///< behind the last type
 };
-constexpr int CONT_PTRN = PTRN_END - 1;
+constexpr int CONT_PTRN = PTRN_SPIN; ///< the last one
 
 // Resource tables.
 constexpr int CONT_COLR = 100;
@@ -98,5 +97,3 @@ enum PressResult {
 };
 
 } // namespace tessary
-
-using namespace tessary;

@@ -20,5 +20,3 @@ constexpr int Shift(int coordinate, int offset)
 }
 
 } // namespace tessary
-
-using namespace tessary;

@@ -47,5 +47,3 @@ std::string EucToUtf8(const std::string& text);
 std::string Utf8ToEuc(const std::string& text, bool* ok = nullptr);
 
 } // namespace tessary
-
-using namespace tessary;

@@ -56,9 +56,9 @@ class BenchFiles
     void screen(const char* name, int count, int bound, SIZE size = {width, height}) const
     {
         HEDRFILE header = bareHeader(name, size);
-        header.Parm1[HEDR_TITLE_HEIGHT] = titleHeight;
-        header.Parm1[HEDR_TITLE_BACK] = 20;
-        header.Parm1[HEDR_CLOCK] = 3;
+        header.Parm1[tessary::HEDR_TITLE_HEIGHT] = titleHeight;
+        header.Parm1[tessary::HEDR_TITLE_BACK] = 20;
+        header.Parm1[tessary::HEDR_CLOCK] = 3;
 
         std::vector<Item> items;
         for (int i = 0; i < count; i++) {
@@ -86,11 +86,11 @@ class BenchFiles
         for (const POINT& place : places) {
             Item item{newItem(*tessary::FindItemClass(PTRN_NUMR)), "", "ITEM"};
             item.record.ID_No = static_cast<std::int32_t>(items.size());
-            item.record.Parm[PARM_X1] = place.x;
-            item.record.Parm[PARM_Y1] = place.y;
-            item.record.Parm[TEXT_BACKED] = 1;
-            item.record.Parm[FIELD_WIDTH] = digits;
-            item.record.Parm[FIELD_DECIMALS] = 1;
+            item.record.Parm[tessary::PARM_X1] = place.x;
+            item.record.Parm[tessary::PARM_Y1] = place.y;
+            item.record.Parm[tessary::TEXT_BACKED] = 1;
+            item.record.Parm[tessary::FIELD_WIDTH] = digits;
+            item.record.Parm[tessary::FIELD_DECIMALS] = 1;
             items.push_back(item);
         }
         writeScreen(name, bareHeader(name, {width, height}), items);
@@ -150,9 +150,9 @@ class BenchFiles
     static HEDRFILE bareHeader(const char* name, SIZE size)
     {
         HEDRFILE header{};
-        header.Parm1[HEDR_WIDTH] = size.cx;
-        header.Parm1[HEDR_HEIGHT] = size.cy;
-        header.Parm1[HEDR_BODY_COLOR] = bodyColor;
+        header.Parm1[tessary::HEDR_WIDTH] = size.cx;
+        header.Parm1[tessary::HEDR_HEIGHT] = size.cy;
+        header.Parm1[tessary::HEDR_BODY_COLOR] = bodyColor;
         std::snprintf(header.PtrnName1, sizeof header.PtrnName1, "%s", name);
         return header;
     }
@@ -164,10 +164,11 @@ class BenchFiles
         record.Type = schema.type;
         for (const tessary::ParmSchema& parm : schema.parms)
             for (int variant = 0; variant < parm.count; variant++)
-                record.Parm[parm.index + variant] = parm.kind == tessary::ParmKind::Color  ? parm.index + variant
-                                                    : parm.kind == tessary::ParmKind::Mark ? CONT_MARK + variant
-                                                                                  : parm.initial;
-        record.Parm[PARM_CLEAR] = bodyColor;
+                record.Parm[parm.index + variant] =
+                    parm.kind == tessary::ParmKind::Color  ? parm.index + variant
+                    : parm.kind == tessary::ParmKind::Mark ? CONT_MARK + variant
+                                                           : parm.initial;
+        record.Parm[tessary::PARM_CLEAR] = bodyColor;
         return record;
     }
 
@@ -179,10 +180,10 @@ class BenchFiles
             columns++;
         const int pitchX = size.cx / columns;
         const int pitchY = (size.cy - titleHeight) / columns;
-        record.Parm[PARM_X1] = index % columns * pitchX;
-        record.Parm[PARM_Y1] = titleHeight + index / columns * pitchY;
-        record.Parm[PARM_X2] = record.Parm[PARM_X1] + pitchX - 2;
-        record.Parm[PARM_Y2] = record.Parm[PARM_Y1] + pitchY - 2;
+        record.Parm[tessary::PARM_X1] = index % columns * pitchX;
+        record.Parm[tessary::PARM_Y1] = titleHeight + index / columns * pitchY;
+        record.Parm[tessary::PARM_X2] = record.Parm[tessary::PARM_X1] + pitchX - 2;
+        record.Parm[tessary::PARM_Y2] = record.Parm[tessary::PARM_Y1] + pitchY - 2;
     }
 
     std::string folder_;

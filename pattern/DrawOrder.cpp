@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <tuple>
 
+using namespace tessary;
+
 void CPtrnData::BuildDrawOrder()
 {
     DrawOrder.clear();

@@ -8,6 +8,8 @@
 #include "pattern/ItemTable.h"
 #include "pattern/PtrnData.h"
 
+using namespace tessary;
+
 int CPtrnData::TestPtrnData(POINT point)
 {
     const int found = TestPtrnData(point, 1);

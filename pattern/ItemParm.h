@@ -14,6 +14,9 @@
 #include "pattern/items/SpinButtonParm.h"
 #include "pattern/items/TextFieldParm.h"
 
+namespace tessary
+{
+
 // Of every item.
 enum ItemParm {
     PARM_X1 = 0,
@@ -55,3 +58,5 @@ enum HedrParm {
     HEDR_EDIT_COLOR = 27,
     HEDR_EDIT_BACK = 28,
 };
+
+} // namespace tessary

@@ -19,12 +19,17 @@ constexpr int FLIKER_OFF = 3;   ///< and blanked
 constexpr int REPEATTIMER1 = 5; ///< a control is held before it starts to repeat
 constexpr int REPEATTIMER2 = 2; ///< from one repeat to the next
 
+namespace tessary
+{
+
 /// CPtrnData::RepeatFlag.
 enum RepeatState {
     REPEAT_IDLE = 0,
     REPEAT_WAITING = 1, ///< held, not yet for REPEATTIMER1 ticks
     REPEAT_STEPPING = 2,
 };
+
+} // namespace tessary
 
 #pragma pack(push, 1)
 

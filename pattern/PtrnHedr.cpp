@@ -5,6 +5,9 @@
 #include <cstring>
 #include <string>
 
+namespace tessary
+{
+
 namespace
 {
 
@@ -33,3 +36,5 @@ PTRNHEDR ConvertHedr(const HEDRFILE& record, int* cut)
         *cut += longer;
     return header;
 }
+
+} // namespace tessary

@@ -5,6 +5,9 @@
 #include "pattern/PtrnData.h"
 #include "pattern/PtrnFile.h"
 
+namespace tessary
+{
+
 /// Which of three texts is shown in the current language.
 template <typename Text> const Text& InLanguage(const Text& first, const Text& second, const Text& third)
 {
@@ -15,3 +18,5 @@ template <typename Text> const Text& InLanguage(const Text& first, const Text& s
 /// where a field of the record is full.
 /// @param cut  when given, grows by one for each text that had to be cut
 PTRNHEDR ConvertHedr(const HEDRFILE& record, int* cut = nullptr);
+
+} // namespace tessary

@@ -13,6 +13,8 @@
 #include <cstring>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
 

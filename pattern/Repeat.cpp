@@ -3,6 +3,8 @@
 #include "pattern/ItemTable.h"
 #include "pattern/PtrnData.h"
 
+using namespace tessary;
+
 int CPtrnData::ReptPtrnData(PTRNDATA* item)
 {
     if (RepeatFlag == REPEAT_WAITING) {

@@ -14,6 +14,8 @@
 #include <cstdio>
 #include <iterator>
 
+using namespace tessary;
+
 const char* const Week1[7] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 const char* const Week2[7] = {"日", "月", "火", "水", "木", "金", "土"};
 

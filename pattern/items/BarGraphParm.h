@@ -1,6 +1,9 @@
 // Where the parameters of a bar graph lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum BarGraphParm {
     BARG_BAR4 = 4,
     BARG_BACK4 = 8,
@@ -11,3 +14,5 @@ enum BarGraphParm {
     BARG_MINIMUM = 16,
     BARG_MAXIMUM = 17,
 };
+
+} // namespace tessary

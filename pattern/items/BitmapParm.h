@@ -1,7 +1,12 @@
 // Where the parameters of a bitmap lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum BitmapParm {
     BMAP_KEY_COLOR = 4,
     BMAP_KEYED = 5,
 };
+
+} // namespace tessary

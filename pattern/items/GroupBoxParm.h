@@ -1,6 +1,9 @@
 // Where the parameters of a group box lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum GroupBoxParm {
     GBOX_FACE4 = 4,
     GBOX_TOP4 = 8,
@@ -12,3 +15,5 @@ enum GroupBoxParm {
     GBOX_LEFT_WIDTH = 26,
     GBOX_RIGHT_WIDTH = 27,
 };
+
+} // namespace tessary

@@ -1,6 +1,9 @@
 // Where the parameters of a mark lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum MarkParm {
     MARK_COLOR4 = 4,
     MARK_BACK4 = 8,
@@ -9,3 +12,5 @@ enum MarkParm {
     MARK_NUMBER4 = 15,
     MARK_LAST = 19, ///< the mark drawn last; written at run time
 };
+
+} // namespace tessary

@@ -82,7 +82,7 @@ int CPtrnData::SetButtonKey(int key, PTRNDATA* item)
     const int number = key - XK_F1 + 1;
     for (int i = 0; i < PtrnCont; ++i)
         if (PtrnData[i].Type == PTRN_BUTN && !tessary::IsHidden(PtrnData[i]) &&
-            PtrnData[i].Parm[BUTN_KEY] == number) {
+            PtrnData[i].Parm[tessary::BUTN_KEY] == number) {
             *item = PtrnData[i];
             return 1;
         }

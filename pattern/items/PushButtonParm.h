@@ -1,6 +1,9 @@
 // Where the parameters of a push button lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum ButtonParm {
     BUTN_LIGHT = 4,
     BUTN_DARK = 5,
@@ -13,3 +16,5 @@ enum ButtonParm {
     BUTN_WIDTH = 16,
     BUTN_KEY = 27, ///< function key 1..12
 };
+
+} // namespace tessary

@@ -1,6 +1,9 @@
 // Where the parameters of a radio button or check box lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum CheckParm {
     CHECK_COLOR = 4,
     CHECK_COLOR_LOCKED = 5,
@@ -10,3 +13,5 @@ enum CheckParm {
     CHECK_FONT = 15,
     RDIO_VALUE = 27,
 };
+
+} // namespace tessary

@@ -1,6 +1,9 @@
 // Where the parameters of a scroll bar lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum ScrollBarParm {
     SBAR_LIGHT = 4,
     SBAR_DARK = 5,
@@ -18,3 +21,5 @@ enum ScrollBarParm {
     SBAR_ROLE1 = 26,
     SBAR_KEYS = 27,
 };
+
+} // namespace tessary

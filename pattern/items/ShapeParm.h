@@ -1,6 +1,9 @@
 // Where the parameters of a rectangle or circle lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum ShapeParm {
     SHAPE_OUTLINE4 = 4,
     SHAPE_FILL4 = 8,
@@ -8,3 +11,5 @@ enum ShapeParm {
     SHAPE_FOMT = 13,
     SHAPE_WIDTH = 15,
 };
+
+} // namespace tessary

@@ -1,6 +1,9 @@
 // Where the parameters of a text or field lie in PTRNDATA::Parm.
 #pragma once
 
+namespace tessary
+{
+
 enum TextParm {
     TEXT_COLOR4 = 4,
     TEXT_BACK4 = 8,
@@ -15,3 +18,5 @@ enum TextParm {
     FIELD_HEX = 21,
     FIELD_NAVIGATION = 27, ///< 1 Up, 2 Down, 4 Left, 8 Right end the input
 };
+
+} // namespace tessary

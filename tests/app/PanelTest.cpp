@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <X11/keysym.h>
 
+using namespace tessary;
+
 using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;

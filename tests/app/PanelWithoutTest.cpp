@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <X11/Xlib.h>
 
+using namespace tessary;
+
 using testing::AllOf;
 using testing::AnyOf;
 using testing::HasSubstr;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <set>
 
+using namespace tessary;
+
 namespace
 {
 

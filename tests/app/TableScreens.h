@@ -49,21 +49,21 @@ class TableScreens : public SampleScreen
         for (int i = 0; i < 5; i++)
             form.item(PTRN_CHAR, 10 + 200 * (i % 2), 10 + 24 * (i / 2), 190 + 200 * (i % 2),
                       26 + 24 * (i / 2))
-                .parm(FIELD_WIDTH, widths[i])
-                .parm(FIELD_KEYENTRY, 1)
-                .parm(FIELD_NAVIGATION,
+                .parm(tessary::FIELD_WIDTH, widths[i])
+                .parm(tessary::FIELD_KEYENTRY, 1)
+                .parm(tessary::FIELD_NAVIGATION,
                       tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
                 .code(code, offset(fields[i]));
         form.item(PTRN_RECT, frameLeft, frameTop, frameLeft + frameWidth, frameTop + frameHeight)
             .code(code, offset(432));
         form.item(PTRN_SBAR, barLeft, frameTop, barLeft + 20, barTop)
-            .parm(SBAR_VERTICAL, 1)
-            .parm(SBAR_VISIBLE, shownLines)
+            .parm(tessary::SBAR_VERTICAL, 1)
+            .parm(tessary::SBAR_VISIBLE, shownLines)
             .code(code, offset(1571))
             .action(tessary::ACTION_MESSAGE_CHILD1);
         form.item(PTRN_SBAR, frameLeft, barTop, barLeft, barTop + 20)
-            .parm(SBAR_VISIBLE, frameWidth)
-            .parm(SBAR_LINE_STEP, columnWidth)
+            .parm(tessary::SBAR_VISIBLE, frameWidth)
+            .parm(tessary::SBAR_LINE_STEP, columnWidth)
             .code(code, offset(433))
             .action(tessary::ACTION_MESSAGE_CHILD1);
         form.item(PTRN_BUTN, saveLeft, buttonTop, saveLeft + 80, buttonTop + 30)
@@ -82,7 +82,7 @@ class TableScreens : public SampleScreen
     Pattern table()
     {
         Pattern table(tableName);
-        table.size(tableWidth, frameHeight).header(HEDR_MODELESS, 1);
+        table.size(tableWidth, frameHeight).header(tessary::HEDR_MODELESS, 1);
         for (int column = 0; column < 16; column++) {
             const int x = column * columnWidth;
             table.item(PTRN_BUTN, x, 0, x + columnWidth, headingHeight)
@@ -91,10 +91,10 @@ class TableScreens : public SampleScreen
             for (int line = 0; line < shownLines; line++) {
                 const int y = headingHeight + line * lineHeight + 2;
                 table.item(column == lengthColumn ? PTRN_NUMR : PTRN_CHAR, x, y, x + columnWidth, y + 16)
-                    .parm(FIELD_WIDTH, 11)
-                    .parm(FIELD_KEYENTRY, 1)
-                    .parm(TEXT_BACKED, 1)
-                    .parm(FIELD_NAVIGATION,
+                    .parm(tessary::FIELD_WIDTH, 11)
+                    .parm(tessary::FIELD_KEYENTRY, 1)
+                    .parm(tessary::TEXT_BACKED, 1)
+                    .parm(tessary::FIELD_NAVIGATION,
                           tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
                     .code(code, offset(cell(column, line)));
             }

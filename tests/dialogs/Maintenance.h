@@ -32,39 +32,39 @@ inline Pattern maintenance()
     for (int i = 0; i < lines; i++) {
         const int y = top + i * spacing;
         pattern.item(PTRN_CHAR, codeX, y, codeX + 128, y + 16)
-            .parm(FIELD_WIDTH, 16)
-            .parm(TEXT_BACKED, 1)
+            .parm(tessary::FIELD_WIDTH, 16)
+            .parm(tessary::TEXT_BACKED, 1)
             .code("SYSTEM", cell(20 + i))
             .action(tessary::ACTION_MESSAGE_SELF);
         pattern.item(PTRN_NUMR, offsetX, y, offsetX + 40, y + 16)
             .code("SYSTEM", cell(30 + i))
-            .parm(TEXT_BACKED, 1);
+            .parm(tessary::TEXT_BACKED, 1);
         pattern.item(PTRN_CHCK, flagX, y, flagX + 16, y + 16)
-            .parm(CHECK_BACKED, 1)
+            .parm(tessary::CHECK_BACKED, 1)
             .code("SYSTEM", cell(40 + i))
             .action(tessary::ACTION_MESSAGE_SELF);
         pattern.item(PTRN_NUMR, wordX, y, wordX + 56, y + 16)
-            .parm(FIELD_WIDTH, 7)
-            .parm(FIELD_DECIMALS, 1)
-            .parm(FIELD_KEYENTRY, 1)
-            .parm(TEXT_BACKED, 1)
+            .parm(tessary::FIELD_WIDTH, 7)
+            .parm(tessary::FIELD_DECIMALS, 1)
+            .parm(tessary::FIELD_KEYENTRY, 1)
+            .parm(tessary::TEXT_BACKED, 1)
             .code("SYSTEM", cell(50 + i));
         pattern.item(PTRN_NUMR, valueX, y, valueX + 80, y + 16)
-            .parm(FIELD_WIDTH, 10)
-            .parm(FIELD_DECIMALS, 2)
-            .parm(FIELD_KEYENTRY, 1)
-            .parm(TEXT_BACKED, 1)
+            .parm(tessary::FIELD_WIDTH, 10)
+            .parm(tessary::FIELD_DECIMALS, 2)
+            .parm(tessary::FIELD_KEYENTRY, 1)
+            .parm(tessary::TEXT_BACKED, 1)
             .code("SYSTEM", cell(60 + i));
         pattern.item(PTRN_CHAR, textX, y, textX + 120, y + 16)
-            .parm(FIELD_WIDTH, 15)
-            .parm(FIELD_KEYENTRY, 1)
-            .parm(TEXT_BACKED, 1)
+            .parm(tessary::FIELD_WIDTH, 15)
+            .parm(tessary::FIELD_KEYENTRY, 1)
+            .parm(tessary::TEXT_BACKED, 1)
             .code("SYSTEM", cell(70 + i));
     }
     for (const auto& [x, no] : {std::pair(codeBarX, 80), std::pair(dataBarX, 81)})
         pattern.item(PTRN_SBAR, x, top, x + barWidth, bottom)
-            .parm(SBAR_VERTICAL, 1)
-            .parm(SBAR_VISIBLE, lines)
+            .parm(tessary::SBAR_VERTICAL, 1)
+            .parm(tessary::SBAR_VISIBLE, lines)
             .code("SYSTEM", cell(no))
             .action(tessary::ACTION_MESSAGE_SELF);
     return pattern;
@@ -153,10 +153,11 @@ class Maintenance : public Screen
     /// True when a line shows something in the column at x: pixels in the colour of texts and marks.
     bool hasInk(int x, int line)
     {
-        static_assert(TEXT_COLOR4 == CHECK_COLOR); // which is the colour that a Pattern draws them in
+        static_assert(tessary::TEXT_COLOR4 ==
+                      tessary::CHECK_COLOR); // which is the colour that a Pattern draws them in
         const RECT& place = SystmWnd->WindRect;
-        const int ink =
-            user.picture(place.left + x, place.top + top + line * spacing, 38, 16).count(color(TEXT_COLOR4));
+        const int ink = user.picture(place.left + x, place.top + top + line * spacing, 38, 16)
+                            .count(color(tessary::TEXT_COLOR4));
         return ink > 0;
     }
 

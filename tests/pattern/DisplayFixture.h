@@ -38,9 +38,9 @@ class Display : public LoadedPattern
     static Pattern& box(Pattern& pattern, int x1, int y1, int x2, int y2)
     {
         return pattern.item(PTRN_RECT, x1, y1, x2, y2)
-            .parm(SHAPE_WIDTH, 0)
-            .parm(SHAPE_FILLED, 1)
-            .parm4(SHAPE_FILL4, 20, 21, 22, 23);
+            .parm(tessary::SHAPE_WIDTH, 0)
+            .parm(tessary::SHAPE_FILLED, 1)
+            .parm4(tessary::SHAPE_FILL4, 20, 21, 22, 23);
     }
     static Pattern box(int x1, int y1, int x2, int y2)
     {

@@ -3,6 +3,8 @@
 
 #include <vector>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include <limits>
 #include <string>
 
+using namespace tessary;
+
 namespace
 {
 

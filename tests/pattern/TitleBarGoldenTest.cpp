@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -2,6 +2,8 @@
 #include "draw/Images.h"
 #include "tests/pattern/TitleFrame.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -4,6 +4,8 @@
 #include "pattern/TitleBar.h"
 #include "tests/pattern/TitleFrame.h"
 
+using namespace tessary;
+
 namespace
 {
 

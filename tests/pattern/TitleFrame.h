@@ -27,7 +27,7 @@ class Frame : public LoadedPattern
     /// A pattern of 640 x 90 with a title bar of 30.
     static Pattern titled(const std::string& title = "Plant")
     {
-        return Pattern("p").size(W, H).header(HEDR_TITLE_HEIGHT, T).title(title);
+        return Pattern("p").size(W, H).header(tessary::HEDR_TITLE_HEIGHT, T).title(title);
     }
 
     void show(const Pattern& pattern)

@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace tessary;
+
 namespace fs = std::filesystem;
 
 namespace

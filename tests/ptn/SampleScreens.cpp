@@ -7,6 +7,8 @@
 #include <cstring>
 #include <filesystem>
 
+using namespace tessary;
+
 namespace fs = std::filesystem;
 
 namespace

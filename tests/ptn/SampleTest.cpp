@@ -8,6 +8,8 @@
 #include <cstring>
 #include <set>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <utility>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 
 #include "comndata/ComnData.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <limits>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;

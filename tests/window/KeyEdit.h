@@ -29,14 +29,20 @@ class KeyEdit : public Screen
     {
         const auto box = [](int y) { return SetRect(left, y, left + 60, y + line); };
         Pattern pattern(name);
-        pattern.size(300, 200).header(HEDR_KIND, 2);
+        pattern.size(300, 200).header(tessary::HEDR_KIND, 2);
         pattern.item(PTRN_NUMR, box(20)).code("D", 0);
         keyed(pattern, navigation);
-        pattern.item(PTRN_NUMR, box(50)).parm(FIELD_WIDTH, 7).parm(FIELD_DECIMALS, 2).code("D", 1);
+        pattern.item(PTRN_NUMR, box(50))
+            .parm(tessary::FIELD_WIDTH, 7)
+            .parm(tessary::FIELD_DECIMALS, 2)
+            .code("D", 1);
         keyed(pattern, navigation);
-        pattern.item(PTRN_NUMR, box(80)).parm(FIELD_WIDTH, 4).parm(FIELD_HEX, 1).code("D", 2);
+        pattern.item(PTRN_NUMR, box(80))
+            .parm(tessary::FIELD_WIDTH, 4)
+            .parm(tessary::FIELD_HEX, 1)
+            .code("D", 2);
         keyed(pattern, navigation);
-        pattern.item(PTRN_CHAR, box(110)).parm(FIELD_WIDTH, 8).code("D", 3);
+        pattern.item(PTRN_CHAR, box(110)).parm(tessary::FIELD_WIDTH, 8).code("D", 3);
         keyed(pattern, navigation);
         return pattern;
     }
@@ -97,9 +103,9 @@ class KeyEdit : public Screen
     static Picture inEdit(int width, const std::string& shown, int at, int cursorColor)
     {
         Canvas canvas(100, line + 4);
-        canvas->DrawRect(0, 0, 100, line + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
-        canvas->DrawRect(0, 0, cell * width, line, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
-        canvas->DrawText(0, 0, 0, HEDR_EDIT_COLOR, HEDR_EDIT_BACK, shown.c_str());
+        canvas->DrawRect(0, 0, 100, line + 4, 0, 0, tessary::HEDR_BODY_COLOR, tessary::HEDR_BODY_COLOR);
+        canvas->DrawRect(0, 0, cell * width, line, 0, 0, tessary::HEDR_EDIT_BACK, tessary::HEDR_EDIT_BACK);
+        canvas->DrawText(0, 0, 0, tessary::HEDR_EDIT_COLOR, tessary::HEDR_EDIT_BACK, shown.c_str());
         if (cursorColor >= 0)
             canvas->DrawLine(cell * at, 0, cell * at, line, 0, 1, 0, cursorColor);
         return canvas.picture();
@@ -108,6 +114,6 @@ class KeyEdit : public Screen
   private:
     static void keyed(Pattern& pattern, int navigation)
     {
-        pattern.parm(FIELD_KEYENTRY, 1).parm(FIELD_NAVIGATION, navigation);
+        pattern.parm(tessary::FIELD_KEYENTRY, 1).parm(tessary::FIELD_NAVIGATION, navigation);
     }
 };

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <X11/keysym.h>
 
+using namespace tessary;
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 

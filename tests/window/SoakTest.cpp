@@ -2,6 +2,8 @@
 #include "tests/support/Footprint.h"
 #include "tests/window/KeyEdit.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
+using namespace tessary;
+
 namespace
 {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "draw/DrawCntl.h"
+#include "tools/ptn/common/Framework.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
