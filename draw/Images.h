@@ -46,14 +46,14 @@ extern char* XPM_Check_OFF[tessary::CONT_BUILTINLINE];
 extern char* XPM_Check_ON[tessary::CONT_BUILTINLINE];
 
 // Bits of the cursors: picture and mask.
-extern char XPM_Cursor1_data[SIZE_CURSOR], XPM_Cursor1_mask[SIZE_CURSOR];
-extern char XPM_Cursor2_data[SIZE_CURSOR], XPM_Cursor2_mask[SIZE_CURSOR];
-extern char XPM_Cursor3_data[SIZE_CURSOR], XPM_Cursor3_mask[SIZE_CURSOR];
-extern char XPM_Cursor4_data[SIZE_CURSOR], XPM_Cursor4_mask[SIZE_CURSOR];
-extern char XPM_Cursor5_data[SIZE_CURSOR], XPM_Cursor5_mask[SIZE_CURSOR];
-extern char XPM_Cursor6_data[SIZE_CURSOR], XPM_Cursor6_mask[SIZE_CURSOR];
-extern char XPM_Cursor7_data[SIZE_CURSOR], XPM_Cursor7_mask[SIZE_CURSOR];
-extern char XPM_Cursor8_data[SIZE_CURSOR], XPM_Cursor8_mask[SIZE_CURSOR];
+extern char XPM_Cursor1_data[tessary::SIZE_CURSOR], XPM_Cursor1_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor2_data[tessary::SIZE_CURSOR], XPM_Cursor2_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor3_data[tessary::SIZE_CURSOR], XPM_Cursor3_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor4_data[tessary::SIZE_CURSOR], XPM_Cursor4_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor5_data[tessary::SIZE_CURSOR], XPM_Cursor5_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor6_data[tessary::SIZE_CURSOR], XPM_Cursor6_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor7_data[tessary::SIZE_CURSOR], XPM_Cursor7_mask[tessary::SIZE_CURSOR];
+extern char XPM_Cursor8_data[tessary::SIZE_CURSOR], XPM_Cursor8_mask[tessary::SIZE_CURSOR];
 
 /// Gives every button picture the colours that the profile file sets and makes the bits of the cursors.
 void XPM_DataInit();
