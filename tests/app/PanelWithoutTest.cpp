@@ -1,6 +1,7 @@
 // The real program where something it draws with is missing: it starts, runs and stops, and tells what is
 // missing once, with what to install or set.
 #include "tests/app/Panel.h"
+#include "tests/support/Variable.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -41,19 +42,6 @@ class BareFonts
     Display* display_;
     char** fonts_;
     int count_ = 0;
-};
-
-/// A variable of the environment that programs started meanwhile see.
-class Variable
-{
-  public:
-    Variable(const char* name, const char* value) : name_(name) { setenv(name, value, 1); }
-    ~Variable() { unsetenv(name_); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-
-  private:
-    const char* name_;
 };
 
 class PanelWithout : public Panel

@@ -3,8 +3,8 @@
 #include "tests/support/Program.h"
 #include "tests/support/Project.h"
 #include "tests/support/Toolkit.h"
+#include "tests/support/Variable.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest-spi.h>
@@ -175,13 +175,9 @@ TEST_F(GoldenCheck, tells_the_versions_when_they_are_not_those_of_the_golden_pic
 
 TEST_F(GoldenCheck, fails_the_running_test_and_leaves_files_in_the_build_folder)
 {
-    const char* renew = std::getenv("TESSARY_RENEW_GOLDENS");
-    const std::string before = renew ? renew : "";
-    unsetenv("TESSARY_RENEW_GOLDENS");
+    const Variable renew("TESSARY_RENEW_GOLDENS", nullptr);
     EXPECT_NONFATAL_FAILURE(expectGolden(Picture(1, 1, 0), "no-such-golden-picture"),
                             Program::sourceFolder() + "/tests/golden/no-such-golden-picture.png");
-    if (renew)
-        setenv("TESSARY_RENEW_GOLDENS", before.c_str(), 1);
     const std::string left = Program::buildFolder() + "/golden/no-such-golden-picture.actual.png";
     EXPECT_TRUE(fs::exists(left));
     fs::remove(left);

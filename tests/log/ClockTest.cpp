@@ -3,12 +3,13 @@
 
 #include "comndata/ComnData.h"
 #include "tests/support/Project.h"
+#include "tests/support/Variable.h"
 
 #include <array>
-#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
+#include <optional>
 
 using testing::ElementsAre;
 using Date = std::array<int, 3>;
@@ -71,23 +72,15 @@ std::array<int, 3> timeOf(int seconds)
 class TimeZone
 {
   public:
-    explicit TimeZone(const char* zone)
-    {
-        if (const char* before = std::getenv("TZ"))
-            before_ = before;
-        setenv("TZ", zone, 1);
-    }
+    explicit TimeZone(const char* zone) : variable_(std::in_place, "TZ", zone) {}
     ~TimeZone()
     {
-        if (before_.empty())
-            unsetenv("TZ");
-        else
-            setenv("TZ", before_.c_str(), 1);
+        variable_.reset();
         tzset();
     }
 
   private:
-    std::string before_;
+    std::optional<Variable> variable_;
 };
 
 } // namespace

@@ -1,13 +1,12 @@
 // Numbers for property tests. A seed gives the same numbers on every machine.
 #pragma once
 
+#include "tests/support/Wishes.h"
+
 #include <cstdint>
-#include <cstdlib>
 #include <initializer_list>
 #include <iterator>
 #include <random>
-#include <string>
-#include <vector>
 
 class Random
 {
@@ -39,21 +38,3 @@ class Random
   private:
     std::mt19937 engine_;
 };
-
-/// The seeds 1 to `count`; or only the one of the environment variable TESSARY_SEED, to repeat a failure
-/// or to try others.
-inline std::vector<unsigned> seeds(unsigned count)
-{
-    if (const char* given = std::getenv("TESSARY_SEED"))
-        return {static_cast<unsigned>(std::strtoul(given, nullptr, 10))};
-    std::vector<unsigned> all(count);
-    for (unsigned i = 0; i < count; ++i)
-        all[i] = i + 1;
-    return all;
-}
-
-/// What a failure prints.
-inline std::string seedText(unsigned seed)
-{
-    return "TESSARY_SEED=" + std::to_string(seed);
-}

@@ -1,4 +1,5 @@
 #include "shell/Locale.h"
+#include "tests/support/Variable.h"
 #include "tests/support/XServer.h"
 
 #include <clocale>
@@ -27,11 +28,13 @@ class Locale : public testing::Test
   protected:
     ~Locale() override
     {
-        unsetenv("LOCPATH");
+        locales.set(nullptr);
         std::setlocale(LC_ALL, "C");
         std::setlocale(LC_CTYPE, "ja_JP.eucJP");
         UseEucLocale();
     }
+
+    Variable locales{"LOCPATH", nullptr};
 };
 
 TEST_F(Locale, of_the_environment_stays_when_it_is_euc_jp)
@@ -64,7 +67,7 @@ TEST_F(Locale, writes_numbers_with_a_point)
 TEST_F(Locale, that_is_not_installed_is_reported_with_the_way_out)
 {
     std::setlocale(LC_ALL, "C");
-    setenv("LOCPATH", "/nonexistent", 1);
+    locales.set("/nonexistent");
     if (std::setlocale(LC_CTYPE, "ja_JP.eucJP"))
         GTEST_SKIP() << "this system's locales can not be hidden: they are not in the archive";
 
@@ -84,7 +87,7 @@ TEST_F(Locale, that_is_not_installed_is_reported_with_the_way_out)
 TEST_F(Locale, problem_is_gone_when_the_next_call_succeeds)
 {
     std::setlocale(LC_ALL, "C");
-    setenv("LOCPATH", "/nonexistent", 1);
+    locales.set("/nonexistent");
     if (std::setlocale(LC_CTYPE, "ja_JP.eucJP"))
         GTEST_SKIP() << "this system's locales can not be hidden: they are not in the archive";
     testing::internal::CaptureStderr();
@@ -92,7 +95,7 @@ TEST_F(Locale, problem_is_gone_when_the_next_call_succeeds)
     testing::internal::GetCapturedStderr();
     ASSERT_NE(LocaleProblem(), nullptr);
 
-    unsetenv("LOCPATH");
+    locales.set(nullptr);
     EXPECT_TRUE(UseEucLocale());
     EXPECT_EQ(LocaleProblem(), nullptr);
 }

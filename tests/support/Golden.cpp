@@ -1,9 +1,9 @@
 #include "tests/support/Golden.h"
 
 #include "tests/support/Program.h"
+#include "tests/support/Wishes.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <gdk/gdkx.h>
 
@@ -11,9 +11,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-
-constexpr char kRenewVariable[] = "TESSARY_RENEW_GOLDENS";
-constexpr char kRenewCommand[] = "TESSARY_RENEW_GOLDENS=1 ctest --preset sanitize -R Golden";
 
 constexpr std::uint32_t kDifferent = 0xFF0000;
 
@@ -75,7 +72,7 @@ testing::AssertionResult Goldens::renewed(const Picture& picture, const std::str
         return testing::AssertionFailure() << "can not write " << goldenFile(name);
     return testing::AssertionFailure()
            << "renewed " << goldenFile(name) << ", which fails on purpose: look at the picture, then run "
-           << "the tests again without " << kRenewVariable;
+           << "the tests again without TESSARY_RENEW_GOLDENS";
 }
 
 testing::AssertionResult Goldens::check(const Picture& picture, const std::string& name) const
@@ -112,9 +109,8 @@ testing::AssertionResult Goldens::check(const Picture& picture, const std::strin
 
 void expectGolden(const Picture& picture, const std::string& name, const char* file, int line)
 {
-    const char* renew = std::getenv(kRenewVariable);
     const Goldens goldens(Program::sourceFolder() + "/tests/golden", Program::buildFolder() + "/golden",
-                          renew && *renew && std::string(renew) != "0");
+                          renewsGoldens());
     const testing::AssertionResult result = goldens.check(picture, name);
     if (!result)
         ADD_FAILURE_AT(file, line) << result.message();

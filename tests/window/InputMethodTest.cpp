@@ -1,5 +1,6 @@
 // Japanese text entry through an input method, here one of the test's own.
 #include "window/InputMethod.h"
+#include "tests/support/Variable.h"
 #include "tests/window/KeyEdit.h"
 
 #include "base/EucText.h"
@@ -390,9 +391,10 @@ TEST_F(NoInputMethod, control_and_alt_change_nothing)
 TEST_F(NoInputMethod, the_x_library_s_own_composing_is_none)
 {
     // What a Japanese locale chooses by itself: there is no server behind it.
-    setenv("GTK_IM_MODULE", "xim", 1);
+    const Variable module("GTK_IM_MODULE", "xim");
+    Variable chosen("XMODIFIERS", "");
     for (const char* modifiers : {"", "@im=none", "@im=local", "@im="}) {
-        setenv("XMODIFIERS", modifiers, 1);
+        chosen.set(modifiers);
         g_object_set(gtk_settings_get_default(), "gtk-im-module", modifiers, nullptr); // to be looked at anew
         edit(TEXT);
         send(GDK_dead_acute);
@@ -404,15 +406,13 @@ TEST_F(NoInputMethod, the_x_library_s_own_composing_is_none)
         key(XK_Escape);
         tick();
     }
-    setenv("GTK_IM_MODULE", "gtk-im-context-simple", 1);
-    unsetenv("XMODIFIERS");
     g_object_set(gtk_settings_get_default(), "gtk-im-module", "", nullptr);
 }
 
 TEST_F(NoInputMethod, a_method_whose_server_does_not_run_leaves_the_keyboard_usable)
 {
-    setenv("GTK_IM_MODULE", "xim", 1);
-    setenv("XMODIFIERS", "@im=nobody", 1);
+    const Variable module("GTK_IM_MODULE", "xim");
+    const Variable chosen("XMODIFIERS", "@im=nobody");
     g_object_set(gtk_settings_get_default(), "gtk-im-module", "xim", nullptr);
     edit(TEXT);
     type("Ab 1");
@@ -421,8 +421,6 @@ TEST_F(NoInputMethod, a_method_whose_server_does_not_run_leaves_the_keyboard_usa
     EXPECT_EQ(text(), "Ab1     ");
     key(XK_Return);
     EXPECT_EQ(string(TEXT), "Ab1    ");
-    setenv("GTK_IM_MODULE", "gtk-im-context-simple", 1);
-    unsetenv("XMODIFIERS");
     g_object_set(gtk_settings_get_default(), "gtk-im-module", "", nullptr);
 }
 

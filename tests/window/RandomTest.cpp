@@ -3,6 +3,7 @@
 // TESSARY_SEED=<number> walks one walk, TESSARY_STEPS=<number> its length. A failure tells the seed and the
 // last steps.
 #include "tests/support/Screen.h"
+#include "tests/support/Wishes.h"
 
 #include "comndata/ComnData.h"
 #include "window/KeyText.h"
@@ -80,10 +81,8 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
   protected:
     void SetUp() override
     {
-        const char* const given = std::getenv("TESSARY_SEED");
-        seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : GetParam();
-        random.seed(seed);
-        std::printf("TESSARY_SEED=%u\n", seed); // should the walk end in a crash
+        random.seed(GetParam());
+        std::printf("%s\n", seedText(GetParam()).c_str()); // should the walk end in a crash
         project.code("SYSTEM", 99).code("D", cells);
         for (int i = 0; i < 3; i++)
             know(busy(names[i], i));
@@ -276,8 +275,7 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
 
     std::string story(int number) const
     {
-        std::string text =
-            "TESSARY_SEED=" + std::to_string(seed) + ", step " + std::to_string(number) + ", the last steps:";
+        std::string text = seedText(GetParam()) + ", step " + std::to_string(number) + ", the last steps:";
         for (const int what : steps)
             text += " " + std::to_string(what);
         return text;
@@ -375,7 +373,6 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
         EXPECT_LE(RecordingWnd::alive.size(), 16 + 1 + 5 * forgotten);
     }
 
-    unsigned seed = 0;
     std::mt19937 random;
     std::deque<int> steps;
     POINT at{};
@@ -384,12 +381,11 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, testing::Values(1u, 2u, 3u));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, testing::ValuesIn(seeds(3)));
 
 TEST_P(RandomWalk, breaks_nothing)
 {
-    const char* const given = std::getenv("TESSARY_STEPS");
-    const int length = given ? std::atoi(given) : 1200;
+    const int length = stepCount(1200);
     for (int i = 0; i < length; i++) {
         step();
         SCOPED_TRACE(story(i));

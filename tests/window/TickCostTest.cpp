@@ -1,5 +1,6 @@
 // What the toolkit would do at every tick behind a window's back, and the windows keep it from.
 #include "tests/support/Screen.h"
+#include "tests/support/Variable.h"
 
 #include <algorithm>
 #include <dlfcn.h>
@@ -47,20 +48,15 @@ class TickCost : public Screen
 class ThemeFolder
 {
   public:
-    explicit ThemeFolder(const std::string& home) : before_(getenv("HOME") ? getenv("HOME") : "")
+    explicit ThemeFolder(const std::string& home) : home_("HOME", home.c_str())
     {
         const std::string theme = home + "/.icons/default";
         std::filesystem::create_directories(theme);
         writeFile(theme + "/index.theme", "[Icon Theme]\n");
-        setenv("HOME", home.c_str(), 1);
         watch_ = inotify_init1(IN_NONBLOCK);
         inotify_add_watch(watch_, theme.c_str(), IN_OPEN);
     }
-    ~ThemeFolder()
-    {
-        close(watch_);
-        setenv("HOME", before_.c_str(), 1);
-    }
+    ~ThemeFolder() { close(watch_); }
     ThemeFolder(const ThemeFolder&) = delete;
     ThemeFolder& operator=(const ThemeFolder&) = delete;
 
@@ -72,7 +68,7 @@ class ThemeFolder
     }
 
   private:
-    std::string before_;
+    Variable home_;
     int watch_;
 };
 
