@@ -1,5 +1,5 @@
 // ptn: the authoring tool. Its messages are UTF-8; the texts of this program itself are plain ASCII.
-#include "tools/ptn/commands/Commands.h"
+#include "tools/ptn/commands/Command.h"
 #include "tools/ptn/common/Diagnostics.h"
 
 #include <CLI/CLI.hpp>
@@ -36,13 +36,12 @@ int Run(int argc, char** argv)
     app.require_subcommand(1);
 
     int status = 0;
-    AddNewCommand(app, status);
-    AddBuildCommand(app, status);
-    AddCheckCommand(app, status);
-    AddDumpCommand(app, status);
-    AddRenderCommand(app, status);
-    AddWatchCommand(app, status);
-    AddHelpCommand(app, status);
+    const auto commands = AllCommands();
+    for (const auto& command : commands) {
+        CLI::App* line = app.add_subcommand(command->name(), command->summary());
+        command->addOptions(*line);
+        line->callback([&status, &command] { status = command->run(); });
+    }
     if (argc > 1 && IsUnknownCommand(app, argv[1]))
         return EXIT_USAGE;
     try {

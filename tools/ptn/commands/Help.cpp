@@ -1,13 +1,12 @@
-#include "tools/ptn/commands/Help.h"
-
+// "ptn help": commands, and the reference of items and windows.
 #include "pattern/ActionTable.h"
 #include "pattern/ItemTable.h"
-#include "tools/ptn/common/Diagnostics.h"
+#include "tools/ptn/commands/Command.h"
 
-#include <algorithm>
 #include <iomanip>
+#include <iostream>
 #include <limits>
-#include <vector>
+#include <string>
 
 namespace ptn
 {
@@ -122,8 +121,8 @@ void PrintItem(const ItemClass& item, std::ostream& out)
     PrintTable(CommonParms(), out);
 }
 
-} // namespace
-
+// The attributes of an item type or of "window"; without a name all types, actions and how to go on.
+// Returns false when there is no such type.
 bool PrintAttributes(const std::string& type, std::ostream& out)
 {
     if (type == "window") {
@@ -148,6 +147,56 @@ bool PrintAttributes(const std::string& type, std::ostream& out)
     for (const ActionSchema& action : Actions())
         out << "  " << std::left << std::setw(18) << action.name << action.help << "\n";
     return true;
+}
+
+class HelpCommand : public Command
+{
+  public:
+    const char* name() const override { return "help"; }
+    const char* summary() const override
+    {
+        return "Explain commands, and the attributes of items and windows";
+    }
+    void addOptions(CLI::App& line) override;
+    int run() override;
+
+  private:
+    const CLI::App* program_ = nullptr;
+    std::string topic_;
+    std::string type_;
+};
+
+void HelpCommand::addOptions(CLI::App& line)
+{
+    program_ = line.get_parent();
+    line.add_option("TOPIC", topic_, "A command, or attributes");
+    line.add_option("TYPE", type_, "Of attributes: item type, or window");
+}
+
+int HelpCommand::run()
+{
+    if (topic_.empty()) {
+        std::cout << program_->get_formatter()->make_help(program_, program_->get_name(),
+                                                          CLI::AppFormatMode::Normal);
+        return 0;
+    }
+    if (const CLI::App* command = FindCommand(*program_, topic_)) {
+        std::cout << command->help(program_->get_name());
+        return 0;
+    }
+    const std::string type = topic_ == "attributes" ? type_ : topic_;
+    if (PrintAttributes(type, std::cout))
+        return 0;
+    std::cerr << "ptn: no type '" << type << "'. The types are:\n";
+    PrintAttributes("", std::cerr);
+    return 1;
+}
+
+} // namespace
+
+std::unique_ptr<Command> MakeHelp()
+{
+    return std::make_unique<HelpCommand>();
 }
 
 } // namespace ptn
