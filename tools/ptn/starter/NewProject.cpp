@@ -41,8 +41,8 @@ bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
         diagnostics.error({folder.string(), 0}, "this folder is not empty. Name a new one.");
         return false;
     }
-    for (const StarterFile& file : StarterFiles()) {
-        std::string text = file.text;
+    for (const EmbeddedFile& file : StarterFiles()) {
+        std::string text(file.bytes);
         Replace(text, "@NAME@", name);
         Replace(text, "@TESSARY@", PTN_TESSARY);
         Replace(text, "@BUILD@", PTN_BUILD);

@@ -2,22 +2,16 @@
 #pragma once
 
 #include "tools/ptn/common/Diagnostics.h"
+#include "tools/ptn/common/Embedded.h"
 
 #include <filesystem>
-#include <string>
-#include <vector>
 
 namespace ptn
 {
 
-/// A file of the starting project; "@NAME@", "@TESSARY@" and "@BUILD@" are filled in.
-struct StarterFile {
-    const char* name;
-    const char* text; ///< UTF-8
-};
-
-/// All of them: sources of three screens, a program that shows them, and its build.
-const std::vector<StarterFile>& StarterFiles();
+/// The files of the starting project: sources of three screens, a program that shows them, and its build.
+/// "@NAME@", "@TESSARY@" and "@BUILD@" in them are to be filled in.
+const std::vector<EmbeddedFile>& StarterFiles();
 
 /// Writes the project into a new folder, whose name becomes that of the program.
 /// @return whether it is there now
