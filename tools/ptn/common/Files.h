@@ -2,11 +2,15 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 
 namespace ptn
 {
+
+/// Bytes of files by path, which is relative to some folder.
+using FileMap = std::map<std::string, std::string>;
 
 /// A regular file's bytes; none when it is missing, can not be read or is not a regular file.
 std::optional<std::string> ReadBytes(const std::filesystem::path& file);

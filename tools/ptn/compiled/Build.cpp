@@ -1,8 +1,8 @@
 #include "tools/ptn/compiled/Build.h"
 
 #include "tools/ptn/common/Files.h"
-#include "tools/ptn/source/ProjectSource.h"
 #include "tools/ptn/source/ScreenSource.h"
+#include "tools/ptn/source/Sections.h"
 
 #include <vector>
 
@@ -21,33 +21,26 @@ fs::path FolderPath(const fs::path& folder)
     return path.has_filename() ? path : path.parent_path();
 }
 
-// The whole project directory, in memory.
-OutputFiles ProjectFiles(const ProjectSource& project, const std::vector<Pattern>& patterns)
+// The files of the sections that are written so.
+FileMap SectionFiles(const ProjectSource& project, ProjectFile kind)
 {
-    OutputFiles files;
-    files["PtrnCode"] = project.codes.bytes();
-    files["PtrnColr"] = project.resources.colorBytes();
-    files["PtrnMark"] = project.resources.markBytes();
-    if (!project.messages.empty())
-        files["MesgData.prf"] = project.messages.bytes();
-    if (!project.limits.empty())
-        files["LimtData.prf"] = project.limits.bytes();
+    FileMap files;
+    for (const auto& section : Sections())
+        if (section->kind() == kind)
+            if (auto bytes = section->bytes(project))
+                files[section->file()] = std::move(*bytes);
+    return files;
+}
+
+// What of the project directory is the build's alone, in memory.
+FileMap MadeFiles(const ProjectSource& project, const std::vector<Pattern>& patterns)
+{
+    FileMap files = SectionFiles(project, ProjectFile::Made);
     for (const auto& bitmap : project.bitmaps)
         files["Bitmap/" + bitmap.first] = bitmap.second;
     for (const Pattern& pattern : patterns)
         files[pattern.name + ".ptn"] = PatternBytes(pattern);
     return files;
-}
-
-// Files that the program writes itself once it runs.
-OutputFiles Seeds(const ProjectSource& project)
-{
-    OutputFiles seeds;
-    if (project.flags.given())
-        seeds["PtrnFlag"] = project.flags.bytes(project.codes);
-    if (project.wiring.given())
-        seeds["Haisenhyo"] = project.wiring.bytes();
-    return seeds;
 }
 
 // The program does not look for these tables where its profile says that the project is.
@@ -81,7 +74,8 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     if (diagnostics.failed())
         return std::nullopt;
     try {
-        return WriteOutput(folder, ProjectFiles(project, patterns), Seeds(project), profile, profileBytes);
+        return WriteOutput(folder, MadeFiles(project, patterns), SectionFiles(project, ProjectFile::Seed),
+                           profile, profileBytes);
     } catch (const fs::filesystem_error& problem) {
         diagnostics.error({problem.path1().string(), 0},
                           problem.code().message() + ". Check the folder's rights and space.");

@@ -4,6 +4,7 @@
 #include "pattern/ItemTable.h"
 #include "tools/ptn/common/Files.h"
 #include "tools/ptn/model/IniText.h"
+#include "tools/ptn/source/Sections.h"
 
 #include <algorithm>
 
@@ -15,13 +16,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-/// Numbers that the patterns name.
-struct Used {
-    std::set<int> colors;
-    std::set<int> marks;
-};
-
-void Collect(const SchemaTable<ParmSchema>& parms, const std::int32_t* values, Used& used)
+void Collect(const SchemaTable<ParmSchema>& parms, const std::int32_t* values, UsedNumbers& used)
 {
     for (const ParmSchema& parm : parms)
         for (int i = parm.index; i < parm.index + parm.count; ++i) {
@@ -32,9 +27,9 @@ void Collect(const SchemaTable<ParmSchema>& parms, const std::int32_t* values, U
         }
 }
 
-Used UsedNumbers(const std::vector<Pattern>& patterns)
+UsedNumbers NumbersIn(const std::vector<Pattern>& patterns)
 {
-    Used used;
+    UsedNumbers used;
     for (const Pattern& pattern : patterns) {
         Collect(HeaderParms(), pattern.header.Parm1, used);
         for (const PatternItem& item : pattern.items) {
@@ -114,8 +109,6 @@ Compiled ReadCompiled(const fs::path& given, Diagnostics& diagnostics)
     const fs::path folder = path.has_filename() ? path : path.parent_path();
     Compiled compiled;
     ProjectSource& project = compiled.project;
-    const auto read = [&](const char* name) { return ReadBytes(folder / name).value_or(""); };
-    const auto place = [&](const fs::path& file) { return Place{(given / file.filename()).string(), 0}; };
 
     for (const fs::path& file : FilesOf(folder, ".ptn"))
         if (auto pattern =
@@ -124,15 +117,11 @@ Compiled ReadCompiled(const fs::path& given, Diagnostics& diagnostics)
             compiled.patterns.push_back(std::move(*pattern));
         else
             compiled.complete = false;
-    const Used used = UsedNumbers(compiled.patterns);
-    project.codes.load(read("PtrnCode"), place("PtrnCode"), diagnostics);
-    project.resources.loadColors(read("PtrnColr"), used.colors);
-    project.resources.loadMarks(read("PtrnMark"), used.marks);
-    project.messages.load(read("MesgData.prf"));
-    project.limits.load(read("LimtData.prf"));
-    project.flags.load(read("PtrnFlag"));
-    if (const auto wiring = ReadBytes(folder / "Haisenhyo"))
-        project.wiring.load(*wiring, place("Haisenhyo"), diagnostics);
+    const UsedNumbers used = NumbersIn(compiled.patterns);
+    for (const auto& section : Sections())
+        if (const char* name = section->file())
+            section->load(project,
+                          {ReadBytes(folder / name), used, {(given / name).string(), 0}, diagnostics});
     for (const fs::path& file : FilesOf(folder / "Bitmap", ""))
         project.bitmaps[file.filename().string()] = ReadBytes(file).value_or("");
     LoadProfile(folder, compiled);

@@ -60,7 +60,7 @@ bool StaysInside(const fs::path& name)
 }
 
 // Removes what the build before has made and this one does not.
-int RemoveOld(const fs::path& folder, const std::string& before, const OutputFiles& files)
+int RemoveOld(const fs::path& folder, const std::string& before, const FileMap& files)
 {
     int removed = 0;
     std::istringstream names(before);
@@ -114,7 +114,7 @@ int Staging::moveIn()
     return static_cast<int>(names_.size());
 }
 
-OutputReport WriteOutput(const fs::path& folder, const OutputFiles& files, const OutputFiles& seeds,
+OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const FileMap& seeds,
                          const fs::path& profile, const std::string& profileBytes)
 {
     const SignalsLater uninterrupted;

@@ -1,16 +1,14 @@
 // Putting the files of a build in place, all or none.
 #pragma once
 
+#include "tools/ptn/common/Files.h"
+
 #include <filesystem>
-#include <map>
 #include <string>
 #include <vector>
 
 namespace ptn
 {
-
-/// Bytes by path, which is relative to the project directory.
-using OutputFiles = std::map<std::string, std::string>;
 
 /// New files, written into a hidden folder first and moved to their places when everything is complete. What
 /// is not moved is removed again, and so is the folder itself when it was made for them.
@@ -45,13 +43,13 @@ struct OutputReport {
 
 /// Brings a project directory and the profile up to date. Files of the build before that are not made any
 /// more are removed; everything else there stays.
+/// @param files  those that the build alone writes, relative to the project directory
 /// @param seeds  files that the program goes on writing: they are written when they are missing or when
 ///               they have changed since the build that wrote them last; what the program has made of them
 ///               stays otherwise
 /// A signal to end that arrives meanwhile has its effect afterwards.
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
-OutputReport WriteOutput(const std::filesystem::path& folder, const OutputFiles& files,
-                         const OutputFiles& seeds, const std::filesystem::path& profile,
-                         const std::string& profileBytes);
+OutputReport WriteOutput(const std::filesystem::path& folder, const FileMap& files, const FileMap& seeds,
+                         const std::filesystem::path& profile, const std::string& profileBytes);
 
 } // namespace ptn

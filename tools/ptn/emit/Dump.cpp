@@ -6,6 +6,7 @@
 #include "tools/ptn/compiled/Build.h"
 #include "tools/ptn/compiled/Compiled.h"
 #include "tools/ptn/emit/ScreenText.h"
+#include "tools/ptn/source/Sections.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -18,8 +19,6 @@ namespace fs = std::filesystem;
 namespace
 {
 
-const char* const tableName = "wires.csv";
-
 std::set<std::string> Names(const std::vector<Pattern>& patterns)
 {
     std::set<std::string> names;
@@ -29,13 +28,8 @@ std::set<std::string> Names(const std::vector<Pattern>& patterns)
 }
 
 // Files by path, relative to the folder of sources.
-OutputFiles SourceFiles(Compiled& compiled)
+FileMap SourceFiles(Compiled& compiled)
 {
-    OutputFiles files;
-    const auto add = [&](const char* name, const std::string& text) {
-        if (!text.empty())
-            files[name] = text;
-    };
     ProjectSource& project = compiled.project;
     std::string styles;
     const Defaults defaults = CommonStyles(compiled.patterns, project.resources, styles);
@@ -45,16 +39,12 @@ OutputFiles SourceFiles(Compiled& compiled)
         for (const Entry& section : Entries(*sections, "", ignored))
             project.styles.read(section.value, ignored);
     }
-    add("project.yaml", "program: " + YamlScalar(project.program) + "\n\n" + project.resources.fontsYaml() +
-                            "\n" + project.profile.yaml());
-    add("codes.yaml", project.codes.yaml());
-    add("colors.yaml", project.resources.colorsYaml());
-    add("marks.yaml", project.resources.marksYaml());
-    add("styles.yaml", styles);
-    add("tables.yaml", project.messages.yaml() + project.limits.yaml(project.messages) +
-                           project.flags.yaml(project.codes) + project.wiring.yaml(tableName));
-    if (project.wiring.given())
-        add(tableName, project.wiring.csv());
+    FileMap files;
+    for (const auto& section : Sections())
+        section->emit(project, files);
+    files["styles.yaml"] = styles;
+    for (auto file = files.begin(); file != files.end();)
+        file = file->second.empty() ? files.erase(file) : std::next(file);
     const std::set<std::string> names = Names(compiled.patterns);
     for (const Pattern& pattern : compiled.patterns)
         files["screens/" + EucToUtf8(pattern.name) + ".yaml"] = ScreenText(pattern, project, defaults, names);

@@ -4,6 +4,7 @@
 #include "base/EucText.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/source/Sections.h"
 
 #include <algorithm>
 #include <sstream>
@@ -16,13 +17,18 @@ namespace fs = std::filesystem;
 namespace
 {
 
-const std::vector<std::string> sectionNames = {"program", "codes",  "colors",  "fonts",    "marks",
-                                               "styles",  "groups", "profile", "messages", "limits",
-                                               "flags",   "wiring", "registry"};
+std::vector<std::string> SectionNames()
+{
+    std::vector<std::string> names;
+    for (const auto& section : Sections())
+        names.push_back(section->name());
+    return names;
+}
 
 // Every section of the project's files, wherever it stands.
-std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagnostics)
+std::map<std::string, Entry> ReadSections(const fs::path& folder, Diagnostics& diagnostics)
 {
+    const std::vector<std::string> sectionNames = SectionNames();
     std::map<std::string, Entry> sections;
     const std::vector<std::string> files = YamlFiles(folder);
     if (files.empty())
@@ -51,9 +57,9 @@ std::map<std::string, Entry> Sections(const fs::path& folder, Diagnostics& diagn
     return sections;
 }
 
-std::map<std::string, std::string> Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
+FileMap Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
 {
-    std::map<std::string, std::string> bitmaps;
+    FileMap bitmaps;
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(folder, missing)) {
         const std::string name = entry.path().filename().string();
@@ -119,31 +125,10 @@ std::vector<std::string> YamlFiles(const fs::path& folder)
 ProjectSource ReadProject(const fs::path& folder, Diagnostics& diagnostics)
 {
     ProjectSource project;
-    std::map<std::string, Entry> sections = Sections(folder, diagnostics);
-    const auto section = [&](const char* name) { return sections[name].value; };
-
-    if (sections.count("program")) {
-        const Entry& entry = sections["program"];
-        const auto name = Text(entry.value, "'program'", diagnostics);
-        if (name && ToEucFileName(*name, SIZE_PTRNNAME, "program", entry.place, diagnostics))
-            project.program = *name;
-    }
-    project.codes.read(section("codes"), diagnostics);
-    project.resources.readColors(section("colors"), diagnostics);
-    project.resources.readFonts(section("fonts"), diagnostics);
-    project.resources.readMarks(section("marks"), folder, diagnostics);
-    project.styles.read(section("styles"), diagnostics);
-    project.groups.read(section("groups"), diagnostics);
-    project.profile.read(section("profile"), diagnostics);
-    project.messages.read(section("messages"), project.codes, diagnostics);
-    project.limits.read(section("limits"), project.codes, project.messages, diagnostics);
-    project.flags.read(section("flags"), project.codes, diagnostics);
-    project.wiring.read(section("wiring"), folder, diagnostics);
-    if (sections.count("registry")) {
-        const Entry& entry = sections["registry"];
-        if (const auto path = Text(entry.value, "'registry'", diagnostics))
-            project.registry = QuotedTexts(folder / *path, entry.place, diagnostics);
-    }
+    const std::map<std::string, Entry> entries = ReadSections(folder, diagnostics);
+    for (const auto& section : Sections())
+        if (const auto entry = entries.find(section->name()); entry != entries.end())
+            section->read(project, {entry->second, folder, diagnostics});
     project.bitmaps = Bitmaps(folder / "bitmaps", diagnostics);
     return project;
 }

@@ -3,14 +3,15 @@
 
 #include "tools/ptn/model/CodeTable.h"
 #include "tools/ptn/model/Groups.h"
+#include "tools/ptn/model/OwnSection.h"
 #include "tools/ptn/model/Profile.h"
 #include "tools/ptn/model/Resources.h"
 #include "tools/ptn/model/Styles.h"
 #include "tools/ptn/model/Tables.h"
-#include "tools/ptn/model/Wiring.h"
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -28,9 +29,9 @@ struct ProjectSource {
     MessageTable messages;
     LimitTable limits;
     FlagTable flags;
-    Wiring wiring;
+    std::map<std::string, std::unique_ptr<OwnSection>> own; ///< of the application, by name of the section
     std::optional<std::set<std::string>> registry; ///< patterns that the program knows; none when not told
-    std::map<std::string, std::string> bitmaps;    ///< bytes by EUC-JP name
+    FileMap bitmaps;                               ///< by EUC-JP name
 };
 
 /// Reads the folder: its *.yaml files, whose sections may be spread over the files as one likes, and the

@@ -1,22 +1,23 @@
-#include "tools/ptn/model/Wiring.h"
-
+// The wiring table, "Haisenhyo", in the project's sources: a header and one line of a CSV file per wire.
 #include "app/WireTable.h"
 #include "tools/ptn/common/Bytes.h"
 #include "tools/ptn/common/Csv.h"
 #include "tools/ptn/common/EucName.h"
-#include "tools/ptn/common/Files.h"
+#include "tools/ptn/source/Sections.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <limits>
 
 namespace ptn
 {
 
 namespace
 {
+
+/// The CSV file of a dump.
+constexpr const char* tableName = "wires.csv";
 
 /// A text field of a record.
 struct TextField {
@@ -113,13 +114,28 @@ void SetColumn(HAISENDATA& wire, const std::string& name, const std::string& val
     }
 }
 
-} // namespace
+// The section "wiring": the header's texts "system", "delivery", "work", "board" and "comment", and "table",
+// a CSV file whose first line names the columns.
+class Wiring : public OwnSection
+{
+  public:
+    void read(const Source& section, const std::filesystem::path& folder, Diagnostics& diagnostics) override;
+    std::optional<std::string> bytes() const override { return bytes_; }
+    bool load(const std::string& bytes, const Place& place, Diagnostics& diagnostics) override;
+    void emit(FileMap& sources) const override;
+
+  private:
+    void readTable(const std::filesystem::path& file, const Place& place, Diagnostics& diagnostics);
+    std::string yaml() const;
+    std::string csv() const;
+
+    std::optional<std::string> bytes_;
+};
 
 void Wiring::read(const Source& section, const std::filesystem::path& folder, Diagnostics& diagnostics)
 {
     if (section.isEmpty())
         return;
-    given_ = true;
     HAISENHEDR header{};
     std::vector<std::string> names = {"table"};
     for (const TextField& field : headerFields)
@@ -140,12 +156,12 @@ void Wiring::read(const Source& section, const std::filesystem::path& folder, Di
                                                " Write system, delivery, work, board, comment and table.");
         }
     }
-    AppendRecord(bytes_, header);
+    AppendRecord(bytes_.emplace(), header);
     if (const auto name = Text(table.value, "'wiring': 'table'", diagnostics); name && !name->empty())
         readTable(folder / *name, table.place, diagnostics);
     const std::int32_t count =
-        static_cast<std::int32_t>((bytes_.size() - sizeof(HAISENHEDR)) / sizeof(HAISENDATA));
-    std::memcpy(bytes_.data() + offsetof(HAISENHEDR, datacount), &count, sizeof count);
+        static_cast<std::int32_t>((bytes_->size() - sizeof(HAISENHEDR)) / sizeof(HAISENDATA));
+    std::memcpy(bytes_->data() + offsetof(HAISENHEDR, datacount), &count, sizeof count);
 }
 
 void Wiring::readTable(const std::filesystem::path& file, const Place& place, Diagnostics& diagnostics)
@@ -184,7 +200,7 @@ void Wiring::readTable(const std::filesystem::path& file, const Place& place, Di
         HAISENDATA wire{};
         for (std::size_t i = 0; i < row.fields.size(); ++i)
             SetColumn(wire, columns[i], row.fields[i], line, diagnostics);
-        AppendRecord(bytes_, wire);
+        AppendRecord(*bytes_, wire);
     }
 }
 
@@ -203,21 +219,26 @@ bool Wiring::load(const std::string& bytes, const Place& place, Diagnostics& dia
                                  "undamaged copy.");
         return false;
     }
-    given_ = true;
     bytes_ = bytes;
     return true;
 }
 
-std::string Wiring::yaml(const std::string& table) const
+void Wiring::emit(FileMap& sources) const
 {
-    if (!given_)
-        return "";
+    if (!bytes_)
+        return;
+    sources["tables.yaml"] += yaml();
+    sources[tableName] = csv();
+}
+
+std::string Wiring::yaml() const
+{
     HAISENHEDR header;
-    std::memcpy(&header, bytes_.data(), sizeof header);
+    std::memcpy(&header, bytes_->data(), sizeof header);
     std::string text = "wiring:\n";
     for (const TextField& field : headerFields)
         text += std::string("  ") + field.name + ": " + YamlScalar(GetText(header, field)) + "\n";
-    return text + "  table: " + YamlScalar(table) + "\n";
+    return text + "  table: " + YamlScalar(tableName) + "\n";
 }
 
 std::string Wiring::csv() const
@@ -226,10 +247,10 @@ std::string Wiring::csv() const
     for (const std::string& name : ColumnNames())
         text += (text.empty() ? "" : ",") + name;
     text += "\n";
-    for (std::size_t at = sizeof(HAISENHEDR); at + sizeof(HAISENDATA) <= bytes_.size();
+    for (std::size_t at = sizeof(HAISENHEDR); at + sizeof(HAISENDATA) <= bytes_->size();
          at += sizeof(HAISENDATA)) {
         HAISENDATA wire;
-        std::memcpy(&wire, bytes_.data() + at, sizeof wire);
+        std::memcpy(&wire, bytes_->data() + at, sizeof wire);
         std::string line;
         for (const NumberField& field : numberFields)
             line += (line.empty() ? "" : ",") + std::to_string(wire.*field.member);
@@ -239,5 +260,9 @@ std::string Wiring::csv() const
     }
     return text;
 }
+
+const SectionRegistration<Wiring> registration("wiring", "Haisenhyo", ProjectFile::Seed);
+
+} // namespace
 
 } // namespace ptn
