@@ -3,6 +3,7 @@
 #include "tools/ptn/common/Bytes.h"
 #include "tools/ptn/common/Csv.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Sections.h"
 #include "tools/ptn/yaml/YamlText.h"
 
@@ -87,7 +88,7 @@ std::vector<std::string> ColumnNames()
 
 // One byte of each field is its terminator.
 template <typename Record>
-void SetText(Record& record, const TextField& field, const std::string& utf8, const std::string& what,
+void SetText(Record& record, const TextField& field, const std::string& utf8, const Subject& what,
              const Place& place, Diagnostics& diagnostics)
 {
     if (const auto text = ToEuc(utf8, field.size - 1, what, place, diagnostics))
@@ -103,7 +104,7 @@ template <typename Record> std::string GetText(const Record& record, const TextF
 void SetColumn(HAISENDATA& wire, const std::string& name, const std::string& value, const Place& place,
                Diagnostics& diagnostics)
 {
-    const std::string what = "column " + Quoted(name);
+    const Subject what = "column " + Quoted(name);
     if (const TextField* text = FindText(name)) {
         SetText(wire, *text, value, what, place, diagnostics);
     } else if (const NumberField* number = FindNumber(name); number && !value.empty()) {
@@ -145,7 +146,7 @@ void Wiring::read(const Source& section, const std::filesystem::path& folder, Di
         const auto field = std::find_if(std::begin(headerFields), std::end(headerFields),
                                         [&](const TextField& one) { return entry.name == one.name; });
         if (field != std::end(headerFields)) {
-            const std::string what = "'wiring': " + Quoted(entry.name);
+            const Subject what = "'wiring': " + Quoted(entry.name);
             if (const auto text = Text(entry.value, what, diagnostics))
                 SetText(header, *field, *text, what, entry.place, diagnostics);
         } else if (entry.name == "table") {

@@ -1,6 +1,7 @@
 // ptn: the authoring tool. Its messages are UTF-8; the texts of this program itself are plain ASCII.
 #include "tools/ptn/commands/Command.h"
 #include "tools/ptn/common/Diagnostics.h"
+#include "tools/ptn/common/Names.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>

@@ -13,12 +13,13 @@ namespace ptn
 
 namespace fs = std::filesystem;
 
-std::string ItemName(const PatternItem& item, std::size_t index)
+Subject ItemName(const PatternItem& item, std::size_t index)
 {
     const ItemClass* schema = FindItemClass(item.record.Type);
     const std::string type = schema ? schema->name : "item of type " + std::to_string(item.record.Type);
-    return (item.place.line ? "" : "item " + std::to_string(index + 1) + ", ") + type + " at " +
-           std::to_string(item.record.Parm[PARM_X1]) + "," + std::to_string(item.record.Parm[PARM_Y1]);
+    return Subject::oneOf((item.place.line ? "" : "item " + std::to_string(index + 1) + ", ") + type +
+                          " at " + std::to_string(item.record.Parm[PARM_X1]) + "," +
+                          std::to_string(item.record.Parm[PARM_Y1]));
 }
 
 int Check(const fs::path& folder, const std::string& registry, Diagnostics& diagnostics)

@@ -19,7 +19,7 @@ int Check(const std::filesystem::path& folder, const std::string& registry, Diag
 // --- the parts of it -------------------------------------------------------------------------------------
 
 /// How messages call an item: "button at 16,64", in compiled patterns with its number.
-std::string ItemName(const PatternItem& item, std::size_t index);
+Subject ItemName(const PatternItem& item, std::size_t index);
 
 /// Each item for itself: values, texts, cell, bitmap, font.
 void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics);

@@ -4,6 +4,7 @@
 #include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/model/ItemFacts.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace
 class Checker
 {
   public:
-    Checker(const Place& place, std::string label, const ProjectSource& project, Diagnostics& diagnostics)
+    Checker(const Place& place, Subject label, const ProjectSource& project, Diagnostics& diagnostics)
         : place_(place), label_(std::move(label)), project_(project), diagnostics_(diagnostics)
     {
     }
@@ -108,7 +109,7 @@ class Checker
     }
 
     Place place_;
-    std::string label_;
+    Subject label_;
     const ProjectSource& project_;
     Diagnostics& diagnostics_;
 };

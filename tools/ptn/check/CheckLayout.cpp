@@ -111,7 +111,7 @@ void Layout::checkChoices()
         const auto added = known.emplace(std::make_tuple(type->type, item.code, item.record.ID_No, value), i);
         if (!added.second)
             say(i, "has the value " + std::to_string(value) + ", as the " +
-                       ItemName(pattern_.items[added.first->second], added.first->second) +
+                       ItemName(pattern_.items[added.first->second], added.first->second).text() +
                        " has, so both are on together. Give it another 'value'.");
     }
 }
@@ -139,7 +139,7 @@ void Layout::checkHidden()
             if (i == j || !stays || !facts_[j]->isOpaque() || rank(j) < rank(i) ||
                 !Contains(rects_[j], rects_[i]))
                 continue;
-            say(i, "is hidden below the " + ItemName(above, j) +
+            say(i, "is hidden below the " + ItemName(above, j).text() +
                        ", which is drawn later. Move one of them, or draw it in the front pass.");
             break;
         }

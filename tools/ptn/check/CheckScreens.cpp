@@ -5,6 +5,7 @@
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
+#include "tools/ptn/common/Names.h"
 
 #include <map>
 #include <set>
@@ -35,7 +36,7 @@ class Screens
     {
         return !project_.registry || project_.registry->count(name) > 0;
     }
-    void checkBuiltin(const Place& place, const std::string& label, const char* name);
+    void checkBuiltin(const Place& place, const Subject& label, const char* name);
     void reach(const std::string& name);
 
     const std::vector<Pattern>& patterns_;
@@ -51,7 +52,7 @@ void Screens::checkProfile()
     for (const char* key : {"PTRNSTART", "PTRNSTOP"}) {
         Place place = whole_;
         const std::string name = project_.profile.value("PTRN", key, &place);
-        const std::string what = "profile key " + Quoted(key) + ": ";
+        const Subject what = "profile key " + Quoted(key) + ": ";
         if (name.empty())
             diagnostics_.error(place,
                                what + "no pattern is named, so the panel " +
@@ -66,7 +67,7 @@ void Screens::checkProfile()
     }
 }
 
-void Screens::checkBuiltin(const Place& place, const std::string& label, const char* name)
+void Screens::checkBuiltin(const Place& place, const Subject& label, const char* name)
 {
     if (!byName_.count(name))
         diagnostics_.error(place, label + ": opens the screen " + Quoted(EucToUtf8(name)) +
@@ -85,7 +86,7 @@ void Screens::checkActions()
         for (std::size_t i = 0; i < pattern.items.size(); ++i) {
             const PatternItem& item = pattern.items[i];
             const ActionSchema* action = FindAction(item.record.ID_Type);
-            const std::string label = ItemName(item, i);
+            const Subject label = ItemName(item, i);
             if (item.record.ID_Type == ACTION_VERSION)
                 checkBuiltin(item.place, label, tessary::VERSION_PATTERN);
             if (item.record.ID_Type == ACTION_MAINTENANCE)

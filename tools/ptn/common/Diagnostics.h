@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ptn
@@ -17,15 +18,52 @@ struct Place {
     int line = 0; ///< from 1
 };
 
+/// What a message is about, or the whole message that begins with it. One of several alike is named, but is
+/// not what tells two messages apart: a wrong line of a group is an item of every use of it, and yet one
+/// mistake.
+class Subject
+{
+  public:
+    Subject(std::string text = "") : text_(std::move(text)) {}
+    Subject(const char* text) : text_(text) {}
+
+    /// One of several alike, such as "item 3".
+    static Subject oneOf(const std::string& which);
+
+    Subject& operator+=(const std::string& more);
+    friend Subject operator+(Subject subject, const std::string& more) { return subject += more; }
+
+    const std::string& text() const { return text_; }
+    /// The text without the one of several alike.
+    std::string kind() const { return text_.substr(which_); }
+
+  private:
+    std::string text_;
+    std::size_t which_ = 0; ///< bytes at the beginning that name the one
+};
+
+enum class Severity {
+    Error,   ///< stops the build
+    Warning, ///< does not
+    Finding, ///< an error of sources that are not those of this run
+};
+
+/// One message.
+struct Diagnostic {
+    Place place;
+    Severity severity;
+    Subject message;
+};
+
 class Diagnostics
 {
   public:
     /// Adds an error. The same text at the same place is kept once, of whichever item it is.
     /// @param what  UTF-8: what is wrong, and what to do about it
-    void error(const Place& place, const std::string& what) { add(place, what, "", errors_); }
+    void error(const Place& place, const Subject& what) { add({place, Severity::Error, what}); }
 
     /// Adds a remark that does not stop the build.
-    void warning(const Place& place, const std::string& what) { add(place, what, "warning: ", warnings_); }
+    void warning(const Place& place, const Subject& what) { add({place, Severity::Warning, what}); }
 
     /// Adds what another run has found, as remarks that do not stop anything.
     void add(const Diagnostics& others);
@@ -33,25 +71,18 @@ class Diagnostics
     /// Whether there was an error.
     bool failed() const { return errors_ > 0; }
     int errors() const { return errors_; }
-    int warnings() const { return warnings_; }
+    /// What there is beside errors.
+    int warnings() const { return static_cast<int>(found_.size()) - errors_; }
 
     /// Writes "file:line: text" for each, in the order in which they were found.
     void print(std::ostream& out) const;
 
   private:
-    void add(const Place& place, const std::string& what, const char* kind, int& count);
+    void add(const Diagnostic& one);
 
-    std::vector<std::string> lines_;
-    std::set<std::string> known_;
+    std::vector<Diagnostic> found_;
+    std::set<std::tuple<std::string, int, Severity, std::string>> known_;
     int errors_ = 0;
-    int warnings_ = 0;
 };
-
-/// " Did you mean 'x'?" with the candidate that is closest to `name` or the only one that it is short for, or
-/// nothing when there is none.
-std::string Suggestion(const std::string& name, const std::vector<std::string>& candidates);
-
-/// A name in quotes, as messages show it.
-std::string Quoted(const std::string& name);
 
 } // namespace ptn

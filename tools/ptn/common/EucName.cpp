@@ -1,6 +1,7 @@
 #include "tools/ptn/common/EucName.h"
 
 #include "base/EucText.h"
+#include "tools/ptn/common/Names.h"
 
 #include <cstdio>
 #include <vector>
@@ -79,7 +80,7 @@ std::vector<std::string> Refused(const std::string& utf8)
 
 } // namespace
 
-std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, const std::string& what,
+std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, const Subject& what,
                                  const Place& place, Diagnostics& diagnostics)
 {
     const std::string euc = Utf8ToEuc(utf8);
@@ -99,7 +100,7 @@ std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, con
     return euc;
 }
 
-std::optional<std::string> ToEucFileName(const std::string& utf8, std::size_t limit, const std::string& what,
+std::optional<std::string> ToEucFileName(const std::string& utf8, std::size_t limit, const Subject& what,
                                          const Place& place, Diagnostics& diagnostics)
 {
     if (utf8.empty() || utf8[0] == '.' || utf8.find('/') != std::string::npos) {

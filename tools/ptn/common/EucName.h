@@ -13,11 +13,11 @@ namespace ptn
 /// Refused, with an error that names the characters or the length: a character that EUC-JP lacks, a
 /// control character, more than `limit` bytes.
 /// @param what  how messages call the text
-std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, const std::string& what,
+std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, const Subject& what,
                                  const Place& place, Diagnostics& diagnostics);
 
 /// A pattern's or a bitmap's name, which is also a file name: not empty, no '/', no leading '.'.
-std::optional<std::string> ToEucFileName(const std::string& utf8, std::size_t limit, const std::string& what,
+std::optional<std::string> ToEucFileName(const std::string& utf8, std::size_t limit, const Subject& what,
                                          const Place& place, Diagnostics& diagnostics);
 
 } // namespace ptn

@@ -1,5 +1,7 @@
 #include "tools/ptn/model/Attributes.h"
 
+#include "tools/ptn/common/Names.h"
+
 namespace ptn
 {
 
@@ -38,9 +40,9 @@ void Attributes::apply(const Layer& layer)
                 set(*parm, entry, layer.label);
 }
 
-void Attributes::set(const ParmSchema& parm, const Entry& entry, const std::string& label)
+void Attributes::set(const ParmSchema& parm, const Entry& entry, const Subject& label)
 {
-    const std::string what = label + ": " + Quoted(parm.name);
+    const Subject what = label + ": " + Quoted(parm.name);
     if (parm.enable >= 0 && entry.value.text() == "none") {
         values_[parm.enable] = 0;
         return;
@@ -65,7 +67,7 @@ void Attributes::set(const ParmSchema& parm, const Entry& entry, const std::stri
         values_[parm.enable] = 1;
 }
 
-std::optional<int> Attributes::value(const ParmSchema& parm, const Source& source, const std::string& what)
+std::optional<int> Attributes::value(const ParmSchema& parm, const Source& source, const Subject& what)
 {
     switch (parm.kind) {
     case ParmKind::OptionalColor:
@@ -92,7 +94,7 @@ std::optional<int> Attributes::value(const ParmSchema& parm, const Source& sourc
     return Integer(source, parm.minimum, parm.maximum, what, diagnostics_);
 }
 
-std::optional<int> Attributes::choice(const ParmSchema& parm, const Source& source, const std::string& what)
+std::optional<int> Attributes::choice(const ParmSchema& parm, const Source& source, const Subject& what)
 {
     const std::optional<int> number = ParseInteger(source.text());
     std::vector<std::string> names;
@@ -108,7 +110,7 @@ std::optional<int> Attributes::choice(const ParmSchema& parm, const Source& sour
     return std::nullopt;
 }
 
-std::optional<int> Attributes::bits(const ParmSchema& parm, const Source& source, const std::string& what)
+std::optional<int> Attributes::bits(const ParmSchema& parm, const Source& source, const Subject& what)
 {
     if (const std::optional<int> number = ParseInteger(source.text());
         number && (*number & ~parm.maximum) == 0)

@@ -14,7 +14,7 @@ namespace ptn
 
 /// Some attributes that are set together: a style, or an item's own. Later layers override earlier ones.
 struct Layer {
-    std::string label; ///< how messages call it
+    Subject label; ///< how messages call it
     std::vector<Entry> entries;
 };
 
@@ -37,10 +37,10 @@ class Attributes
     void apply(const Layer& layer);
 
   private:
-    void set(const ParmSchema& parm, const Entry& entry, const std::string& label);
-    std::optional<int> value(const ParmSchema& parm, const Source& source, const std::string& what);
-    std::optional<int> choice(const ParmSchema& parm, const Source& source, const std::string& what);
-    std::optional<int> bits(const ParmSchema& parm, const Source& source, const std::string& what);
+    void set(const ParmSchema& parm, const Entry& entry, const Subject& label);
+    std::optional<int> value(const ParmSchema& parm, const Source& source, const Subject& what);
+    std::optional<int> choice(const ParmSchema& parm, const Source& source, const Subject& what);
+    std::optional<int> bits(const ParmSchema& parm, const Source& source, const Subject& what);
 
     std::vector<SchemaTable<ParmSchema>> parms_;
     std::int32_t* values_;

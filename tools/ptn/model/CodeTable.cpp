@@ -6,6 +6,7 @@
 #include "comndata/PtrnCode.h"
 #include "tools/ptn/common/Bytes.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -39,7 +40,7 @@ std::optional<int> Offset(const std::string& text)
 
 std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, Diagnostics& diagnostics) const
 {
-    const std::string what = "code " + Quoted(entry.name);
+    const Subject what = "code " + Quoted(entry.name);
     Row row{entry.name, "", next, 0, entry.place, 0};
     if (entry.name.empty() || ParseInteger(entry.name) || entry.name.find('+') != std::string::npos) {
         diagnostics.error(entry.place,
@@ -117,8 +118,7 @@ void CodeTable::checkCover(const Place& section, Diagnostics& diagnostics) const
     const Row* before = nullptr;
     int next = 1;
     for (const Row* row : order) {
-        const std::string what =
-            "code " + Quoted(row->name) + " begins with cell " + std::to_string(row->first);
+        const Subject what = "code " + Quoted(row->name) + " begins with cell " + std::to_string(row->first);
         if (row->first < next)
             diagnostics.error(row->place, what + ", which belongs to " + Quoted(before->name) +
                                               ". Give it another 'first'.");
@@ -133,13 +133,13 @@ void CodeTable::checkCover(const Place& section, Diagnostics& diagnostics) const
         diagnostics.error(section, "'codes' is empty. Write one 'name: count' per line, or leave it out.");
 }
 
-std::optional<CodeTable::Cell> CodeTable::find(const Source& source, const std::string& attribute,
+std::optional<CodeTable::Cell> CodeTable::find(const Source& source, const Subject& attribute,
                                                Diagnostics& diagnostics) const
 {
     return find(source.text(), attribute, source.place(), diagnostics);
 }
 
-std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const std::string& attribute,
+std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const Subject& attribute,
                                                const Place& place, Diagnostics& diagnostics) const
 {
     const auto complain = [&](const std::string& what) {

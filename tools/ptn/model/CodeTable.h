@@ -26,11 +26,10 @@ class CodeTable
     void read(const Source& section, Diagnostics& diagnostics);
 
     /// The cell that a source names: "CODE", "CODE+offset" (several offsets add up), or a plain cell number.
-    std::optional<Cell> find(const Source& source, const std::string& attribute,
-                             Diagnostics& diagnostics) const;
+    std::optional<Cell> find(const Source& source, const Subject& attribute, Diagnostics& diagnostics) const;
 
     /// The same for a name that is the key of a mapping.
-    std::optional<Cell> find(const std::string& text, const std::string& attribute, const Place& place,
+    std::optional<Cell> find(const std::string& text, const Subject& attribute, const Place& place,
                              Diagnostics& diagnostics) const;
 
     struct Row {

@@ -1,13 +1,14 @@
 #include "tools/ptn/model/Groups.h"
 
+#include "tools/ptn/common/Names.h"
+
 namespace ptn
 {
 
 namespace
 {
 
-std::map<std::string, Source> Parameters(const Source& source, const std::string& what,
-                                         Diagnostics& diagnostics)
+std::map<std::string, Source> Parameters(const Source& source, const Subject& what, Diagnostics& diagnostics)
 {
     std::map<std::string, Source> parameters;
     const auto add = [&](const std::string& name, const Place& place, const Source& value) {
@@ -28,8 +29,8 @@ std::map<std::string, Source> Parameters(const Source& source, const std::string
 }
 
 // Reports every "$name" that no parameter stands for.
-void CheckNames(const Source& source, const std::string& what,
-                const std::map<std::string, Source>& parameters, Diagnostics& diagnostics)
+void CheckNames(const Source& source, const Subject& what, const std::map<std::string, Source>& parameters,
+                Diagnostics& diagnostics)
 {
     std::vector<std::string> known;
     for (const auto& parameter : parameters)
@@ -51,7 +52,7 @@ void CheckNames(const Source& source, const std::string& what,
 void Groups::read(const Source& section, Diagnostics& diagnostics)
 {
     for (const Entry& entry : Entries(section, "'groups'", diagnostics)) {
-        const std::string what = "group " + Quoted(entry.name);
+        const Subject what = "group " + Quoted(entry.name);
         Group group;
         for (const Entry& part : Entries(entry.value, what, diagnostics)) {
             if (part.name == "parameters")

@@ -15,13 +15,13 @@ std::string SizeText(SIZE size)
 
 } // namespace
 
-void ReadMarkArt(const std::string& art, SIZE size, const std::string& what, const Place& place,
-                 MARKDATA& mark, Diagnostics& diagnostics)
+void ReadMarkArt(const std::string& art, SIZE size, const Subject& what, const Place& place, MARKDATA& mark,
+                 Diagnostics& diagnostics)
 {
     std::istringstream lines(art);
     int row = 0;
     for (std::string line; std::getline(lines, line); ++row) {
-        const std::string where = what + ", row " + std::to_string(row + 1);
+        const Subject where = what + ", row " + std::to_string(row + 1);
         line.erase(line.find_last_not_of(" \r") + 1);
         const std::size_t wrong = line.find_first_not_of(".X# ");
         if (wrong != std::string::npos) {

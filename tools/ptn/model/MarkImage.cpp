@@ -23,7 +23,7 @@ bool IsDark(const guchar* pixel, bool alpha)
 
 } // namespace
 
-void ReadMarkImage(const std::filesystem::path& file, SIZE size, const std::string& what, const Place& place,
+void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what, const Place& place,
                    MARKDATA& mark, Diagnostics& diagnostics)
 {
     GError* problem = nullptr;

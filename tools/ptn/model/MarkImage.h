@@ -13,7 +13,7 @@ namespace ptn
 
 /// Reads a PNG, XBM or other picture file of exactly `size` pixels: dark pixels become foreground, light and
 /// transparent ones background.
-void ReadMarkImage(const std::filesystem::path& file, SIZE size, const std::string& what, const Place& place,
+void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what, const Place& place,
                    MARKDATA& mark, Diagnostics& diagnostics);
 
 } // namespace ptn

@@ -1,5 +1,7 @@
 #include "tools/ptn/model/NameTable.h"
 
+#include "tools/ptn/common/Names.h"
+
 #include <algorithm>
 
 namespace ptn
@@ -17,7 +19,7 @@ std::string NameTable::nameOf(int number) const
     return place == names_.end() ? std::string() : place->second;
 }
 
-std::optional<int> NameTable::find(const Source& source, const std::string& attribute,
+std::optional<int> NameTable::find(const Source& source, const Subject& attribute,
                                    Diagnostics& diagnostics) const
 {
     const std::string text = source.text();
@@ -56,7 +58,7 @@ std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std
                                        const std::vector<std::string>& extras)
 {
     const std::string& key = keys.front();
-    const std::string what = std::string(table.what()) + " " + Quoted(entry.name);
+    const Subject what = std::string(table.what()) + " " + Quoted(entry.name);
     NumberedEntry read{entry.name, next, entry.place, key, entry.value, {}};
     std::vector<std::string> known = {"no"};
     known.insert(known.end(), keys.begin(), keys.end());
@@ -106,7 +108,7 @@ std::vector<NumberedEntry> NumberedEntries(const Source& section, const std::vec
     std::vector<NumberedEntry> read;
     int next = table.first();
     for (const Entry& entry : Entries(section, Quoted(std::string(table.what()) + "s"), diagnostics)) {
-        const std::string what = std::string(table.what()) + " " + Quoted(entry.name);
+        const Subject what = std::string(table.what()) + " " + Quoted(entry.name);
         if (ParseInteger(entry.name) || entry.name == "none") {
             diagnostics.error(entry.place, what + " could be taken for a number. Choose another name.");
             continue;

@@ -22,8 +22,7 @@ class NameTable
     void add(const std::string& name, int number);
 
     /// The number that a source names, by name or by number; anything that is not defined is reported.
-    std::optional<int> find(const Source& source, const std::string& attribute,
-                            Diagnostics& diagnostics) const;
+    std::optional<int> find(const Source& source, const Subject& attribute, Diagnostics& diagnostics) const;
 
     const char* what() const { return what_; }
     int limit() const { return limit_; }

@@ -1,6 +1,5 @@
 #include "tools/ptn/model/Pattern.h"
 
-#include "pattern/ItemTable.h"
 #include "tools/ptn/common/Bytes.h"
 
 #include <cstring>
@@ -65,13 +64,6 @@ std::optional<Pattern> ParsePattern(const std::string& name, const std::string& 
     if (at != bytes.size())
         return damaged("something follows its texts");
     return pattern;
-}
-
-std::string ItemLabel(const PatternItem& item, std::size_t index)
-{
-    const ItemClass* schema = FindItemClass(item.record.Type);
-    return "item " + std::to_string(index + 1) + " (" +
-           (schema ? schema->name : "type " + std::to_string(item.record.Type)) + ")";
 }
 
 } // namespace ptn

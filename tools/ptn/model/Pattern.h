@@ -36,7 +36,4 @@ std::string PatternBytes(const Pattern& pattern);
 std::optional<Pattern> ParsePattern(const std::string& name, const std::string& bytes, const Place& place,
                                     Diagnostics& diagnostics);
 
-/// How messages call an item of a pattern: "item 3 (button)".
-std::string ItemLabel(const PatternItem& item, std::size_t index);
-
 } // namespace ptn

@@ -2,6 +2,7 @@
 
 #include "base/EucText.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/model/IniText.h"
 #include "tools/ptn/yaml/YamlText.h"
 
@@ -77,7 +78,7 @@ void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
 
 void ProfileSource::readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics)
 {
-    const std::string what = "profile key " + Quoted(entry.name);
+    const Subject what = "profile key " + Quoted(entry.name);
     if (!IsName(entry.name)) {
         diagnostics.error(entry.place, what + " is no key. Use letters, digits and '_' only.");
         return;

@@ -2,6 +2,7 @@
 
 #include "tools/ptn/common/Bytes.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/model/MarkArt.h"
 #include "tools/ptn/model/MarkImage.h"
 #include "tools/ptn/yaml/YamlText.h"
@@ -67,7 +68,7 @@ void Resources::readColors(const Source& section, Diagnostics& diagnostics)
 void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
 {
     for (const NumberedEntry& entry : NumberedEntries(section, {"x11"}, fonts_, diagnostics)) {
-        const std::string what = "font " + Quoted(entry.name);
+        const Subject what = "font " + Quoted(entry.name);
         const auto names = Texts(entry.value, what, diagnostics);
         for (std::size_t language = 0; names && language < names->size(); ++language) {
             const auto name = ToEuc((*names)[language], MAX_PROFILE_FIELD, what, entry.place, diagnostics);
@@ -97,7 +98,7 @@ void Resources::readMarks(const Source& section, const std::filesystem::path& fo
 {
     for (const NumberedEntry& entry :
          NumberedEntries(section, {"art", "image", "bytes"}, marks_, diagnostics)) {
-        const std::string what = "mark " + Quoted(entry.name) + " (" + std::to_string(entry.number) + ")";
+        const Subject what = "mark " + Quoted(entry.name) + " (" + std::to_string(entry.number) + ")";
         const auto text = Text(entry.value, what, diagnostics);
         if (!text)
             continue;

@@ -1,5 +1,7 @@
 #include "tools/ptn/model/Styles.h"
 
+#include "tools/ptn/common/Names.h"
+
 #include <set>
 
 namespace ptn

@@ -2,6 +2,7 @@
 
 #include "base/EucText.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/model/IniText.h"
 #include "tools/ptn/yaml/YamlText.h"
 
@@ -62,7 +63,7 @@ std::optional<int> KeyNumber(const std::string& key, const std::string& name)
 void MessageTable::read(const Source& section, const CodeTable& codes, Diagnostics& diagnostics)
 {
     for (const NumberedEntry& entry : NumberedEntries(section, {"text"}, names_, diagnostics, {"data"})) {
-        const std::string what = "message " + Quoted(entry.name);
+        const Subject what = "message " + Quoted(entry.name);
         const auto texts = Texts(entry.value, what, diagnostics);
         if (!texts)
             continue;
@@ -141,7 +142,7 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
     for (const Entry& entry : entries)
         if (entry.name == "no")
             number = Integer(entry.value, 1, CONT_LIMTDATA, "a limit: 'no'", diagnostics).value_or(number);
-    const std::string what = "limit " + std::to_string(number);
+    const Subject what = "limit " + std::to_string(number);
     Row row;
     int count = 1;
     std::optional<CodeTable::Cell> cell;
@@ -252,7 +253,7 @@ void FlagTable::read(const Source& section, const CodeTable& codes, Diagnostics&
 {
     given_ = section.isMap();
     for (const Entry& entry : Entries(section, "'flags'", diagnostics)) {
-        const std::string what = "flag " + Quoted(entry.name);
+        const Subject what = "flag " + Quoted(entry.name);
         const std::optional<int> byte = ParseInteger(entry.value.text());
         const auto flag = byte && *byte >= 0 && *byte <= 0xFF
                               ? std::optional<int>(*byte)

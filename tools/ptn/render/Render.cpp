@@ -11,6 +11,7 @@
 #include "shell/Locale.h"
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/common/TemporaryFolder.h"
 #include "tools/ptn/compiled/Build.h"
 #include "tools/ptn/render/Picture.h"

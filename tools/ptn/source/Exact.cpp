@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ constexpr int HIGHEST = std::numeric_limits<int>::max();
 constexpr std::size_t LONGEST = 65536;
 
 // A text, or "{bytes: hex}" for one that is no EUC-JP. No terminator may stand in it.
-std::optional<std::string> ExactText(const Source& source, const std::string& what, const Place& place,
+std::optional<std::string> ExactText(const Source& source, const Subject& what, const Place& place,
                                      Diagnostics& diagnostics)
 {
     if (!source.isMap()) {
@@ -41,7 +42,7 @@ std::optional<std::string> ExactText(const Source& source, const std::string& wh
     return bytes;
 }
 
-void ReadExactTexts(const Source& source, const std::string& what, const Place& place, PatternItem& item,
+void ReadExactTexts(const Source& source, const Subject& what, const Place& place, PatternItem& item,
                     Diagnostics& diagnostics)
 {
     std::vector<Source> members = source.members();
@@ -60,9 +61,9 @@ void ReadExactTexts(const Source& source, const std::string& what, const Place& 
 
 } // namespace
 
-void ReadParm(const Source& source, const std::string& label, std::int32_t* values, Diagnostics& diagnostics)
+void ReadParm(const Source& source, const Subject& label, std::int32_t* values, Diagnostics& diagnostics)
 {
-    const std::string what = label + ": 'parm'";
+    const Subject what = label + ": 'parm'";
     for (const Entry& entry : Entries(source, what, diagnostics)) {
         const std::optional<int> index = ParseInteger(entry.name);
         if (!index || *index < 0 || *index >= CONT_PARM) {
@@ -80,10 +81,9 @@ bool HasExactRect(const Source& source)
     return source.isMap() && source.node()["rect"].IsDefined();
 }
 
-void ReadExactItem(const Source& source, const std::string& label, PatternItem& item,
-                   Diagnostics& diagnostics)
+void ReadExactItem(const Source& source, const Subject& label, PatternItem& item, Diagnostics& diagnostics)
 {
-    const std::string what = label + ": 'exact'";
+    const Subject what = label + ": 'exact'";
     const auto number = [&](const Entry& entry, std::int32_t& target) {
         target = Integer(entry.value, LOWEST, HIGHEST, what + " " + Quoted(entry.name), diagnostics)
                      .value_or(target);
@@ -120,7 +120,7 @@ void ReadExactItem(const Source& source, const std::string& label, PatternItem& 
 
 void ReadExactHeader(const Source& source, HEDRFILE& header, Diagnostics& diagnostics)
 {
-    const std::string what = "'exact'";
+    const Subject what = "'exact'";
     for (const Entry& entry : Entries(source, what, diagnostics)) {
         if (entry.name == "version" || entry.name == "reserved") {
             std::int32_t& target = entry.name == "version" ? header.Version : header.UndfFlag;

@@ -11,8 +11,7 @@ namespace ptn
 
 /// Reads "exact" of an item: "rect", "parm: {index: value}", "text", "pattern", "code", "offset", "action"
 /// and "reserved". Nothing is compared with the project or the screen; a text may be "bytes: <hex>".
-void ReadExactItem(const Source& source, const std::string& label, PatternItem& item,
-                   Diagnostics& diagnostics);
+void ReadExactItem(const Source& source, const Subject& label, PatternItem& item, Diagnostics& diagnostics);
 
 /// Whether "exact" gives the corners.
 bool HasExactRect(const Source& source);
@@ -21,6 +20,6 @@ bool HasExactRect(const Source& source);
 void ReadExactHeader(const Source& source, HEDRFILE& header, Diagnostics& diagnostics);
 
 /// "{index: value}" into Parm.
-void ReadParm(const Source& source, const std::string& label, std::int32_t* values, Diagnostics& diagnostics);
+void ReadParm(const Source& source, const Subject& label, std::int32_t* values, Diagnostics& diagnostics);
 
 } // namespace ptn

@@ -1,6 +1,7 @@
 #include "tools/ptn/source/ItemList.h"
 
 #include "pattern/ItemParm.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Placement.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ struct Repeat {
     long long y(int copy) const { return 1LL * dy * (rows ? copy / columns : copy); }
 };
 
-Repeat ReadRepeat(const Source& source, const std::string& label, Diagnostics& diagnostics)
+Repeat ReadRepeat(const Source& source, const Subject& label, Diagnostics& diagnostics)
 {
     Repeat repeat;
     for (const Entry& entry : Entries(source, label, diagnostics)) {
@@ -65,12 +66,12 @@ class ListReader
 
   private:
     Items readEntry(const Source& source, const std::string& number, int depth);
-    Items readPart(const std::vector<Entry>& entries, const Source& source, std::string& label,
+    Items readPart(const std::vector<Entry>& entries, const Source& source, Subject& label,
                    const std::string& number, int depth);
-    Source groupItems(const Entry& use, const std::vector<Entry>& entries, const std::string& label);
-    Items arrange(std::vector<Items> parts, const Source& grid, const std::string& label);
-    Items repeated(const Items& items, const Entry& repeat, const std::string& label, const Place& place);
-    bool move(Items& items, long long dx, long long dy, const std::string& label, const Place& place);
+    Source groupItems(const Entry& use, const std::vector<Entry>& entries, const Subject& label);
+    Items arrange(std::vector<Items> parts, const Source& grid, const Subject& label);
+    Items repeated(const Items& items, const Entry& repeat, const Subject& label, const Place& place);
+    bool move(Items& items, long long dx, long long dy, const Subject& label, const Place& place);
 
     const ItemContext& context_;
     Diagnostics& diagnostics_;
@@ -84,7 +85,7 @@ const Entry* Find(const std::vector<Entry>& entries, const char* name)
     return found == entries.end() ? nullptr : &*found;
 }
 
-bool ListReader::move(Items& items, long long dx, long long dy, const std::string& label, const Place& place)
+bool ListReader::move(Items& items, long long dx, long long dy, const Subject& label, const Place& place)
 {
     for (PatternItem& item : items) {
         std::int32_t* parm = item.record.Parm;
@@ -101,8 +102,7 @@ bool ListReader::move(Items& items, long long dx, long long dy, const std::strin
     return true;
 }
 
-Items ListReader::repeated(const Items& items, const Entry& entry, const std::string& label,
-                           const Place& place)
+Items ListReader::repeated(const Items& items, const Entry& entry, const Subject& label, const Place& place)
 {
     const Repeat repeat = ReadRepeat(entry.value, label + ": 'repeat'", diagnostics_);
     Items all;
@@ -136,7 +136,7 @@ Items ListReader::repeated(const Items& items, const Entry& entry, const std::st
 }
 
 // The items of a group, with the arguments of this use in them.
-Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entries, const std::string& label)
+Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entries, const Subject& label)
 {
     const Groups::Group* group = context_.groups.find(use.value.text());
     if (!group)
@@ -176,7 +176,7 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
 }
 
 // Puts the entries of a part side by side, and below each other.
-Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const std::string& label)
+Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const Subject& label)
 {
     int columns = 0;
     std::vector<int> step;
@@ -206,7 +206,7 @@ Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const st
     return all;
 }
 
-Items ListReader::readPart(const std::vector<Entry>& entries, const Source& source, std::string& label,
+Items ListReader::readPart(const std::vector<Entry>& entries, const Source& source, Subject& label,
                            const std::string& number, int depth)
 {
     const Entry* use = Find(entries, "use");
@@ -245,7 +245,7 @@ Items ListReader::readPart(const std::vector<Entry>& entries, const Source& sour
 
 Items ListReader::readEntry(const Source& source, const std::string& number, int depth)
 {
-    std::string label = "item " + number;
+    Subject label = Subject::oneOf("item " + number);
     const std::vector<Entry> entries = SpelledOut(Entries(source, label, diagnostics_), label, diagnostics_);
     if (source.isEmpty()) {
         diagnostics_.error(source.place(), label + " is empty. Write its type and attributes, or remove it.");
@@ -274,7 +274,7 @@ Items ListReader::readList(const Source& list, const std::string& number, int de
 
 } // namespace
 
-std::vector<PatternItem> ReadItems(const Source& list, const std::string& what, const ItemContext& context)
+std::vector<PatternItem> ReadItems(const Source& list, const Subject& what, const ItemContext& context)
 {
     if (!list.isEmpty() && !list.isList()) {
         context.diagnostics.error(list.place(), what + " must be a list. Begin each item with '-'.");

@@ -11,6 +11,6 @@ namespace ptn
 
 /// Reads a list of entries. Each is an item, "items: [...]" with entries of its own, or "use: group".
 /// @param what  how messages call the list
-std::vector<PatternItem> ReadItems(const Source& list, const std::string& what, const ItemContext& context);
+std::vector<PatternItem> ReadItems(const Source& list, const Subject& what, const ItemContext& context);
 
 } // namespace ptn

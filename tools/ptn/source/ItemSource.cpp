@@ -3,6 +3,7 @@
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Exact.h"
 #include "tools/ptn/source/Placement.h"
 
@@ -31,7 +32,7 @@ const ItemClass unknownType = [] {
 class ItemReader
 {
   public:
-    ItemReader(const ItemContext& context, int type, const ItemClass& schema, std::string label,
+    ItemReader(const ItemContext& context, int type, const ItemClass& schema, Subject label,
                const Source& source)
         : project_(context.project), styles_(context.styles), diagnostics_(context.diagnostics),
           schema_(schema), label_(std::move(label)),
@@ -44,7 +45,7 @@ class ItemReader
     std::optional<PatternItem> read(const std::vector<Entry>& entries);
 
   private:
-    std::string what(const char* key) const { return label_ + ": " + Quoted(key); }
+    Subject what(const char* key) const { return label_ + ": " + Quoted(key); }
     void applyStyle(const std::string& name, bool named, const Place& place);
     void applyStyles(const std::vector<Entry>& entries);
     void applyOwn(const std::vector<Entry>& entries);
@@ -57,7 +58,7 @@ class ItemReader
     const Styles& styles_;
     Diagnostics& diagnostics_;
     const ItemClass& schema_;
-    std::string label_;
+    Subject label_;
     PatternItem item_;
     Attributes attributes_;
     Placement placement_;
@@ -75,8 +76,8 @@ void ItemReader::applyStyle(const std::string& name, bool named, const Place& pl
             else if (entry.name == "action")
                 readAction(entry.value);
             else if (named && !attributes_.find(entry.name))
-                diagnostics_.error(place, label_ + ": " + style->label + " sets " + Quoted(entry.name) +
-                                              ", which a " + schema_.name +
+                diagnostics_.error(place, label_ + ": " + style->label.text() + " sets " +
+                                              Quoted(entry.name) + ", which a " + schema_.name +
                                               " does not have. Use another style.");
         }
         attributes_.apply(*style);
@@ -222,7 +223,7 @@ std::optional<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
 
 } // namespace
 
-std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::string& label,
+std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const Subject& label,
                               Diagnostics& diagnostics)
 {
     if (entries.size() != 1 || !entries[0].value.isMap() || !FindItemClass(entries[0].name.c_str()))
@@ -232,8 +233,8 @@ std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::stri
     return own;
 }
 
-std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries,
-                                    std::string& label, const ItemContext& context)
+std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries, Subject& label,
+                                    const ItemContext& context)
 {
     const auto type =
         std::find_if(entries.begin(), entries.end(), [](const Entry& entry) { return entry.name == "type"; });

@@ -19,13 +19,13 @@ struct ItemContext {
 };
 
 /// The entries of an item; those of "text: { ... }" as of "{ type: text, ... }", any others as they are.
-std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const std::string& label,
+std::vector<Entry> SpelledOut(const std::vector<Entry>& entries, const Subject& label,
                               Diagnostics& diagnostics);
 
 /// Reads an item that has a type. "repeat" is left to the caller.
 /// @param label  how messages call it, such as "item 3"; the type is added to it
 /// @return none, with errors reported, when the item can not be made
-std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries,
-                                    std::string& label, const ItemContext& context);
+std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entry>& entries, Subject& label,
+                                    const ItemContext& context);
 
 } // namespace ptn

@@ -1,13 +1,14 @@
 #include "tools/ptn/source/Placement.h"
 
 #include "pattern/ItemParm.h"
+#include "tools/ptn/common/Names.h"
 
 #include <algorithm>
 
 namespace ptn
 {
 
-void Placement::read(const Entry& entry, const std::string& label, Diagnostics& diagnostics)
+void Placement::read(const Entry& entry, const Subject& label, Diagnostics& diagnostics)
 {
     const bool rect = entry.name == "rect";
     const auto numbers = Integers(entry.value, rect ? 4 : 2, label + ": " + Quoted(entry.name), diagnostics);
@@ -25,7 +26,7 @@ bool Placement::reaches(const std::int32_t* parm, long long dx, long long dy)
 }
 
 bool Placement::finish(PatternItem& item, const ItemClass& schema, const Resources& resources,
-                       const std::string& label, Diagnostics& diagnostics)
+                       const Subject& label, Diagnostics& diagnostics)
 {
     if (broken_)
         return false;

@@ -16,13 +16,14 @@ class Placement
   public:
     /// Takes up "rect: [x1, y1, x2, y2]", "at: [x, y]" or "size: [width, height]". A later one replaces an
     /// earlier one of the same name; "rect" has the last word.
-    void read(const Entry& entry, const std::string& label, Diagnostics& diagnostics);
+    void read(const Entry& entry, const Subject& label, Diagnostics& diagnostics);
 
     /// Writes the corners, when the item's other parameters and its texts are known. Without a size, texts,
     /// fields, radio buttons, check boxes and marks are as large as what they show.
     /// @return false, with an error reported, when the place is missing or can not be drawn
-    bool finish(PatternItem& item, const ItemClass& schema, const Resources& resources,
-                const std::string& label, Diagnostics& diagnostics);
+    bool finish(PatternItem& item, const ItemClass& schema, const Resources& resources, const Subject& label,
+                Diagnostics& diagnostics);
+
 
     /// Whether corners that are moved that far are still coordinates.
     static bool reaches(const std::int32_t* parm, long long dx, long long dy);

@@ -4,6 +4,7 @@
 #include "base/EucText.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Sections.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Exact.h"
 #include "tools/ptn/source/ItemList.h"
 
@@ -127,7 +128,7 @@ void ScreenReader::readWindow(const Source& source)
         if (const Layer* style = styles->find("window"))
             window_.apply(*style);
 
-    const std::string label = "'window'";
+    const Subject label = "'window'";
     Layer own{label, {}};
     Source unnamed;
     for (const Entry& entry : Entries(source, label, diagnostics_)) {

@@ -3,6 +3,7 @@
 #include "base/Constants.h"
 #include "log/Clock.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Names.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -34,7 +35,7 @@ std::array<int, 7> ReadClock(const Source& source, const std::array<int, 7>& bef
     return {year, month, day, (Get_Week(year, month, day) + 6) % 7, hour, minute, second};
 }
 
-void SetValue(CellState& state, const Source& source, const std::string& what, Diagnostics& diagnostics)
+void SetValue(CellState& state, const Source& source, const Subject& what, Diagnostics& diagnostics)
 {
     const std::string text = source.text();
     char* end = nullptr;
@@ -46,7 +47,7 @@ void SetValue(CellState& state, const Source& source, const std::string& what, D
 
 void ReadCell(const std::string& name, const Source& source, CellState& state, Diagnostics& diagnostics)
 {
-    const std::string what = "cell " + Quoted(name);
+    const Subject what = "cell " + Quoted(name);
     if (!source.isMap()) {
         SetValue(state, source, what, diagnostics);
         return;

@@ -1,6 +1,7 @@
 #include "tools/ptn/yaml/Source.h"
 
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/common/Names.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -157,7 +158,7 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
     }
 }
 
-std::vector<Entry> Entries(const Source& source, const std::string& what, Diagnostics& diagnostics)
+std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostics& diagnostics)
 {
     std::vector<Entry> entries;
     if (source.isEmpty())
@@ -199,7 +200,7 @@ std::optional<int> ParseInteger(const std::string& text)
     return static_cast<int>(value);
 }
 
-std::optional<int> Integer(const Source& source, int minimum, int maximum, const std::string& what,
+std::optional<int> Integer(const Source& source, int minimum, int maximum, const Subject& what,
                            Diagnostics& diagnostics)
 {
     const std::optional<int> value = source.isText() ? ParseInteger(source.text()) : std::nullopt;
@@ -213,7 +214,7 @@ std::optional<int> Integer(const Source& source, int minimum, int maximum, const
     return value;
 }
 
-std::optional<bool> Boolean(const Source& source, const std::string& what, Diagnostics& diagnostics)
+std::optional<bool> Boolean(const Source& source, const Subject& what, Diagnostics& diagnostics)
 {
     const std::string text = source.text();
     for (const char* word : {"true", "yes", "on", "1"})
@@ -226,7 +227,7 @@ std::optional<bool> Boolean(const Source& source, const std::string& what, Diagn
     return std::nullopt;
 }
 
-std::optional<std::vector<int>> Integers(const Source& source, std::size_t count, const std::string& what,
+std::optional<std::vector<int>> Integers(const Source& source, std::size_t count, const Subject& what,
                                          Diagnostics& diagnostics)
 {
     std::vector<int> values;
@@ -242,7 +243,7 @@ std::optional<std::vector<int>> Integers(const Source& source, std::size_t count
     return values;
 }
 
-std::optional<std::string> Text(const Source& source, const std::string& what, Diagnostics& diagnostics)
+std::optional<std::string> Text(const Source& source, const Subject& what, Diagnostics& diagnostics)
 {
     if (source.isText() || source.isEmpty())
         return source.text();
@@ -250,7 +251,7 @@ std::optional<std::string> Text(const Source& source, const std::string& what, D
     return std::nullopt;
 }
 
-std::optional<std::vector<std::string>> Texts(const Source& source, const std::string& what,
+std::optional<std::vector<std::string>> Texts(const Source& source, const Subject& what,
                                               Diagnostics& diagnostics)
 {
     std::vector<std::string> texts;

@@ -77,27 +77,27 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
 
 /// The entries of a mapping in the order of the file; reports anything but a mapping, and repeated keys.
 /// @param what  how messages call the node, such as "'colors'"
-std::vector<Entry> Entries(const Source& source, const std::string& what, Diagnostics& diagnostics);
+std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostics& diagnostics);
 
 /// A whole number within a range, decimal or with 0x hexadecimal.
-std::optional<int> Integer(const Source& source, int minimum, int maximum, const std::string& what,
+std::optional<int> Integer(const Source& source, int minimum, int maximum, const Subject& what,
                            Diagnostics& diagnostics);
 
 /// The same without complaints; none when the text is not a whole number that an int can hold.
 std::optional<int> ParseInteger(const std::string& text);
 
 /// true/false, yes/no, on/off or 1/0.
-std::optional<bool> Boolean(const Source& source, const std::string& what, Diagnostics& diagnostics);
+std::optional<bool> Boolean(const Source& source, const Subject& what, Diagnostics& diagnostics);
 
 /// Exactly `count` whole numbers in a list.
-std::optional<std::vector<int>> Integers(const Source& source, std::size_t count, const std::string& what,
+std::optional<std::vector<int>> Integers(const Source& source, std::size_t count, const Subject& what,
                                          Diagnostics& diagnostics);
 
 /// A text; reports lists and mappings. An empty value is an empty text.
-std::optional<std::string> Text(const Source& source, const std::string& what, Diagnostics& diagnostics);
+std::optional<std::string> Text(const Source& source, const Subject& what, Diagnostics& diagnostics);
 
 /// A text in three languages: one for all, or a list of two or three whose last also stands for the rest.
-std::optional<std::vector<std::string>> Texts(const Source& source, const std::string& what,
+std::optional<std::vector<std::string>> Texts(const Source& source, const Subject& what,
                                               Diagnostics& diagnostics);
 
 } // namespace ptn
