@@ -1,16 +1,16 @@
 // ptn: the authoring tool. Its messages are UTF-8; the texts of this program itself are plain ASCII.
 #include "tools/ptn/commands/Command.h"
-#include "tools/ptn/common/Diagnostics.h"
+#include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/Names.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <iostream>
 
+using namespace ptn;
+
 namespace
 {
-
-using namespace ptn;
 
 /// Something could not be read or written.
 constexpr int EXIT_ERRORS = 1;
@@ -63,8 +63,9 @@ int main(int argc, char** argv)
     try {
         return Run(argc, argv);
     } catch (const std::filesystem::filesystem_error& problem) {
-        std::cerr << problem.path1().string() << ": " << problem.code().message()
-                  << ". Check the folder's rights and space.\n";
+        Diagnostics diagnostics;
+        ReportUnwritten(problem, diagnostics);
+        diagnostics.print(std::cerr);
     } catch (const std::exception& problem) {
         std::cerr << "ptn: " << problem.what() << "\n";
     }

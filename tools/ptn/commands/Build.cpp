@@ -41,7 +41,12 @@ void BuildCommand::addOptions(CLI::App& line)
 int BuildCommand::run()
 {
     Diagnostics diagnostics;
-    const std::optional<OutputReport> report = Build(source_, output_, diagnostics);
+    std::optional<OutputReport> report;
+    try {
+        report = Build(source_, output_, diagnostics);
+    } catch (const std::filesystem::filesystem_error& problem) {
+        ReportUnwritten(problem, diagnostics);
+    }
     diagnostics.print(std::cerr);
     if (!report) {
         std::cerr << diagnostics.errors() << (diagnostics.errors() == 1 ? " error" : " errors") << "; "

@@ -2,6 +2,7 @@
 #include "pattern/ActionTable.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/commands/Command.h"
+#include "tools/ptn/common/Framework.h"
 
 #include <iomanip>
 #include <iostream>

@@ -1,4 +1,16 @@
 // What is wrong with the sources, collected so that one run reports everything it finds.
+//
+// How the functions of ptn fail:
+// - What a user wrote or asked for that can not be: a function that takes a `Diagnostics` reports it there,
+//   with what to do about it, and returns std::optional, or bool when it has nothing to return. What reads
+//   many things at once (a section, a project, a state) reports each and returns or keeps the rest; whether
+//   it is whole is asked of `failed`.
+// - A text that is no number, colour or the like: a function without a `Diagnostics` returns std::optional;
+//   its caller knows the better message.
+// - A file of ours that can not be written, or a folder that can not be made:
+// std::filesystem::filesystem_error.
+//   Nobody catches it but main, and the build command, which has to tell that nothing was changed.
+// Only the commands make an exit status of it.
 #pragma once
 
 #include "tools/ptn/common/Framework.h"

@@ -30,4 +30,10 @@ void WriteBytes(const fs::path& file, const std::string& bytes)
                                    std::error_code(errno, std::generic_category()));
 }
 
+void ReportUnwritten(const fs::filesystem_error& problem, Diagnostics& diagnostics)
+{
+    diagnostics.error({problem.path1().string(), 0},
+                      problem.code().message() + ". Check the folder's rights and space.");
+}
+
 } // namespace ptn

@@ -1,6 +1,8 @@
 // Whole files.
 #pragma once
 
+#include "tools/ptn/common/Diagnostics.h"
+
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -14,6 +16,9 @@ using FileMap = std::map<std::string, std::string>;
 
 /// A regular file's bytes; none when it is missing, can not be read or is not a regular file.
 std::optional<std::string> ReadBytes(const std::filesystem::path& file);
+
+/// Reports a file or folder that could not be written.
+void ReportUnwritten(const std::filesystem::filesystem_error& problem, Diagnostics& diagnostics);
 
 /// Writes a file anew. Throws std::filesystem::filesystem_error when it can not be written.
 void WriteBytes(const std::filesystem::path& file, const std::string& bytes);

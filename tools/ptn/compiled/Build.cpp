@@ -73,14 +73,8 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     CheckTablePlace(project, folder, diagnostics);
     if (diagnostics.failed())
         return std::nullopt;
-    try {
-        return WriteOutput(folder, MadeFiles(project, patterns), SectionFiles(project, ProjectFile::Seed),
-                           profile, profileBytes);
-    } catch (const fs::filesystem_error& problem) {
-        diagnostics.error({problem.path1().string(), 0},
-                          problem.code().message() + ". Check the folder's rights and space.");
-        return std::nullopt;
-    }
+    return WriteOutput(folder, MadeFiles(project, patterns), SectionFiles(project, ProjectFile::Seed),
+                       profile, profileBytes);
 }
 
 } // namespace ptn

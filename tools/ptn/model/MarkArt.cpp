@@ -15,9 +15,11 @@ std::string SizeText(SIZE size)
 
 } // namespace
 
-void ReadMarkArt(const std::string& art, SIZE size, const Subject& what, const Place& place, MARKDATA& mark,
-                 Diagnostics& diagnostics)
+std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Subject& what,
+                                    const Place& place, Diagnostics& diagnostics)
 {
+    MARKDATA mark{};
+    bool whole = true;
     std::istringstream lines(art);
     int row = 0;
     for (std::string line; std::getline(lines, line); ++row) {
@@ -27,12 +29,13 @@ void ReadMarkArt(const std::string& art, SIZE size, const Subject& what, const P
         if (wrong != std::string::npos) {
             diagnostics.error(place, where + ": column " + std::to_string(wrong + 1) +
                                          " has neither '.' nor 'X'. Draw with these two.");
+            whole = false;
             continue;
         }
         if (row >= size.cy || line.size() > static_cast<std::size_t>(size.cx)) {
             diagnostics.error(place, where + ": the picture is too large. Marks of this number have " +
                                          SizeText(size) + " pixels; choose a number of a larger group.");
-            return;
+            return std::nullopt;
         }
         for (std::size_t column = 0; column < line.size(); ++column) {
             const std::size_t bit =
@@ -41,6 +44,7 @@ void ReadMarkArt(const std::string& art, SIZE size, const Subject& what, const P
                 mark.mark[bit / 8] |= static_cast<BYTE>(1 << bit % 8);
         }
     }
+    return whole ? std::optional(mark) : std::nullopt;
 }
 
 std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size)

@@ -14,8 +14,8 @@ namespace ptn
 /// Reads a picture of `size` pixels: one line per row, "." or a blank for background, "X" or "#" for
 /// foreground. Rows and columns that are left out are background; a picture that is too large and any other
 /// letter are reported.
-void ReadMarkArt(const std::string& art, SIZE size, const Subject& what, const Place& place, MARKDATA& mark,
-                 Diagnostics& diagnostics);
+std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Subject& what,
+                                    const Place& place, Diagnostics& diagnostics);
 
 /// The reverse, with the blank rows at its end left out. None when bits are set that no pixel shows.
 std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size);

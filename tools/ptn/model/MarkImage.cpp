@@ -23,8 +23,8 @@ bool IsDark(const guchar* pixel, bool alpha)
 
 } // namespace
 
-void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what, const Place& place,
-                   MARKDATA& mark, Diagnostics& diagnostics)
+std::optional<MARKDATA> ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what,
+                                      const Place& place, Diagnostics& diagnostics)
 {
     GError* problem = nullptr;
     const std::unique_ptr<GdkPixbuf, Unref> picture(gdk_pixbuf_new_from_file(file.c_str(), &problem));
@@ -32,7 +32,7 @@ void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& 
         diagnostics.error(place, what + ": '" + file.string() + "' can not be read: " + problem->message +
                                      ". Give a PNG or XBM file.");
         g_error_free(problem);
-        return;
+        return std::nullopt;
     }
     const int width = gdk_pixbuf_get_width(picture.get());
     const int height = gdk_pixbuf_get_height(picture.get());
@@ -41,8 +41,9 @@ void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& 
                                      std::to_string(height) + " pixels. Marks of this number have " +
                                      std::to_string(size.cx) + " x " + std::to_string(size.cy) +
                                      "; scale it, or choose a number of another group.");
-        return;
+        return std::nullopt;
     }
+    MARKDATA mark{};
     const int channels = gdk_pixbuf_get_n_channels(picture.get());
     const int stride = gdk_pixbuf_get_rowstride(picture.get());
     const guchar* pixels = gdk_pixbuf_get_pixels(picture.get());
@@ -51,6 +52,7 @@ void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& 
         if (IsDark(pixel, gdk_pixbuf_get_has_alpha(picture.get())))
             mark.mark[bit / 8] |= static_cast<BYTE>(1 << bit % 8);
     }
+    return mark;
 }
 
 } // namespace ptn

@@ -6,14 +6,14 @@
 #include "tools/ptn/common/Diagnostics.h"
 
 #include <filesystem>
-#include <string>
+#include <optional>
 
 namespace ptn
 {
 
 /// Reads a PNG, XBM or other picture file of exactly `size` pixels: dark pixels become foreground, light and
-/// transparent ones background.
-void ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what, const Place& place,
-                   MARKDATA& mark, Diagnostics& diagnostics);
+/// transparent ones background. Anything else is reported.
+std::optional<MARKDATA> ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what,
+                                      const Place& place, Diagnostics& diagnostics);
 
 } // namespace ptn

@@ -45,6 +45,27 @@ std::optional<COLRDATA> ParseColor(const Source& source)
     return COLRDATA{component(0), component(1), component(2)};
 }
 
+std::optional<MARKDATA> ReadMark(const NumberedEntry& entry, SIZE size, const std::filesystem::path& folder,
+                                 const Subject& what, Diagnostics& diagnostics)
+{
+    const auto text = Text(entry.value, what, diagnostics);
+    if (!text)
+        return std::nullopt;
+    const Place place = entry.value.place();
+    if (entry.key == "art")
+        return ReadMarkArt(*text, size, what, place, diagnostics);
+    if (entry.key == "image")
+        return ReadMarkImage(folder / *text, size, what, place, diagnostics);
+    MARKDATA mark{};
+    const auto bytes = FromHex(*text);
+    if (!bytes || bytes->size() != sizeof mark.mark) {
+        diagnostics.error(place, what + ": 'bytes' must be 512 pairs of hexadecimal digits.");
+        return std::nullopt;
+    }
+    std::copy(bytes->begin(), bytes->end(), mark.mark);
+    return mark;
+}
+
 } // namespace
 
 Resources::Resources()
@@ -99,21 +120,8 @@ void Resources::readMarks(const Source& section, const std::filesystem::path& fo
     for (const NumberedEntry& entry :
          NumberedEntries(section, {"art", "image", "bytes"}, marks_, diagnostics)) {
         const Subject what = "mark " + Quoted(entry.name) + " (" + std::to_string(entry.number) + ")";
-        const auto text = Text(entry.value, what, diagnostics);
-        if (!text)
-            continue;
-        MARKDATA& mark = markData_.at(entry.number);
-        if (entry.key == "art") {
-            ReadMarkArt(*text, MarkSize(entry.number), what, entry.value.place(), mark, diagnostics);
-        } else if (entry.key == "image") {
-            ReadMarkImage(folder / *text, MarkSize(entry.number), what, entry.value.place(), mark,
-                          diagnostics);
-        } else if (std::string bytes; FromHex(*text, bytes) && bytes.size() == sizeof mark.mark) {
-            std::copy(bytes.begin(), bytes.end(), mark.mark);
-        } else {
-            diagnostics.error(entry.value.place(),
-                              what + ": 'bytes' must be 512 pairs of hexadecimal digits.");
-        }
+        if (const auto mark = ReadMark(entry, MarkSize(entry.number), folder, what, diagnostics))
+            markData_.at(entry.number) = *mark;
     }
 }
 

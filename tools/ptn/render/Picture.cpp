@@ -47,14 +47,15 @@ PicturePtr Pixmap::picture() const
                                                    width_, height_));
 }
 
-std::string SavePicture(GdkPixbuf* picture, const std::string& file)
+bool SavePicture(GdkPixbuf* picture, const std::filesystem::path& file, Diagnostics& diagnostics)
 {
     GError* problem = nullptr;
     if (gdk_pixbuf_save(picture, file.c_str(), "png", &problem, nullptr))
-        return "";
-    std::string text = problem->message;
+        return true;
+    diagnostics.error({file.string(), 0},
+                      std::string(problem->message) + ". Check the folder's rights and space.");
     g_error_free(problem);
-    return text;
+    return false;
 }
 
 PicturePtr ContactSheet(const std::vector<PicturePtr>& pictures)

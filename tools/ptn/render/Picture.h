@@ -2,11 +2,11 @@
 #pragma once
 
 #include "draw/DrawCntl.h"
-#include "tools/ptn/common/Framework.h"
+#include "tools/ptn/common/Diagnostics.h"
 
+#include <filesystem>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace ptn
@@ -39,8 +39,9 @@ class Pixmap
     PaintDrawPtr draw_;
 };
 
-/// Writes a PNG file. @return empty, or the reason why not
-std::string SavePicture(GdkPixbuf* picture, const std::string& file);
+/// Writes a PNG file.
+/// @return false, with the reason reported, when it can not be written
+bool SavePicture(GdkPixbuf* picture, const std::filesystem::path& file, Diagnostics& diagnostics);
 
 /// All pictures side by side, in the order of reading, made as small as needed to be 400 pixels wide each.
 PicturePtr ContactSheet(const std::vector<PicturePtr>& pictures);

@@ -61,13 +61,13 @@ void StopServer()
 
 } // namespace
 
-std::string EnsureDisplay()
+bool EnsureDisplay(Diagnostics& diagnostics)
 {
     if (const char* display = std::getenv("DISPLAY"); display && *display)
-        return "";
+        return true;
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0)
-        return "no display, and no pipe to a private one.";
+        return false;
     owner = getpid();
     server = fork();
     if (server == 0)
@@ -77,10 +77,14 @@ std::string EnsureDisplay()
     close(ends[0]);
     if (server > 0)
         std::atexit(StopServer);
-    if (number.empty())
-        return "$DISPLAY is not set and Xvfb does not start. Install the package xvfb, or set DISPLAY.";
+    if (number.empty()) {
+        diagnostics.error(
+            {"", 0},
+            "$DISPLAY is not set and Xvfb does not start. Install the package xvfb, or set DISPLAY.");
+        return false;
+    }
     setenv("DISPLAY", (":" + number).c_str(), 1);
-    return "";
+    return true;
 }
 
 } // namespace ptn

@@ -113,11 +113,8 @@ void SetCells(const ScreenState& state)
 // The framework as start-up leaves it, without a window and without a log.
 bool Start(const ScreenState& state, Diagnostics& diagnostics)
 {
-    const std::string problem = EnsureDisplay();
-    if (!problem.empty()) {
-        diagnostics.error({"", 0}, problem);
+    if (!EnsureDisplay(diagnostics))
         return false;
-    }
     if (!UseEucLocale())
         diagnostics.warning({"", 0}, "the locale ja_JP.eucJP is missing, so no Japanese text is drawn. Make "
                                      "it with localedef.");
@@ -197,11 +194,8 @@ std::vector<fs::path> Render(const RenderJob& job, Diagnostics& diagnostics)
     std::vector<PicturePtr> pictures;
     const auto save = [&](const fs::path& file, const PicturePtr& picture) {
         fs::create_directories(file.parent_path());
-        const std::string problem = SavePicture(picture.get(), file.string());
-        if (problem.empty())
+        if (SavePicture(picture.get(), file, diagnostics))
             files.push_back(file);
-        else
-            diagnostics.error({file.string(), 0}, problem + ". Check the folder's rights and space.");
     };
     for (const Pattern* pattern : chosen) {
         pictures.push_back(Draw(*pattern));

@@ -30,16 +30,17 @@ std::optional<std::string> ExactText(const Source& source, const Subject& what, 
         const auto text = Text(source, what, diagnostics);
         return text ? ToEuc(*text, LONGEST, what, place, diagnostics) : std::nullopt;
     }
-    std::string bytes;
+    std::string text;
     for (const Entry& entry : Entries(source, what, diagnostics)) {
-        if (entry.name != "bytes" || !FromHex(entry.value.text(), bytes) ||
-            bytes.find('\0') != std::string::npos) {
+        const auto bytes = entry.name == "bytes" ? FromHex(entry.value.text()) : std::nullopt;
+        if (!bytes || bytes->find('\0') != std::string::npos) {
             diagnostics.error(entry.place, what + ": write 'bytes' as pairs of hexadecimal digits other than "
                                                   "00.");
             return std::nullopt;
         }
+        text = *bytes;
     }
-    return bytes;
+    return text;
 }
 
 void ReadExactTexts(const Source& source, const Subject& what, const Place& place, PatternItem& item,
@@ -129,13 +130,13 @@ void ReadExactHeader(const Source& source, HEDRFILE& header, Diagnostics& diagno
         } else if (entry.name == "bytes") {
             for (const Entry& part : Entries(entry.value, what + " 'bytes'", diagnostics)) {
                 const std::optional<int> offset = ParseInteger(part.name);
-                std::string bytes;
-                if (!offset || *offset < 0 || !FromHex(part.value.text(), bytes) ||
-                    static_cast<std::size_t>(*offset) + bytes.size() > sizeof header)
+                const auto bytes = FromHex(part.value.text());
+                if (!offset || *offset < 0 || !bytes ||
+                    static_cast<std::size_t>(*offset) + bytes->size() > sizeof header)
                     diagnostics.error(part.place, what + " 'bytes': write an offset into the header's 466 "
                                                          "bytes and pairs of hexadecimal digits.");
                 else
-                    std::memcpy(reinterpret_cast<char*>(&header) + *offset, bytes.data(), bytes.size());
+                    std::memcpy(reinterpret_cast<char*>(&header) + *offset, bytes->data(), bytes->size());
             }
         } else {
             diagnostics.error(entry.place, what + ": unknown " + Quoted(entry.name) + "." +

@@ -254,7 +254,8 @@ const Rows& Sections()
 
 void AddSection(const char* name, const char* file, ProjectFile kind, ApplicationSection::Make make)
 {
-    Table().push_back(std::make_unique<ApplicationSection>(name, file, kind, make));
+    // The registry, which holds nothing of the project, stays the last one.
+    Table().insert(std::prev(Table().end()), std::make_unique<ApplicationSection>(name, file, kind, make));
 }
 
 } // namespace ptn

@@ -79,7 +79,7 @@ class Section
     ProjectFile kind_;
 };
 
-/// All rows, in the order in which they are read: those of the tool, then those of the application.
+/// All rows, in the order in which they are read.
 const std::vector<std::unique_ptr<Section>>& Sections();
 
 /// Adds a row for a section that an application holds.

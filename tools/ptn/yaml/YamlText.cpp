@@ -99,14 +99,14 @@ std::string Hex(const std::string& bytes)
     return text;
 }
 
-bool FromHex(const std::string& text, std::string& bytes)
+std::optional<std::string> FromHex(const std::string& text)
 {
     if (text.size() % 2 || text.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos)
-        return false;
-    bytes.clear();
+        return std::nullopt;
+    std::string bytes;
     for (std::size_t i = 0; i < text.size(); i += 2)
         bytes += static_cast<char>(std::stoi(text.substr(i, 2), nullptr, 16));
-    return true;
+    return bytes;
 }
 
 } // namespace ptn

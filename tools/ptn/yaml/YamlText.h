@@ -1,7 +1,7 @@
 // Writing YAML: values of the sources as text.
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,8 +22,8 @@ std::string YamlMap(const std::vector<std::string>& parts);
 /// Texts in three languages in their shortest form: one for all, or a list.
 std::string YamlTexts(const std::vector<std::string>& utf8);
 
-/// Bytes as pairs of hexadecimal digits, and back. @return false when it is no such text
+/// Bytes as pairs of hexadecimal digits, and back; none when the text is no such pairs.
 std::string Hex(const std::string& bytes);
-bool FromHex(const std::string& text, std::string& bytes);
+std::optional<std::string> FromHex(const std::string& text);
 
 } // namespace ptn
