@@ -14,6 +14,9 @@ constexpr int LINE_WIDTH_MAX = 98;
 /// Longest field of a profile key in bytes, and of a whole text without its terminator.
 constexpr int PROFILE_FIELD_MAX = 99;
 
+/// Bytes that such a field takes when it is read.
+constexpr int PROFILE_FIELD_SIZE = PROFILE_FIELD_MAX + 1;
+
 /// Buffers for the text of a cell or of a number, terminator included.
 constexpr int TEXT_BUFFER = 256;
 

@@ -1,5 +1,7 @@
-// What the tables of this folder do with the cells beyond reading and writing them.
+// The store of the cells, for the files of this folder: who owns their texts, and nothing of names and logs.
 #pragma once
+
+#include "comndata/CellData.h"
 
 namespace tessary
 {
@@ -7,11 +9,19 @@ namespace tessary
 /// Frees the cells and makes `count` new ones, all zero and without text; 0 leaves no store.
 void CreateCells(int count);
 
+/// True for the number of a cell.
+bool HasCell(int no);
+
+/// Gives a cell, which must be one, a copy of a text: at most SIZE_SDATA bytes, never half of a two-byte
+/// character.
+/// @param text  may be what the cell holds already; null or empty leaves the cell without text
+void StoreText(int no, const char* text);
+
 /// Makes the text of a cell point at `text` without copying it. The text must live until the cell is
 /// written, freed, or released by ReleaseText. A number outside the store is ignored.
 void ShareText(int no, char* text);
 
-/// Leaves the cell without text if it still shares `text`.
+/// Leaves the cell without text if it still shares `text`. A number outside the store is ignored.
 void ReleaseText(int no, const char* text);
 
 } // namespace tessary

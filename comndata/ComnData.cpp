@@ -3,33 +3,17 @@
 #include "base/EucText.h"
 #include "comndata/Cells.h"
 #include "comndata/CodeTable.h"
-#include "comndata/LimtData.h"
-#include "comndata/MesgData.h"
 #include "log/LogText.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <string>
-#include <vector>
 
 using namespace tessary;
 
-COMNDATA* ComnData;
-std::int32_t PtrnDataNo;
-
 namespace
 {
-
-// What ComnData points at. The texts that the cells own stand beside them, by data number: a cell whose
-// `sData` is not its own text shares the text of a message row, which is not to be freed with the cell.
-// Before the first text is written there are no own ones.
-std::vector<COMNDATA> cells;
-std::vector<std::unique_ptr<char[]>> ownTexts;
-
-// A text may fill the reading buffer and need one byte more; a longer one is cut when it is written.
-constexpr std::size_t maxText = SIZE_SDATA;
 
 /// Casting a float that no int can hold is undefined; application and keyboard may write any.
 int Truncate(float value)
@@ -53,14 +37,6 @@ bool IsLogged(int no, const char* file, char* name)
 const char* AccessText(int write)
 {
     return write ? "WRITE  " : "READ   ";
-}
-
-std::unique_ptr<char[]>& OwnText(int no)
-{
-    const auto place = static_cast<std::size_t>(no);
-    if (place >= ownTexts.size())
-        ownTexts.resize(static_cast<std::size_t>(PtrnDataNo));
-    return ownTexts[place];
 }
 
 template <typename Operation> void ChangeWord(int no, const char* file, int line, Operation operation)
@@ -101,33 +77,9 @@ void FillRange(int no, std::int64_t count, WORD word, float value, const char* t
 
 } // namespace
 
-int ComnDataInit()
-{
-    ComnDataExit();
-    LoadMesgData();
-    LoadLimtData();
-    return LoadCodeData();
-}
-
-void ComnDataExit()
-{
-    ExitCodeData();
-    ExitMesgData();
-    ExitLimtData();
-}
-
-void tessary::CreateCells(int count)
-{
-    const auto size = static_cast<std::size_t>(count);
-    cells = std::vector<COMNDATA>(size);
-    ownTexts = std::vector<std::unique_ptr<char[]>>();
-    ComnData = count ? cells.data() : nullptr;
-    PtrnDataNo = count;
-}
-
 int CheckComnData(int no, const char* file, int line)
 {
-    if (no >= 0 && no < PtrnDataNo)
+    if (HasCell(no))
         return 1;
     if (file)
         LogText("COMNMEM", file, line, "Data No Error [%d]", no);
@@ -204,32 +156,9 @@ void Set_sData(int no, const char* text, const char* file, int line)
     if (!CheckComnData(no, file, line))
         return;
 
-    // The copy is made before the old text goes, which may be the one that is given.
-    std::unique_ptr<char[]> copy;
-    if (text && *text) {
-        const std::size_t length = EucCut(text, maxText);
-        copy.reset(new char[length + 1]);
-        CopyText(copy.get(), length + 1, text);
-    }
-    std::unique_ptr<char[]>& own = OwnText(no);
-    own = std::move(copy);
-    ComnData[no].sData = own.get();
-
-    SetLogfile(no, 1, own ? own.get() : "", file, line);
-}
-
-void tessary::ShareText(int no, char* text)
-{
-    if (!CheckComnData(no, nullptr, 0))
-        return;
-    OwnText(no).reset();
-    ComnData[no].sData = text;
-}
-
-void tessary::ReleaseText(int no, const char* text)
-{
-    if (CheckComnData(no, nullptr, 0) && ComnData[no].sData == text)
-        ComnData[no].sData = nullptr;
+    StoreText(no, text);
+    const char* stored = ComnData[no].sData;
+    SetLogfile(no, 1, stored ? stored : "", file, line);
 }
 
 void OR_wData(int no, WORD mask, const char* file, int line)

@@ -9,34 +9,7 @@
 // With a null `file` an access is silent.
 #pragma once
 
-#include "base/Constants.h"
-#include "base/Types.h"
-
-#pragma pack(push, 1)
-
-/// One cell.
-struct COMNDATA {
-    WORD wData;
-    float fData;  ///< integers are kept here too, so those beyond 2^24 lose their last digits
-    LPTSTR sData; ///< owned by the store, or the text of a message row; null when empty
-};
-static_assert(sizeof(COMNDATA) == sizeof(WORD) + sizeof(float) + sizeof(LPTSTR));
-
-#pragma pack(pop)
-
-extern COMNDATA* ComnData;      ///< the cells; to be read only. Null without a code table
-extern std::int32_t PtrnDataNo; ///< number of cells; valid data numbers are 0 to PtrnDataNo - 1
-
-namespace tessary
-{
-
-/// Most cells a store may have. The code table ends before the row that would pass it.
-constexpr int CONT_COMNDATA = 1000000;
-
-/// Size of the buffer that Get_sData returns: 255 bytes of text and the terminator.
-constexpr int SIZE_SDATA = 256;
-
-} // namespace tessary
+#include "comndata/CellData.h"
 
 // --- life ------------------------------------------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #include "comndata/LimtData.h"
 
 #include "base/EucText.h"
+#include "base/Limits.h"
 #include "comndata/ComnData.h"
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
@@ -76,7 +77,7 @@ void LoadLimtData()
     LimitArea minimum;
     LimitArea maximum;
     for (int number = 1; number <= CONT_LIMTDATA; number++) {
-        char code[100];
+        char code[PROFILE_FIELD_SIZE];
         int offset[2];
         int error[2];
         if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siiffii", code, &offset[0], &offset[1],

@@ -1,6 +1,7 @@
 #include "comndata/MesgData.h"
 
 #include "base/EucText.h"
+#include "base/Limits.h"
 #include "comndata/Cells.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
@@ -19,8 +20,6 @@ MESGDATA* MesgData[CONT_MESGDATA];
 
 namespace
 {
-
-constexpr int languages = 3;
 
 std::deque<MESGDATA> rows; // what MesgData points at; a deque never moves its rows
 
@@ -44,11 +43,11 @@ void LoadMesgData()
     if (!TablePath(path, "MesgData", "MESGDATA"))
         return;
 
-    const int language = Language == 0 || Language == 1 ? Language : languages - 1;
+    const int language = Language == 0 || Language == 1 ? Language : LANGUAGE_COUNT - 1;
     for (int number = 1; number <= CONT_MESGDATA; number++) {
-        char code[100];
+        char code[PROFILE_FIELD_SIZE];
         int offset;
-        char text[languages][100];
+        char text[LANGUAGE_COUNT][PROFILE_FIELD_SIZE];
         if (ProfileRead(path, "MESGDATA", "MESG", number, "sisss", code, &offset, text[0], text[1], text[2],
                         nullptr) == 0)
             continue;

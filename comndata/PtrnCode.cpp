@@ -3,7 +3,6 @@
 #include "base/BuiltIn.h"
 #include "base/EucText.h"
 #include "comndata/Cells.h"
-#include "comndata/ComnData.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
 #include "log/LogText.h"
@@ -200,7 +199,7 @@ const PTRNCODE* tessary::FindCode(int no)
 int ConvertDtno(int no, char* name)
 {
     name[0] = '\0';
-    if (!CheckComnData(no, nullptr, 0) || !PtrnFlag || !(PtrnFlag[no] & 1))
+    if (!HasCell(no) || !PtrnFlag || !(PtrnFlag[no] & 1))
         return 0;
     const PTRNCODE* row = FindCode(no);
     if (!row)

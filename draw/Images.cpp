@@ -26,8 +26,6 @@ namespace
 {
 
 constexpr int SIZE_RRGGBB = 6;
-constexpr int SIZE_PROFTEXT =
-    tessary::PROFILE_FIELD_MAX + 1; // what the profile reader may store for one field
 
 char builtin1[] = "  c #FFFFFF";
 char builtin2[] = ". c #C0C0C0";
@@ -78,9 +76,9 @@ void ReplaceColor(char*& line, char* text, const char* format, const char* color
 
 void SetXpmColr(char** xpm, int no, char* colr1, char* colr2, char* colr3)
 {
-    char text1[SIZE_PROFTEXT];
-    char text2[SIZE_PROFTEXT];
-    char text3[SIZE_PROFTEXT];
+    char text1[PROFILE_FIELD_SIZE];
+    char text2[PROFILE_FIELD_SIZE];
+    char text3[PROFILE_FIELD_SIZE];
     ProfileRead(ProfName, "COLOR", "XPM_COLR", no, "sss", text1, text2, text3);
 
     ReplaceColor(xpm[1], colr1, "  c #%s", text1);

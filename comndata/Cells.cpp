@@ -1,0 +1,74 @@
+#include "comndata/Cells.h"
+
+#include "base/EucText.h"
+
+#include <memory>
+#include <vector>
+
+using namespace tessary;
+
+COMNDATA* ComnData;
+std::int32_t PtrnDataNo;
+
+namespace
+{
+
+// What ComnData points at. The texts that the cells own stand beside them, by data number: a cell whose
+// `sData` is not its own text shares the text of a message row, which is not to be freed with the cell.
+// Before the first text is written there are no own ones.
+std::vector<COMNDATA> cells;
+std::vector<std::unique_ptr<char[]>> ownTexts;
+
+// A text may fill the reading buffer and need one byte more; a longer one is cut when it is written.
+constexpr std::size_t maxText = SIZE_SDATA;
+
+std::unique_ptr<char[]>& OwnText(int no)
+{
+    const auto place = static_cast<std::size_t>(no);
+    if (place >= ownTexts.size())
+        ownTexts.resize(static_cast<std::size_t>(PtrnDataNo));
+    return ownTexts[place];
+}
+
+} // namespace
+
+void tessary::CreateCells(int count)
+{
+    cells = std::vector<COMNDATA>(static_cast<std::size_t>(count));
+    ownTexts = std::vector<std::unique_ptr<char[]>>();
+    ComnData = count ? cells.data() : nullptr;
+    PtrnDataNo = count;
+}
+
+bool tessary::HasCell(int no)
+{
+    return no >= 0 && no < PtrnDataNo;
+}
+
+void tessary::StoreText(int no, const char* text)
+{
+    // The copy is made before the old text goes, which may be the one that is given.
+    std::unique_ptr<char[]> copy;
+    if (text && *text) {
+        const std::size_t length = EucCut(text, maxText);
+        copy = std::make_unique<char[]>(length + 1);
+        CopyText(copy.get(), length + 1, text);
+    }
+    std::unique_ptr<char[]>& own = OwnText(no);
+    own = std::move(copy);
+    ComnData[no].sData = own.get();
+}
+
+void tessary::ShareText(int no, char* text)
+{
+    if (!HasCell(no))
+        return;
+    OwnText(no).reset();
+    ComnData[no].sData = text;
+}
+
+void tessary::ReleaseText(int no, const char* text)
+{
+    if (HasCell(no) && ComnData[no].sData == text)
+        ComnData[no].sData = nullptr;
+}
