@@ -153,8 +153,8 @@ class Maintenance : public Screen
     /// True when a line shows something in the column at x: pixels in the colour of texts and marks.
     bool hasInk(int x, int line)
     {
-        static_assert(tessary::TEXT_COLOR4 ==
-                      tessary::CHECK_COLOR); // which is the colour that a Pattern draws them in
+        // Which is the colour that a Pattern draws marks in too.
+        static_assert(int{tessary::TEXT_COLOR4} == int{tessary::CHECK_COLOR});
         const RECT& place = SystmWnd->WindRect;
         const int ink = user.picture(place.left + x, place.top + top + line * spacing, 38, 16)
                             .count(color(tessary::TEXT_COLOR4));
