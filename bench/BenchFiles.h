@@ -67,7 +67,7 @@ class BenchFiles
             };
             const bool hasCell = before(i + 1) > before(i);
             const tessary::ItemClass& schema = *tessary::FindItemClass(i % CONT_PTRN + 1);
-            Item item{newItem(schema), schema.text == ItemText::BitmapName ? "lamp.ppm" : "圧力A",
+            Item item{newItem(schema), schema.text == tessary::ItemText::BitmapName ? "lamp.ppm" : "圧力A",
                       hasCell ? "ITEM" : ""};
             item.record.ID_No = hasCell ? before(i) : 0;
             place(item.record, i, count, size);
