@@ -2,6 +2,7 @@
 
 #include "base/EucText.h"
 
+#include <gtk/gtk.h>
 #include <string>
 #include <vector>
 

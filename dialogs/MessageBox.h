@@ -1,10 +1,10 @@
 // The modal message box, for the moments before the first screen is up.
 #pragma once
 
-#include <gtk/gtk.h>
+#include "draw/ToolkitTypes.h"
 
 /// Number of the pressed button; 0 from the moment a box opens.
-extern gint MessageButnNo;
+extern int MessageButnNo;
 
 /// Shows a title, a line of text and the buttons of a type, and waits for one in a nested main loop.
 /// The tick and the windows behind go on running; their input is blocked. One box at a time.
@@ -18,8 +18,8 @@ extern gint MessageButnNo;
 int MessageBox(const char* title, const char* text, int ignored, int type);
 
 /// Handlers of the box. `window` is the box: the first three set MessageButnNo and destroy it.
-void Message_Button1(GtkWidget* widget, gpointer window);
-void Message_Button2(GtkWidget* widget, gpointer window);
-void Message_Button3(GtkWidget* widget, gpointer window);
+void Message_Button1(GtkWidget* widget, void* window);
+void Message_Button2(GtkWidget* widget, void* window);
+void Message_Button3(GtkWidget* widget, void* window);
 /// Ends the nested main loop and gives the input back.
 void Message_Destroy(GtkWidget* widget);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <gdk/gdk.h>
 
 namespace tessary
 {

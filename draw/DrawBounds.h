@@ -2,7 +2,7 @@
 // wrap; these keep the part that can be seen and drop the rest. They draw with the context as it is.
 #pragma once
 
-#include <gdk/gdk.h>
+#include "draw/ToolkitTypes.h"
 
 namespace tessary
 {

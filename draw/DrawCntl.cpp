@@ -7,6 +7,7 @@
 #include "log/LogText.h"
 
 #include <cstdlib>
+#include <gdk/gdk.h>
 
 using namespace tessary;
 
@@ -18,6 +19,15 @@ void tessary::DrawCheckFailed(int line, const char* function, const char* condit
     g_log(G_LOG_DOMAIN, G_LOG_LEVEL_ERROR, "file %s: line %d (%s): assertion failed: (%s)", "DrawCntl", line,
           function, condition);
     std::abort();
+}
+
+CDraw::CDraw(GdkWindow* drawable) : window(drawable), gc(gdk_gc_new(drawable)) {}
+
+void tessary::PaintDrawRelease::operator()(CPaintDraw* draw) const
+{
+    if (draw->gc)
+        g_object_unref(draw->gc);
+    delete draw;
 }
 
 void CDraw::ClearScreen(int colr)

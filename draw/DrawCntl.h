@@ -16,13 +16,13 @@
 #pragma once
 
 #include "base/Types.h"
+#include "draw/ToolkitTypes.h"
 
-#include <gdk/gdk.h>
 #include <memory>
 
 /// Dash lists of line types 1 and 2: pixels on, pixels off.
-extern gint8 dash1[2];
-extern gint8 dash2[2];
+extern signed char dash1[2];
+extern signed char dash2[2];
 
 class CDraw
 {
@@ -118,7 +118,7 @@ class CDraw
     void DrawCrcl1(int mode, int xpos1, int ypos1, int xpos2, int ypos2);
 
   protected:
-    explicit CDraw(GdkWindow* drawable) : window(drawable), gc(gdk_gc_new(drawable)) {}
+    explicit CDraw(GdkWindow* drawable);
     ~CDraw() = default;
 };
 
@@ -144,12 +144,7 @@ namespace tessary
 
 /// Releases the graphics context together with its CPaintDraw.
 struct PaintDrawRelease {
-    void operator()(CPaintDraw* draw) const
-    {
-        if (draw->gc)
-            g_object_unref(draw->gc);
-        delete draw;
-    }
+    void operator()(CPaintDraw* draw) const;
 };
 using PaintDrawPtr = std::unique_ptr<CPaintDraw, PaintDrawRelease>;
 

@@ -11,8 +11,8 @@
 
 using namespace tessary;
 
-gint8 dash1[2] = {12, 4};
-gint8 dash2[2] = {4, 2};
+signed char dash1[2] = {12, 4};
+signed char dash2[2] = {4, 2};
 
 namespace
 {
@@ -30,7 +30,7 @@ void SetSolidPen(GdkGC* gc)
     gdk_gc_set_line_attributes(gc, 1, GDK_LINE_SOLID, GDK_CAP_BUTT, GDK_JOIN_MITER);
 }
 
-void SetDashedPen(GdkGC* gc, gint8 (&dashes)[2])
+void SetDashedPen(GdkGC* gc, signed char (&dashes)[2])
 {
     gdk_gc_set_dashes(gc, 0, dashes, 2);
     gdk_gc_set_line_attributes(gc, 1, GDK_LINE_ON_OFF_DASH, GDK_CAP_BUTT, GDK_JOIN_MITER);

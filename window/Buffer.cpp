@@ -4,6 +4,7 @@
 #include "log/LogText.h"
 
 #include <algorithm>
+#include <gtk/gtk.h>
 
 namespace tessary
 {

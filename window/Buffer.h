@@ -4,7 +4,6 @@
 #include "base/Types.h"
 #include "draw/DrawCntl.h"
 
-#include <gtk/gtk.h>
 #include <memory>
 
 namespace tessary

@@ -4,6 +4,8 @@
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"
 
+#include <gtk/gtk.h>
+
 using namespace tessary;
 
 void CPtrnDisp::MoveWindow1(POINT pt)

@@ -9,6 +9,7 @@
 #include "window/WindowCodes.h"
 
 #include <gdk/gdkkeysyms.h>
+#include <gtk/gtk.h>
 
 using namespace tessary;
 

@@ -1,7 +1,7 @@
 // Toolkit handlers beside those that window/PtrnDisp.h declares.
 #pragma once
 
-#include <gtk/gtk.h>
+#include "draw/ToolkitTypes.h"
 
 class CPtrnDisp;
 

@@ -1,6 +1,7 @@
 #include "window/Manager.h"
 
 #include <gdk/gdkx.h>
+#include <gtk/gtk.h>
 
 namespace tessary
 {

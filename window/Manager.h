@@ -1,7 +1,7 @@
 // What depends on whether a window manager runs.
 #pragma once
 
-#include <gtk/gtk.h>
+#include "draw/ToolkitTypes.h"
 
 namespace tessary
 {

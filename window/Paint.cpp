@@ -10,6 +10,7 @@
 #include "window/WindowCodes.h"
 
 #include <algorithm>
+#include <gtk/gtk.h>
 
 using namespace tessary;
 

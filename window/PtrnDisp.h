@@ -4,9 +4,9 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 #include "draw/DrawCntl.h"
+#include "draw/ToolkitTypes.h"
 #include "pattern/PtrnData.h"
 
-#include <gtk/gtk.h>
 #include <memory>
 
 /// Key cursor: ticks shown and ticks hidden.

@@ -4,6 +4,7 @@
 #include "window/Slots.h"
 
 #include <algorithm>
+#include <gtk/gtk.h>
 #include <utility>
 #include <vector>
 

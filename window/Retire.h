@@ -2,8 +2,9 @@
 // can be on the stack. And what a window object that is deleted leaves behind in others.
 #pragma once
 
+#include "draw/ToolkitTypes.h"
+
 #include <cstddef>
-#include <gtk/gtk.h>
 
 class CPtrnDisp;
 

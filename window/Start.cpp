@@ -9,6 +9,7 @@
 #include "window/Retire.h"
 
 #include <algorithm>
+#include <gtk/gtk.h>
 
 using namespace tessary;
 
