@@ -7,7 +7,7 @@
 #include "config/FileCntl.h"
 #include "config/Settings.h"
 #include "window/FieldText.h"
-#include "window/KeyText.h"
+#include "window/KeyValue.h"
 #include "window/MaintenanceWnd.h"
 
 #include <limits>

@@ -10,14 +10,6 @@ namespace tessary
 
 constexpr int KEYTEXT_SIZE = 256;
 
-// Navigation flags of a field: which keys end the input.
-enum Navigation {
-    NAV_UP = 1,
-    NAV_DOWN = 2,
-    NAV_LEFT = 4,  ///< Left at the start
-    NAV_RIGHT = 8, ///< Right at the end
-};
-
 /// Field length in bytes, held within what an edited text can be.
 int KeyFieldWidth(const PTRNDATA& item);
 

@@ -15,7 +15,8 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice navigationNames[] = {{"up", 1}, {"down", 2}, {"left", 4}, {"right", 8}};
+constexpr ParmChoice navigationNames[] = {
+    {"up", NAV_UP}, {"down", NAV_DOWN}, {"left", NAV_LEFT}, {"right", NAV_RIGHT}};
 
 // What the three text types share.
 constexpr ParmSchema color = parm("color", TEXT_COLOR4).color().perState().help("the text");

@@ -16,7 +16,15 @@ enum TextParm {
     FIELD_ZEROFILL = 19,
     FIELD_GROUPING = 20,
     FIELD_HEX = 21,
-    FIELD_NAVIGATION = 27, ///< 1 Up, 2 Down, 4 Left, 8 Right end the input
+    FIELD_NAVIGATION = 27, ///< Navigation
+};
+
+/// The bits of FIELD_NAVIGATION: which keys end the input.
+enum Navigation {
+    NAV_UP = 1,
+    NAV_DOWN = 2,
+    NAV_LEFT = 4,  ///< Left at the start
+    NAV_RIGHT = 8, ///< Right at the end
 };
 
 } // namespace tessary

@@ -6,7 +6,7 @@
 #include "app/WireTable.h"
 #include "tests/app/SampleScreen.h"
 #include "tests/app/WireFile.h"
-#include "window/KeyText.h"
+#include "window/KeyValue.h"
 
 /// Fixture. The form is the application window; the table is its child window in slot 1.
 class TableScreens : public SampleScreen
