@@ -4,10 +4,6 @@
 #include "app/Input.h"
 #include "app/Places.h"
 #include "app/WireTable.h"
-#include "comndata/ComnData.h"
-#include "comndata/ItemState.h"
-#include "window/FieldText.h"
-#include "window/KeyText.h"
 
 #include <algorithm>
 

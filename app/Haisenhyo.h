@@ -1,7 +1,7 @@
 // The wiring table's own window: fifteen lines of the table, sorted by any column, edited cell by cell.
 #pragma once
 
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 class CHaisenhyo : public CPtrnDisp
 {

@@ -1,7 +1,6 @@
 #include "app/Places.h"
 
 #include "app/Cells.h"
-#include "window/PtrnDisp.h"
 
 namespace
 {

@@ -1,9 +1,7 @@
 // Where the items of a screen lie, and the windows that the test screens open beside them.
 #pragma once
 
-#include "base/Types.h"
-
-class CPtrnDisp;
+#include "tessary.h"
 
 /// Rectangle of the item of a data number and type, in pattern coordinates; empty when the pattern has none.
 RECT ItemRect(CPtrnDisp& wnd, int dataNo, int type);

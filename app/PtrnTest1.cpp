@@ -1,8 +1,5 @@
 #include "app/PtrnTest1.h"
 
-#include "comndata/ComnData.h"
-#include "comndata/ItemState.h"
-
 namespace
 {
 constexpr int kBlinkTicks = 50;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Cells.h"
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 class CPtrnTest1 : public CPtrnDisp
 {

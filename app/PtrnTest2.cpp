@@ -2,8 +2,6 @@
 
 #include "app/Cells.h"
 #include "app/Places.h"
-#include "comndata/ComnData.h"
-#include "comndata/ItemState.h"
 
 namespace
 {

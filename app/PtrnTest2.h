@@ -2,7 +2,7 @@
 // and a popup menu.
 #pragma once
 
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 class CPtrnTest2 : public CPtrnDisp
 {

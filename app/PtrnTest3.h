@@ -2,7 +2,7 @@
 // table itself.
 #pragma once
 
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 class CPtrnTest3 : public CPtrnDisp
 {

@@ -1,7 +1,7 @@
 // Test screen "graphs": a trend that the screen class draws itself, in the frame of an item.
 #pragma once
 
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 #include <random>
 

@@ -3,8 +3,6 @@
 #include "app/Cells.h"
 #include "app/Input.h"
 #include "app/Places.h"
-#include "comndata/ComnData.h"
-#include "comndata/ItemState.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // Test screen "mouse": which button, modifier key and item the pointer meets.
 #pragma once
 
-#include "window/PtrnDisp.h"
+#include "tessary.h"
 
 class CPtrnTest5 : public CPtrnDisp
 {

@@ -1,5 +1,5 @@
 // Which screen class shows which pattern.
-#include "window/Registry.h"
+#include "tessary.h"
 
 #include "app/Haisenhyo.h"
 #include "app/PtrnTest1.h"

@@ -1,8 +1,6 @@
 // The sample application's hooks: a generator of moving values for the test screens.
 #include "app/Cells.h"
-#include "comndata/ComnData.h"
-#include "comndata/ItemState.h"
-#include "window/Registry.h"
+#include "tessary.h"
 
 namespace
 {

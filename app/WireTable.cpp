@@ -1,9 +1,5 @@
 #include "app/WireTable.h"
 
-#include "config/FileCntl.h"
-#include "config/Settings.h"
-#include "log/Logfile.h"
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>

@@ -5,8 +5,7 @@
 // is taken as it is.
 #pragma once
 
-#include "base/EucText.h"
-#include "base/Types.h"
+#include "tessary.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,5 @@
 // Which window class shows which screen, and what the program does on its own.
-#include "comndata/ComnData.h"
-#include "window/PtrnDisp.h"
-#include "window/Registry.h"
+#include "tessary.h"
 
 #include <cstring>
 
