@@ -47,6 +47,6 @@ build_preset() {
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libyaml-cpp-dev libcli11-dev)
 RUN_PACKAGES=(locales xfonts-base xfonts-intl-japanese xfonts-intl-japanese-big fonts-droid-fallback)
 HEADLESS_PACKAGES=(xvfb xdotool scrot)
-TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev xvfb openbox)
+TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev libncurses-dev clang xvfb openbox)
 
 log=$(mktemp -t tessary-setup.XXXXXX)
