@@ -17,6 +17,9 @@ constexpr int PROFILE_FIELD_MAX = 99;
 /// Bytes that such a field takes when it is read.
 constexpr int PROFILE_FIELD_SIZE = PROFILE_FIELD_MAX + 1;
 
+/// Longest line of a profile in bytes; the rest of a longer one is the next line.
+constexpr int PROFILE_LINE_MAX = 256;
+
 /// Buffers for the text of a cell or of a number, terminator included.
 constexpr int TEXT_BUFFER = 256;
 

@@ -6,11 +6,8 @@
 #include "config/ProfileField.h"
 #include "config/ProfileImage.h"
 
-#include <algorithm>
-#include <climits>
 #include <cstdarg>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <sys/uio.h>
@@ -66,7 +63,7 @@ void StoreField(int kind, const char* field, void* target)
         CopyText(static_cast<char*>(target), SIZE_FIELDTEXT + 1, field);
         break;
     case FIELD_INTEGER:
-        StoreNumber(target, static_cast<int>(std::min<long>(std::strtol(field, nullptr, 10), INT_MAX)));
+        StoreNumber(target, FieldInteger(field));
         break;
     case FIELD_HEXA:
         StoreNumber(target, static_cast<WORD>(atoh(field)));

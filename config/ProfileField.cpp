@@ -4,7 +4,9 @@
 #include "config/Profile.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 using namespace tessary;
@@ -93,6 +95,11 @@ void CheckBuffer(int kind, char (&field)[SIZE_FIELD])
     }
     if (!accepted)
         field[0] = '\0';
+}
+
+int FieldInteger(const char* field)
+{
+    return static_cast<int>(std::min<long>(std::strtol(field, nullptr, 10), INT_MAX));
 }
 
 void itoa(int value, char (&text)[SIZE_FIELD])

@@ -1,6 +1,7 @@
 // The fields of a profile value: splitting, checks and conversions. For the profile module and its tests.
 #pragma once
 
+#include "base/Limits.h"
 #include "base/Types.h"
 
 namespace tessary
@@ -10,7 +11,7 @@ namespace tessary
 constexpr int SIZE_FIELD = 256;
 
 /// Bytes that a text field keeps when it is read.
-constexpr int SIZE_FIELDTEXT = 99;
+constexpr int SIZE_FIELDTEXT = tessary::PROFILE_FIELD_MAX;
 
 /// What a format letter stands for. No letter stands for a float; `f` is hexadecimal.
 enum FieldKind {
@@ -32,6 +33,9 @@ int GetFormat(int i, const char* format);
 /// Empties a field that holds a character which its kind does not allow (a sign is allowed in none) and
 /// cuts a text at SIZE_FIELDTEXT bytes.
 void CheckBuffer(int kind, char (&field)[tessary::SIZE_FIELD]);
+
+/// The number of a field that CheckBuffer has let pass as FIELD_INTEGER; at most INT_MAX, 0 when empty.
+int FieldInteger(const char* field);
 
 /// "%d".
 void itoa(int value, char (&text)[tessary::SIZE_FIELD]);

@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "config/FileCntl.h"
 #include "config/FileReport.h"
+#include "config/ProfileText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -21,29 +22,9 @@ int ProfSize = 0;                 // bytes in ProfBuff
 int ProfPont = 0;                 // offset of the current line
 int ProfLeng = 0;                 // bytes of the current line, its line feed included
 
-bool IsBlank(char byte)
-{
-    return byte == ' ' || byte == '\t';
-}
-
-bool BeginsWith(const char* line, const std::string& text)
-{
-    return std::strncmp(line, text.c_str(), text.size()) == 0;
-}
-
-std::string HeaderText(const char* section)
-{
-    return std::string("[") + section + "]";
-}
-
-std::string KeyText(const char* key)
-{
-    return std::string(key) + "=";
-}
-
 std::string KeyLine(const char* key, const char* value)
 {
-    return KeyText(key) + value + "\n";
+    return KeyBegin(key) + value + "\n";
 }
 
 // Makes a new image in which `text` stands in place of `removed` bytes at `from`.
@@ -101,7 +82,7 @@ void ReadProfile(const char* section, const char* key, char (&value)[SIZE_FIELD]
 
 int WriteProfile(const char* section, const char* key, const char* value)
 {
-    const std::size_t added = HeaderText(section).size() + 1 + KeyLine(key, value).size();
+    const std::size_t added = SectionBegin(section).size() + 1 + KeyLine(key, value).size();
     if (added > static_cast<std::size_t>(SIZE_PROFILE - ProfSize))
         return 0;
 
@@ -127,7 +108,7 @@ int SectionSearch(const char* section)
     ProfileReadInit();
     if (!*section)
         return 0;
-    const std::string header = HeaderText(section);
+    const std::string header = SectionBegin(section);
     char line[SIZE_PROFLINE + 1];
     while (ProfileReadLine(line))
         if (BeginsWith(line, header))
@@ -141,7 +122,7 @@ int KeynameSearch(const char* key, char* value)
         value[0] = '\0';
     if (!*key)
         return 0;
-    const std::string name = KeyText(key);
+    const std::string name = KeyBegin(key);
     char line[SIZE_PROFLINE + 1];
     while (ProfileReadLine(line)) {
         if (BeginsWith(line, name)) {
@@ -149,7 +130,7 @@ int KeynameSearch(const char* key, char* value)
                 CopyText(value, SIZE_FIELD, line + name.size());
             return 1;
         }
-        if (line[0] == '[')
+        if (IsSectionLine(line))
             break;
     }
     return 0;
@@ -160,7 +141,7 @@ void SectionInsert(const char* section)
     ProfileReadInit();
     if (!*section)
         return;
-    const std::string header = HeaderText(section) + "\n";
+    const std::string header = SectionBegin(section) + "\n";
     ProfPont = ProfSize;
     ProfLeng = static_cast<int>(header.size());
     ReplaceBytes(ProfPont, 0, header);
@@ -195,21 +176,7 @@ int ProfileReadLine(char (&line)[SIZE_PROFLINE + 1])
     if (!ProfBuff)
         return 0;
     ProfPont += ProfLeng;
-    ProfLeng = 0;
-    if (ProfPont >= ProfSize)
-        return 0;
-
-    int length = 0;
-    const int most = std::min(ProfSize - ProfPont, SIZE_PROFLINE);
-    while (ProfLeng < most) {
-        const char byte = ProfBuff.get()[ProfPont + ProfLeng++];
-        if (byte == '\0' || byte == '\n')
-            break;
-        // The rest of the line is consumed behind this terminator, where it can not be seen.
-        line[length++] = byte == ';' ? '\0' : byte;
-    }
-    line[length] = '\0';
-    for (std::size_t last = std::strlen(line); last-- > 1 && IsBlank(line[last]);)
-        line[last] = '\0';
-    return 1;
+    ProfLeng =
+        ProfPont < ProfSize ? TakeProfileLine(ProfBuff.get() + ProfPont, ProfSize - ProfPont, line) : 0;
+    return ProfLeng > 0;
 }

@@ -5,13 +5,14 @@
 // operations work on the current line. Names and values are terminated texts, never null.
 #pragma once
 
+#include "base/Limits.h"
 #include "config/ProfileField.h"
 
 namespace tessary
 {
 
 /// Longest line in bytes; the rest of a longer one is the next line.
-constexpr int SIZE_PROFLINE = 256;
+constexpr int SIZE_PROFLINE = tessary::PROFILE_LINE_MAX;
 
 /// Longest profile file in bytes.
 constexpr int SIZE_PROFILE = 64 * 1024 * 1024;

@@ -1,9 +1,9 @@
 #include "tools/ptn/compiled/Compiled.h"
 
 #include "base/EucText.h"
+#include "config/ProfileText.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/common/Files.h"
-#include "tools/ptn/model/IniText.h"
 #include "tools/ptn/source/Sections.h"
 
 #include <algorithm>
@@ -59,7 +59,7 @@ fs::path FindProfile(const fs::path& folder)
     const std::vector<fs::path> profiles = FilesOf(folder.parent_path(), ".ini");
     for (const fs::path& profile : profiles) {
         std::error_code missing;
-        const std::map<std::string, std::string> keys = IniKeys(ReadBytes(profile).value_or(""), "TESSARY");
+        const auto keys = tessary::ProfileValues(ReadBytes(profile).value_or(""), "TESSARY");
         const auto project = keys.find("PROJECT");
         if (project != keys.end() && fs::equivalent(folder.parent_path() / project->second, folder, missing))
             return profile;

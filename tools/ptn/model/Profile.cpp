@@ -1,23 +1,20 @@
 #include "tools/ptn/model/Profile.h"
 
 #include "base/EucText.h"
+#include "config/ProfileText.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
-#include "tools/ptn/model/IniText.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace ptn
 {
 
+using namespace tessary;
+
 namespace
 {
-
-/// What the profile reader keeps of a field and of a line.
-constexpr std::size_t MAX_FIELD = 99;
-constexpr std::size_t MAX_LINE = 256;
 
 /// Fonts of one language are numbered in blocks of this size.
 constexpr int FONTS_PER_LANGUAGE = CONT_FONT;
@@ -34,28 +31,21 @@ bool IsName(const std::string& name)
 
 bool FitsField(const std::string& value)
 {
-    return value.size() <= MAX_FIELD && value.find_first_of(std::string(",;\n\0", 4)) == std::string::npos;
+    return value.size() <= PROFILE_FIELD_MAX &&
+           value.find_first_of(std::string(",;\n\0", 4)) == std::string::npos;
 }
 
-// The lines of the remembered window positions in a profile that the program has written to. Only the
-// first section of a name counts, and bytes of an older, longer profile may follow the last line.
+// The remembered window positions in a profile that the program has written to; bytes of an older, longer
+// profile may follow them.
 std::string RememberedWindows(const std::string& profile)
 {
-    std::istringstream lines(profile);
     std::string kept;
-    bool inside = false;
-    const std::string header = "[" + WINDOW_SECTION + "]";
-    for (std::string line; std::getline(lines, line);) {
-        const bool begins = !line.empty() && line[0] == '[';
-        if (inside && begins)
-            break;
-        if (begins)
-            inside = line.compare(0, header.size(), header) == 0;
-        else if (inside && line.compare(0, WINDOW_SECTION.size(), WINDOW_SECTION) == 0 &&
-                 line.find('=') != std::string::npos)
-            kept += line + "\n";
-    }
-    return kept.empty() ? "" : header + "\n" + kept;
+    for (const ProfileSection& section : ParseProfile(profile))
+        if (section.name == WINDOW_SECTION)
+            for (const ProfileKey& key : section.keys)
+                if (BeginsWith(key.name.c_str(), WINDOW_SECTION))
+                    kept += KeyBegin(key.name) + key.value + "\n";
+    return kept.empty() ? "" : SectionBegin(WINDOW_SECTION) + "\n" + kept;
 }
 
 } // namespace
@@ -90,7 +80,8 @@ void ProfileSource::readKey(const std::string& section, const Entry& entry, Diag
     std::string value;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const auto text = Text(fields[i], what, diagnostics);
-        const auto field = text ? ToEuc(*text, MAX_FIELD, what, entry.place, diagnostics) : std::nullopt;
+        const auto field =
+            text ? ToEuc(*text, PROFILE_FIELD_MAX, what, entry.place, diagnostics) : std::nullopt;
         if (!field)
             return;
         if (!FitsField(*field) || (!field->empty() && field->back() == ' ')) {
@@ -101,9 +92,9 @@ void ProfileSource::readKey(const std::string& section, const Entry& entry, Diag
         }
         value += (i ? "," : "") + *field;
     }
-    if (entry.name.size() + 1 + value.size() > MAX_LINE) {
+    if (KeyBegin(entry.name).size() + value.size() > PROFILE_LINE_MAX) {
         diagnostics.error(entry.place, what + " is longer than a line of the profile. Shorten it to " +
-                                           std::to_string(MAX_LINE) + " bytes.");
+                                           std::to_string(PROFILE_LINE_MAX) + " bytes.");
         return;
     }
     keys_.push_back({section, entry.name, value, entry.place});
@@ -146,7 +137,7 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
 
     std::string bytes;
     for (const std::string& section : sections) {
-        bytes += "[" + section + "]\n";
+        bytes += SectionBegin(section) + "\n";
         for (const Key& key : keys) {
             if (key.section != section)
                 continue;
@@ -162,7 +153,7 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
                                             ". Start the program in this folder.");
                 }
             }
-            bytes += key.name + "=" + value + "\n";
+            bytes += KeyBegin(key.name) + value + "\n";
         }
     }
     return bytes + RememberedWindows(before);
@@ -172,11 +163,11 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
                                                const std::string& project, const std::string& file)
 {
     std::map<int, std::string> fonts;
-    for (const IniSection& section : ParseIni(bytes)) {
+    for (const ProfileSection& section : ParseProfile(bytes)) {
         if (section.name == WINDOW_SECTION)
             continue;
         sections_.push_back(section.name);
-        for (const IniKey& key : section.keys) {
+        for (const ProfileKey& key : section.keys) {
             const int font = section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
                                  ? ParseInteger(key.name.substr(FONT_KEY.size())).value_or(-1)
                                  : -1;
@@ -208,7 +199,7 @@ std::string ProfileSource::yaml() const
             if (key.section != section)
                 continue;
             std::vector<std::string> fields;
-            for (const std::string& field : IniFields(key.value))
+            for (const std::string& field : ProfileFields(key.value))
                 fields.push_back(YamlScalar(EucToUtf8(field)));
             keys += "    " + YamlScalar(key.name) + ": " +
                     (fields.size() == 1 ? fields[0] : YamlList(fields)) + "\n";

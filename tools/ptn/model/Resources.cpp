@@ -1,5 +1,6 @@
 #include "tools/ptn/model/Resources.h"
 
+#include "base/Limits.h"
 #include "tools/ptn/common/Bytes.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
@@ -15,9 +16,6 @@ namespace ptn
 
 namespace
 {
-
-/// What the profile reader keeps of a field.
-constexpr std::size_t MAX_PROFILE_FIELD = 99;
 
 constexpr const char* builtinMarks[CONT_BUILTINMARK] = {"radio-off", "radio-on", "check-off", "check-on"};
 
@@ -92,7 +90,8 @@ void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
         const Subject what = "font " + Quoted(entry.name);
         const auto names = Texts(entry.value, what, diagnostics);
         for (std::size_t language = 0; names && language < names->size(); ++language) {
-            const auto name = ToEuc((*names)[language], MAX_PROFILE_FIELD, what, entry.place, diagnostics);
+            const auto name =
+                ToEuc((*names)[language], tessary::PROFILE_FIELD_MAX, what, entry.place, diagnostics);
             if (!name)
                 continue;
             if (name->find_first_of(",;") != std::string::npos) {

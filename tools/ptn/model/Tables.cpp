@@ -1,9 +1,11 @@
 #include "tools/ptn/model/Tables.h"
 
 #include "base/EucText.h"
+#include "config/Profile.h"
+#include "config/ProfileField.h"
+#include "config/ProfileText.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
-#include "tools/ptn/model/IniText.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -12,12 +14,11 @@
 namespace ptn
 {
 
+using namespace tessary;
+
 namespace
 {
 
-/// What the profile reader keeps of a field and of a line.
-constexpr std::size_t MAX_FIELD = 99;
-constexpr std::size_t MAX_LINE = 256;
 constexpr int MAX_LIMIT = 0xFFFF;
 
 std::string Field(const std::vector<std::string>& fields, std::size_t no)
@@ -25,18 +26,23 @@ std::string Field(const std::vector<std::string>& fields, std::size_t no)
     return no < fields.size() ? fields[no] : "";
 }
 
-// As the reader converts it: digits only, or 0.
+// What the program reads from a field that is to be of that kind.
+std::string Accepted(FieldKind kind, const std::string& text)
+{
+    char field[SIZE_FIELD];
+    CopyText(field, text.c_str());
+    CheckBuffer(kind, field);
+    return field;
+}
+
 int Number(const std::string& field)
 {
-    const bool digits = !field.empty() && field.find_first_not_of("0123456789") == std::string::npos;
-    return digits ? ParseInteger(field).value_or(0) : 0;
+    return FieldInteger(Accepted(FIELD_INTEGER, field).c_str());
 }
 
 int HexNumber(const std::string& field)
 {
-    const bool digits =
-        !field.empty() && field.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
-    return digits ? std::stoi(field.substr(0, 4), nullptr, 16) : 0;
+    return atoh(Accepted(FIELD_HEXA, field).c_str());
 }
 
 std::string HexText(int value)
@@ -69,7 +75,7 @@ void MessageTable::read(const Source& section, const CodeTable& codes, Diagnosti
             continue;
         Row row;
         for (std::size_t language = 0; language < row.texts.size(); ++language) {
-            const auto text = ToEuc((*texts)[language], MAX_FIELD, what, entry.place, diagnostics);
+            const auto text = ToEuc((*texts)[language], PROFILE_FIELD_MAX, what, entry.place, diagnostics);
             row.texts.at(language) = text.value_or("");
             if (text && text->find_first_of(",;") != std::string::npos)
                 diagnostics.error(entry.place, what + " has ',' or ';' in it, which ends a field of the "
@@ -87,7 +93,7 @@ void MessageTable::read(const Source& section, const CodeTable& codes, Diagnosti
         std::size_t length = 16 + row.code.size();
         for (const std::string& text : row.texts)
             length += text.size() + 1;
-        if (length > MAX_LINE)
+        if (length > PROFILE_LINE_MAX)
             diagnostics.error(entry.place, what + " is longer than a line of the table with its three "
                                                   "languages. Shorten it.");
     }
@@ -105,11 +111,11 @@ std::string MessageTable::bytes() const
 
 void MessageTable::load(const std::string& bytes)
 {
-    for (const auto& key : IniKeys(bytes, "MESGDATA")) {
+    for (const auto& key : ProfileValues(bytes, "MESGDATA")) {
         const std::optional<int> number = KeyNumber(key.first, "MESG");
         if (!number)
             continue;
-        const std::vector<std::string> fields = IniFields(key.second);
+        const std::vector<std::string> fields = ProfileFields(key.second);
         rows_[*number] = {Field(fields, 0),
                           Number(Field(fields, 1)),
                           {Field(fields, 2), Field(fields, 3), Field(fields, 4)}};
@@ -216,11 +222,11 @@ std::string LimitTable::bytes() const
 
 void LimitTable::load(const std::string& bytes)
 {
-    for (const auto& key : IniKeys(bytes, "LIMTDATA")) {
+    for (const auto& key : ProfileValues(bytes, "LIMTDATA")) {
         const std::optional<int> number = KeyNumber(key.first, "LIMT");
         if (!number)
             continue;
-        const std::vector<std::string> fields = IniFields(key.second);
+        const std::vector<std::string> fields = ProfileFields(key.second);
         rows_[*number] = {Field(fields, 0),
                           {Number(Field(fields, 1)), Number(Field(fields, 2))},
                           {HexNumber(Field(fields, 3)), HexNumber(Field(fields, 4))},

@@ -1,6 +1,7 @@
 #include "tools/ptn/source/ScreenSource.h"
 
 #include "base/EucText.h"
+#include "base/Limits.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
@@ -14,6 +15,8 @@
 
 namespace ptn
 {
+
+using tessary::COORDINATE_MAX;
 
 namespace
 {
@@ -155,10 +158,11 @@ void ScreenReader::readWindow(const Source& source)
     if (!unnamed.isEmpty())
         ReadParm(unnamed, label, pattern_.header.Parm1, diagnostics_);
     for (const int side : {HEDR_WIDTH, HEDR_HEIGHT})
-        if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > 32767)
+        if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > COORDINATE_MAX)
             diagnostics_.error(source.place(), label + " has a side of " +
                                                    std::to_string(pattern_.header.Parm1[side]) +
-                                                   " pixels. Write a 'size' from 1 to 32767.");
+                                                   " pixels. Write a 'size' from 1 to " +
+                                                   std::to_string(COORDINATE_MAX) + ".");
 }
 
 void ScreenReader::readParm2(const Source& source)

@@ -1,6 +1,7 @@
 #include "tools/ptn/source/StateFile.h"
 
 #include "base/Constants.h"
+#include "base/Limits.h"
 #include "log/Clock.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
@@ -14,7 +15,7 @@ namespace ptn
 namespace
 {
 
-constexpr std::size_t LONGEST_TEXT = 255;
+constexpr std::size_t LONGEST_TEXT = tessary::TEXT_BUFFER - 1;
 
 std::array<int, 7> ReadClock(const Source& source, const std::array<int, 7>& before, Diagnostics& diagnostics)
 {
