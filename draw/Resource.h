@@ -70,8 +70,8 @@ extern const int MarkYsize[tessary::CONT_MARKGROUP];
 
 namespace tessary
 {
-/// Size of a mark in pixels. The built-in marks, and any number that is none, are as large as the smallest cell
-/// that radio buttons and check boxes draw them in: 16 by 16.
+/// Size of a mark in pixels. The built-in marks, and any number that is none, are as large as the smallest
+/// cell that radio buttons and check boxes draw them in: 16 by 16.
 SIZE MarkSize(int mark);
 } // namespace tessary
 

@@ -47,6 +47,7 @@ build_preset() {
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libyaml-cpp-dev libcli11-dev)
 RUN_PACKAGES=(locales xfonts-base xfonts-intl-japanese xfonts-intl-japanese-big fonts-droid-fallback)
 HEADLESS_PACKAGES=(xvfb xdotool scrot)
-TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev libncurses-dev clang xvfb openbox)
+TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev libncurses-dev clang
+    xvfb openbox clang-format clang-tidy git)
 
 log=$(mktemp -t tessary-setup.XXXXXX)

@@ -76,6 +76,10 @@ changed_sources() {
 }
 
 if [ -n "$budget" ]; then
+    if ! has_git; then
+        echo "clang-tidy: git knows nothing of this folder, so nothing has changed."
+        exit 0
+    fi
     [ -n "$base" ] || base=$(find_base)
     if [ -z "$base" ]; then
         echo "clang-tidy: there is only one commit here, so nothing has changed."

@@ -309,7 +309,7 @@ TEST_F(Operator, never_sees_the_trend_cleared)
                 EXPECT_EQ(series, count[0]) << "picture " << seen << " is half drawn";
             }
             before = count[0];
-            return redrawn > 8;
+            return redrawn > 8 && seen > redrawn; // a busy machine may look once a sample for a while
         },
         "the trend to go on"));
     EXPECT_GT(seen, redrawn) << "not looked at often enough";

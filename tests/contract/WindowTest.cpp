@@ -85,8 +85,8 @@ TEST(Contract, declares_the_hooks_and_what_they_do_by_themselves)
     }
 }
 
-/// Place of a virtual function among those of its class, as the compilers of this platform keep it in a pointer
-/// to member: in units of a table entry, with a mark in the lowest bit or beside it.
+/// Place of a virtual function among those of its class, as the compilers of this platform keep it in a
+/// pointer to member: in units of a table entry, with a mark in the lowest bit or beside it.
 template <class Function> std::size_t slotOf(Function CPtrnDisp::*hook)
 {
     std::size_t place = 0;

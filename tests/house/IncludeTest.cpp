@@ -23,8 +23,6 @@ struct Exception {
 };
 
 constexpr Exception exceptions[] = {
-    {"tools/ptn/model/Wiring.cpp: \"app/WireTable.h\" is above tools/ptn/model",
-     "the section of the wiring table is built into the tool"},
     {"comndata/ComnData, comndata/ItemState, comndata/LimtData, comndata/MesgData, comndata/PtrnCode: a "
      "circle",
      "ComnDataInit opens the tables too, and those stand on the cells"},

@@ -38,8 +38,7 @@ class SampleVariants : public Sample
     /// Names the combinations that no item of the type is of, each with one variant of every alternative.
     Names missing(int type, const std::vector<Alternative>& alternatives) const
     {
-        std::vector<Variant> combined = {
-            {FindItemClass(type)->name, [](const SampleItem&) { return true; }}};
+        std::vector<Variant> combined = {{FindItemClass(type)->name, [](const SampleItem&) { return true; }}};
         for (const Alternative& alternative : alternatives) {
             std::vector<Variant> longer;
             for (const Variant& start : combined)

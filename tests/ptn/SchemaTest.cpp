@@ -1,6 +1,6 @@
 // The schema of item and header parameters: nothing in it may contradict itself or the records.
-#include "pattern/ItemParm.h"
 #include "pattern/ActionTable.h"
+#include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
 
 #include <gtest/gtest.h>

@@ -24,7 +24,6 @@ class Placement
     bool finish(PatternItem& item, const ItemClass& schema, const Resources& resources, const Subject& label,
                 Diagnostics& diagnostics);
 
-
     /// Whether corners that are moved that far are still coordinates.
     static bool reaches(const std::int32_t* parm, long long dx, long long dy);
 
