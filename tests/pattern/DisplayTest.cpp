@@ -121,7 +121,7 @@ TEST_F(Display, of_one_pass_draws_its_items_only)
 TEST_F(Display, passes_over_items_of_unknown_type)
 {
     Pattern pattern("p");
-    pattern.item(0, 0, 0, 50, 50).code("A").item(PTRN_END, 0, 0, 50, 50).code("A");
+    pattern.item(0, 0, 0, 50, 50).code("A").item(CONT_PTRN + 1, 0, 0, 50, 50).code("A");
     load(pattern);
     set(1, 1.0F);
 

@@ -125,7 +125,7 @@ TEST_F(ItemHit, is_never_an_item_of_another_pass_or_type)
              .item(PTRN_RECT, 0, 0, 99, 99)
              .action(1)
              .top(-1)
-             .item(PTRN_END, 0, 0, 99, 99)
+             .item(CONT_PTRN + 1, 0, 0, 99, 99)
              .action(1)
              .item(0, 0, 0, 99, 99)
              .action(1));
