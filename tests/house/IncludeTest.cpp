@@ -23,16 +23,10 @@ struct Exception {
 };
 
 constexpr Exception exceptions[] = {
-    {"comndata/ComnData, comndata/ItemState, comndata/LimtData, comndata/MesgData, comndata/PtrnCode: a "
-     "circle",
-     "ComnDataInit opens the tables too, and those stand on the cells"},
     {"config/FileCntl, config/FileReport, config/FileStream, config/PathName: a circle",
      "FileCntl.h declares the functions of paths and reports too"},
     {"config/Profile, config/ProfileField, config/ProfileImage: a circle",
      "Profile.h declares what reads fields too"},
-    {"draw/Images, draw/Resource: a circle", "DrawCntlInit loads both, and the pictures need its colours"},
-    {"window/Request, window/Retire: a circle",
-     "a request retires windows, and Retire looks at the two slots"},
 };
 
 /// A made-up tree of sources.
