@@ -5,13 +5,16 @@
 #include "config/Settings.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
+#include "pattern/PatternRecords.h"
 #include "pattern/PtrnData.h"
 #include "pattern/PtrnHedr.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <string>
+#include <vector>
+
+using namespace tessary;
 
 using namespace tessary;
 
@@ -40,29 +43,18 @@ class PatternFile
                reader_.ReadBlock(header, sizeof *header, 0, nullptr, 0) == 1;
     }
 
-    /// Number of item records that are there.
-    int itemCount(int claimed)
+    /// The items, as far as they are there.
+    std::vector<PatternRecord> readItems(const HEDRFILE& header)
     {
-        const int room = (size_ - static_cast<int>(sizeof(HEDRFILE))) / static_cast<int>(sizeof(PTRNFILE));
-        return believe("Item Count", claimed, room);
-    }
-
-    PTRNFILE readItem()
-    {
-        PTRNFILE record;
-        reader_.ReadBlock(&record, sizeof record, 0, nullptr, 0);
-        return record;
-    }
-
-    std::string readTexts(int claimed, int items)
-    {
-        const int room =
-            size_ - static_cast<int>(sizeof(HEDRFILE)) - items * static_cast<int>(sizeof(PTRNFILE));
-        const int size = believe("Text Size", claimed, room);
-        std::string block(static_cast<std::size_t>(size), '\0');
-        if (size)
-            reader_.ReadBlock(block.data(), size, 0, nullptr, 0);
-        return block;
+        const int rest = std::max(size_ - static_cast<int>(sizeof header), 0);
+        std::string bytes(static_cast<std::size_t>(rest), '\0');
+        if (rest)
+            reader_.ReadBlock(bytes.data(), rest, 0, nullptr, 0);
+        PatternRecords records = TakePatternRecords(header, bytes);
+        compare("Item Count", header.DataCount, static_cast<int>(records.items.size()));
+        compare("Text Size", header.TextSize, records.textSize);
+        missingTexts_ = records.missingTexts;
+        return std::move(records.items);
     }
 
     /// Copies a text into its field, which keeps whole characters only; `Size` is the field's array.
@@ -75,7 +67,6 @@ class PatternFile
     }
 
     int* cutTexts() { return &cutTexts_; }
-    void missingText() { ++missingTexts_; }
 
     /// One line for all texts of a kind, however many there are.
     void logTexts() const
@@ -87,13 +78,11 @@ class PatternFile
     }
 
   private:
-    int believe(const char* what, int claimed, int room) const
+    void compare(const char* what, int claimed, int found) const
     {
-        const int believed = std::clamp(claimed, 0, room);
-        if (believed != claimed)
+        if (found != claimed)
             LogText("PTRNDATA", __FILE__, __LINE__, "%s Error [%s / %d / %d]", what, name_.c_str(), claimed,
-                    believed);
-        return believed;
+                    found);
     }
 
     std::string name_;
@@ -103,34 +92,9 @@ class PatternFile
     int missingTexts_ = 0;
 };
 
-/// The strings of the text block one after another. A string without its terminator counts as empty, since
-/// what is left of a code could be another code.
-class TextBlock
+PTRNDATA MakeItem(PatternFile& file, const PatternRecord& source, int recd)
 {
-  public:
-    TextBlock(PatternFile& file, std::string block) : file_(file), block_(std::move(block)) {}
-
-    std::string next()
-    {
-        const std::size_t end = block_.find('\0', at_);
-        if (end == std::string::npos) {
-            file_.missingText();
-            at_ = block_.size();
-            return "";
-        }
-        const std::size_t begin = at_;
-        at_ = end + 1;
-        return block_.substr(begin, end - begin);
-    }
-
-  private:
-    PatternFile& file_;
-    std::string block_;
-    std::size_t at_ = 0;
-};
-
-PTRNDATA MakeItem(const PTRNFILE& record, int recd)
-{
+    const PTRNFILE& record = source.record;
     PTRNDATA item{};
     item.Type = record.Type;
     item.ID_Type = record.ID_Type;
@@ -139,19 +103,12 @@ PTRNDATA MakeItem(const PTRNFILE& record, int recd)
     item.Recd = recd;
     item.Rect = SetRect(item.Parm[PARM_X1], item.Parm[PARM_Y1], item.Parm[PARM_X2], item.Parm[PARM_Y2]);
     item.wData = STATE_NEVER;
-    return item;
-}
-
-void SetTexts(PatternFile& file, TextBlock& texts, PTRNDATA* item)
-{
-    const std::array<std::string, 3> shown{texts.next(), texts.next(), texts.next()};
-    const std::string name = texts.next();
-    const std::string code = texts.next();
-    file.copy(item->Text, InLanguage(shown[0], shown[1], shown[2]));
-    file.copy(item->ID_Name, name);
-    file.copy(item->ID_Code, code);
+    file.copy(item.Text, InLanguage(source.texts[0], source.texts[1], source.texts[2]));
+    file.copy(item.ID_Name, source.name);
+    file.copy(item.ID_Code, source.code);
     // The whole code: cut to its field it could be another one.
-    item->DataNo = ConvertDtno(code.c_str(), item->ID_No);
+    item.DataNo = ConvertDtno(source.code.c_str(), item.ID_No);
+    return item;
 }
 
 } // namespace
@@ -186,15 +143,12 @@ int CPtrnData::LoadPtrnData(const char* name)
         return 0;
     PtrnHedr = ConvertHedr(header, file.cutTexts());
 
-    PtrnCont = file.itemCount(header.DataCount);
+    const std::vector<PatternRecord> items = file.readItems(header);
+    PtrnCont = static_cast<int>(items.size());
     if (PtrnCont)
-        PtrnData = new PTRNDATA[static_cast<std::size_t>(PtrnCont)];
+        PtrnData = new PTRNDATA[items.size()];
     for (int i = 0; i < PtrnCont; ++i)
-        PtrnData[i] = MakeItem(file.readItem(), i);
-
-    TextBlock texts(file, file.readTexts(header.TextSize, PtrnCont));
-    for (int i = 0; i < PtrnCont; ++i)
-        SetTexts(file, texts, &PtrnData[i]);
+        PtrnData[i] = MakeItem(file, items[static_cast<std::size_t>(i)], i);
     file.logTexts();
 
     BuildDrawOrder();

@@ -1,10 +1,9 @@
 // A pattern as its file holds it.
 #pragma once
 
-#include "pattern/PtrnFile.h"
+#include "pattern/PatternRecords.h"
 #include "tools/ptn/common/Diagnostics.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,13 +11,9 @@
 namespace ptn
 {
 
-/// Texts are EUC-JP; those of a source are within the lengths of the format.
-struct PatternItem {
-    PTRNFILE record{};
-    std::array<std::string, 3> texts; ///< one per language
-    std::string name;                 ///< ID_Name: the pattern that the action opens
-    std::string code;                 ///< ID_Code
-    bool exact = false;               ///< the source has given values that are taken as they stand
+/// Those of a source have texts within the lengths of the format.
+struct PatternItem : tessary::PatternRecord {
+    bool exact = false; ///< the source has given values that are taken as they stand
     Place place;
 };
 
