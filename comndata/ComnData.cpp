@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "comndata/Cells.h"
 #include "comndata/CodeTable.h"
+#include "comndata/PtrnCode.h"
 #include "log/LogText.h"
 
 #include <algorithm>

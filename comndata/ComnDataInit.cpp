@@ -3,6 +3,10 @@
 #include "comndata/ComnData.h"
 #include "comndata/LimtData.h"
 #include "comndata/MesgData.h"
+#include "comndata/PatternNames.h"
+#include "comndata/PtrnCode.h"
+
+using namespace tessary;
 
 int ComnDataInit()
 {
@@ -14,7 +18,8 @@ int ComnDataInit()
 
 void ComnDataExit()
 {
-    tessary::ExitCodeData();
+    ExitCodeTable();
+    ExitPatternNames();
     ExitMesgData();
     ExitLimtData();
 }

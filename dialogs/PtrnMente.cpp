@@ -1,6 +1,6 @@
 #include "dialogs/PtrnMente.h"
 
-#include "base/EucText.h"
+#include "comndata/CodeTable.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
 #include "comndata/PtrnCode.h"
@@ -56,12 +56,6 @@ int LineAt(int first, int line)
 bool IsListed(int row)
 {
     return row >= 1 && row < PtrnRecd;
-}
-
-/// A code may fill its field to the last byte.
-std::string CodeText(const PTRNCODE& row)
-{
-    return std::string(row.ID_Code, BoundedLength(row.ID_Code, sizeof row.ID_Code));
 }
 
 PTRNCODE* SelectedCode()
@@ -199,7 +193,7 @@ void CPtrnMente::SetDispData1(int first)
         const int row = LineAt(first, line + 1);
         if (!IsListed(row))
             continue;
-        Set_sData(kCodeCell + line, CodeText(PtrnCode[row]).c_str(), nullptr, 0);
+        Set_sData(kCodeCell + line, CodeOf(PtrnCode[row]).c_str(), nullptr, 0);
         Set_wData(kCodeCell + line, row == SlctCode ? 1 : 0, nullptr, 0);
     }
 }
