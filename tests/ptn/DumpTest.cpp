@@ -185,10 +185,23 @@ TEST_F(Dump, of_random_patterns_builds_the_same_bytes)
 {
     sources.base().write("bitmaps/logo.png", "L");
     ASSERT_EQ(sources.build().status, 0);
-    const unsigned seed = 20251121;
-    Random random(seed);
-    for (int i = 0; i < 200; ++i)
-        add(RandomPattern(random, "p" + std::to_string(i)));
+    for (const unsigned seed : {20251121U, 1U, 2U, 3U, 4U, 5U}) {
+        Random random(seed);
+        for (int i = 0; i < 60; ++i)
+            add(RandomPattern(random, "p" + std::to_string(seed) + "-" + std::to_string(i)));
+    }
+    expectRoundTrip();
+}
+
+TEST_F(Dump, of_a_text_with_a_parameter_that_means_nothing_to_it_builds_the_same_bytes)
+{
+    sources.base().screen(
+        "name: a\nwindow: { size: [320, 240] }\nitems:\n"
+        "  - { type: text, at: [16, 60], text: hello, parm: {14: 5} }\n"
+        "  - { type: text, at: [16, 90], text: hello }\n"
+        "  - { type: text, at: [16, 120], text: hello, width: 9, parm: {14: 5} }\n"
+        "  - { type: text, rect: [16, 150, 90, 166], text: hello, exact: {parm: {16: 0}} }\n");
+    ASSERT_EQ(sources.build().status, 0);
     expectRoundTrip();
 }
 

@@ -66,7 +66,9 @@ class ItemWriter
     std::string text();
 
   private:
-    void writePlace(bool attributesSayAll);
+    bool isPlaced() const;
+    bool hasPlainTexts() const;
+    void writePlace(bool exact);
     void writeTexts();
     void writeAction();
     void writeCell();
@@ -82,12 +84,11 @@ class ItemWriter
 };
 
 // What the build works out from attributes it can only do when these say all.
-void ItemWriter::writePlace(bool attributesSayAll)
+void ItemWriter::writePlace(bool exact)
 {
     const std::int32_t* parm = item_.record.Parm;
     const std::vector<int> rect(parm, parm + 4);
-    const bool upright = rect[0] <= rect[2] && rect[1] <= rect[3];
-    if (!attributesSayAll || !upright || !Placement::reaches(parm, 0, 0) || !facts_.fits()) {
+    if (exact) {
         exact_.push_back("rect: " + YamlList(rect));
         return;
     }
@@ -98,19 +99,33 @@ void ItemWriter::writePlace(bool attributesSayAll)
         parts_.push_back("rect: " + YamlList(rect));
 }
 
+// Whether the build takes the corners from the attributes, and could not refuse them.
+bool ItemWriter::isPlaced() const
+{
+    const std::int32_t* parm = item_.record.Parm;
+    const bool upright = parm[PARM_X1] <= parm[PARM_X2] && parm[PARM_Y1] <= parm[PARM_Y2];
+    return upright && Placement::reaches(parm, 0, 0) && facts_.fits();
+}
+
+bool ItemWriter::hasPlainTexts() const
+{
+    bool plain = schema_ && schema_->text != ItemText::None;
+    for (const std::string& text : item_.texts) {
+        plain = plain && IsSourceText(text, SIZE_PTRNTEXT);
+        if (plain && schema_->text == ItemText::BitmapName && !text.empty())
+            plain = project_.bitmaps.count(text) > 0;
+    }
+    return plain;
+}
+
 void ItemWriter::writeTexts()
 {
     std::vector<std::string> texts;
-    bool plain = true;
-    for (const std::string& text : item_.texts) {
+    for (const std::string& text : item_.texts)
         texts.push_back(EucToUtf8(text));
-        plain = plain && IsSourceText(text, SIZE_PTRNTEXT);
-        if (schema_ && schema_->text == ItemText::BitmapName && !text.empty())
-            plain = plain && project_.bitmaps.count(text);
-    }
     if (item_.texts[0].empty() && item_.texts[1].empty() && item_.texts[2].empty())
         return;
-    if (plain && schema_ && schema_->text != ItemText::None) {
+    if (hasPlainTexts()) {
         parts_.push_back("text: " + YamlTexts(texts));
         return;
     }
@@ -156,20 +171,24 @@ std::string ItemWriter::text()
 {
     const int type = item_.record.Type;
     parts_ = {"type: " + (schema_ ? schema_->name : std::to_string(type))};
-    std::set<int> skip = corners;
+    const Parms wanted = ToParms(item_.record.Parm);
     std::vector<std::string> left;
-    // The build measures a text without a width.
-    if (const int measured = schema_ ? schema_->measuredParm : -1;
-        measured >= 0 && before_.at(measured) == 0) {
-        before_.at(measured) = facts_.longestText();
-        if (item_.record.Parm[measured] == 0 && before_.at(measured) != 0) {
-            skip.insert(measured);
-            left.push_back(std::to_string(measured) + ": 0");
-        }
+    const auto attributesFrom = [&](const Parms& before) {
+        left.clear();
+        return AttributeTexts(TablesOf(type), before, wanted, project_.resources, corners, left);
+    };
+    // The build measures a text without a width, unless its corners or texts are exact: those come later.
+    Parms measured = before_;
+    if (schema_ && schema_->measuredParm >= 0 && hasPlainTexts()) {
+        int& width = measured.at(static_cast<std::size_t>(schema_->measuredParm));
+        width = width == 0 ? facts_.longestText() : width;
     }
-    const std::vector<std::string> attributes =
-        AttributeTexts(TablesOf(type), before_, ToParms(item_.record.Parm), project_.resources, skip, left);
-    writePlace(left.empty());
+    std::vector<std::string> attributes = attributesFrom(measured);
+    const bool width0 = measured != before_ && wanted.at(schema_->measuredParm) == 0;
+    const bool exact = !left.empty() || width0 || !isPlaced();
+    if (exact)
+        attributes = attributesFrom(before_);
+    writePlace(exact);
     parts_.insert(parts_.end(), attributes.begin(), attributes.end());
     if (!left.empty())
         exact_.push_back("parm: " + YamlMap(left));
