@@ -10,73 +10,8 @@
 // fails.
 #pragma once
 
-#include <cstdio>
-
-namespace tessary
-{
-
-/// Longest path in bytes that MakePath and SplitPath produce; their results need SIZE_PATH + 1 bytes.
-constexpr int SIZE_PATH = 256;
-
-} // namespace tessary
-
-/// Reads blocks and records of one file. The file is closed with the object, or by the next Open.
-class CFileRead
-{
-  public:
-    FILE* fp = nullptr;      ///< the open file, owned; null when none is open
-    char FileName[255] = {}; ///< name given to Open, without the directory; used in log lines
-
-    CFileRead() = default;
-    /// Opens at once; `fp` stays null when that fails.
-    CFileRead(const char* dir, const char* name, const char* file, int line);
-    ~CFileRead();
-    CFileRead(const CFileRead&) = delete;
-    CFileRead& operator=(const CFileRead&) = delete;
-
-    /// @return 1, or 0 when the file can not be opened for reading
-    int Open(const char* dir, const char* name, const char* file, int line);
-
-    /// Reads exactly `size` bytes. A non-zero `offset` counts from the start of the file; offset 0 reads
-    /// on from the current position.
-    /// @return 1, or -1 when the bytes are not all there; `buffer` is zeros then. A negative size is a
-    /// failure that leaves the buffer alone. Without an open file: -1, zeros, and nothing in the log.
-    int ReadBlock(void* buffer, int size, int offset, const char* file, int line);
-
-    /// Reads `size` bytes at size x number + offset; always seeks, also to 0. Otherwise as ReadBlock.
-    /// A negative number, and a position below 0 or beyond 32 bits, is a failure.
-    int ReadRecord(int number, void* buffer, int size, int offset, const char* file, int line);
-};
-
-/// Writes blocks and records of one file. The file is closed with the object, or by the next Open or Create.
-class CFileWrite
-{
-  public:
-    FILE* fp = nullptr;      ///< the open file, owned; null when none is open
-    char FileName[255] = {}; ///< name given to Open or Create, without the directory; used in log lines
-
-    CFileWrite() = default;
-    /// Opens (does not create) at once; `fp` stays null when that fails.
-    CFileWrite(const char* dir, const char* name, const char* file, int line);
-    ~CFileWrite();
-    CFileWrite(const CFileWrite&) = delete;
-    CFileWrite& operator=(const CFileWrite&) = delete;
-
-    /// Opens an existing file for update; its content stays.
-    /// @return 1, or 0 when it does not exist or can not be written
-    int Open(const char* dir, const char* name, const char* file, int line);
-
-    /// Creates the file, or empties an existing one.
-    /// @return 1 or 0
-    int Create(const char* dir, const char* name, const char* file, int line);
-
-    /// Writes `size` bytes; `offset` as in ReadBlock. The bytes have reached the system on return.
-    /// @return 1, or -1 on failure; without an open file -1 and nothing in the log
-    int WriteBlock(const void* buffer, int size, int offset, const char* file, int line);
-
-    /// Writes `size` bytes at size x number + offset; place and failures as in ReadRecord.
-    int WriteRecord(int number, const void* buffer, int size, int offset, const char* file, int line);
-};
+#include "config/FileClass.h"
+#include "config/FilePath.h"
 
 /// Reads a block of a file that is opened and closed by the call.
 /// @return 1, or -1 with `buffer` zeroed; a file that can not be opened is recorded twice, as a failure
@@ -157,15 +92,3 @@ int DeleteFolder(const char* path, const char* file, int line);
 /// Copies the regular files of a folder, without subfolders, into a folder that is made when missing.
 /// @return 1, or 0 at the first file that can not be copied (an empty file, for example)
 int CopyFolder(const char* srcpath, const char* dstpath, const char* file, int line);
-
-/// Joins directory, name and extension: "dir/name.ext". An empty name gives the directory itself, an empty
-/// directory the bare name; the extension may be given with or without its dot.
-/// @param path  receives the path, cut at SIZE_PATH bytes; SIZE_PATH + 1 bytes; may be one of the parts
-void MakePath(char* path, const char* dir, const char* name, const char* ext);
-
-/// Splits a path: "/x/y/name.tar.gz" into "/x/y", "name" and "tar.gz". The directory is "." when the path
-/// has none and "/" for a file in the root; the name ends at its first dot; of two dots in a row the
-/// second is skipped.
-/// @param dir, base, ext  receive the parts, each cut at SIZE_PATH bytes; SIZE_PATH + 1 bytes each; null
-///                        for a part that is not wanted
-void SplitPath(const char* path, char* dir, char* base, char* ext);

@@ -1,7 +1,7 @@
-// The steps that the reader, the writer and the whole-file functions share.
+// The steps that the reader, the writer (config/FileClass.h) and the whole-file functions share.
 #pragma once
 
-#include "config/FileCntl.h"
+#include "config/FileClass.h"
 #include "config/FileReport.h"
 
 #include <cstdint>

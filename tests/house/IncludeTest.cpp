@@ -23,8 +23,6 @@ struct Exception {
 };
 
 constexpr Exception exceptions[] = {
-    {"config/FileCntl, config/FileReport, config/FileStream, config/PathName: a circle",
-     "FileCntl.h declares the functions of paths and reports too"},
     {"config/Profile, config/ProfileField, config/ProfileImage: a circle",
      "Profile.h declares what reads fields too"},
 };
