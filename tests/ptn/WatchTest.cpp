@@ -4,6 +4,7 @@
 #include "tests/support/Toolkit.h"
 #include "tests/support/XDriver.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace
@@ -39,6 +40,25 @@ TEST(Watch, shows_the_screen_that_the_panel_starts_with_unless_another_is_named)
     sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: b } }\n");
     const Program watch("ptn", "ptn", {"watch", "src"});
     EXPECT_TRUE(user.waitFor([&] { return user.screen().count(0xFF8000) >= 200 * 100; }, "the screen"))
+        << watch.output();
+}
+
+TEST(Watch, sees_a_folder_of_screens_that_is_made_later)
+{
+    useToolkit();
+    XDriver user;
+    Sources sources;
+    sources.base();
+    std::filesystem::remove_all(sources.root() + "/src/screens");
+    const Program watch("ptn", "ptn", {"watch", "src", "a"});
+    ASSERT_TRUE(user.waitFor([&] { return !user.windows().empty(); }, "the window")) << watch.output();
+    std::filesystem::create_directory(sources.root() + "/src/screens");
+    sources.screen(ScreenWith("hot"));
+    EXPECT_TRUE(user.waitFor([&] { return user.screen().count(0xFF8000) >= 200 * 100; }, "the screen"))
+        << watch.output();
+    // And what is saved in it from then on.
+    sources.screen(ScreenWith("black"));
+    EXPECT_TRUE(user.waitFor([&] { return user.screen().count(0xFF8000) == 0; }, "the screen saved later"))
         << watch.output();
 }
 

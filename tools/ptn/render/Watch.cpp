@@ -1,19 +1,23 @@
 #include "tools/ptn/render/Watch.h"
 
-#include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/TemporaryFolder.h"
 
-#include <cerrno>
-#include <cstdlib>
+#include <filesystem>
+#include <gio/gio.h>
 #include <gtk/gtk.h>
-#include <sys/inotify.h>
-#include <unistd.h>
+#include <memory>
+#include <vector>
 
 namespace ptn
 {
 
 namespace
 {
+
+struct Unref {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+template <class T> using Owned = std::unique_ptr<T, Unref>;
 
 /// Editors save in several steps; one picture is made of them.
 constexpr guint settleMilliseconds = 150;
@@ -26,19 +30,22 @@ class Watcher
     Watcher(const Watcher&) = delete;
     Watcher& operator=(const Watcher&) = delete;
 
-    bool watchFolders();
     void run();
 
   private:
-    static gboolean onChange(GIOChannel*, GIOCondition, gpointer self);
+    static void onChange(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer self);
     static gboolean onSettled(gpointer self);
+    static void onDrawn(GObject* process, GAsyncResult* result, gpointer self);
+    void watchFolders();
     void draw();
     void show(const std::string& text);
 
     const WatchJob& job_;
     TemporaryFolder folder_;
-    int notify_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    std::vector<Owned<GFileMonitor>> monitors_;
     guint settling_ = 0;
+    Owned<GSubprocess> drawing_; ///< makes the picture; null while none is being made
+    bool again_ = false;         ///< something was saved meanwhile
     GtkWidget* window_ = nullptr;
     GtkWidget* image_ = nullptr;
     GtkWidget* text_ = nullptr;
@@ -64,80 +71,97 @@ Watcher::Watcher(const WatchJob& job) : job_(job)
 
 Watcher::~Watcher()
 {
-    if (notify_ >= 0)
-        close(notify_);
+    if (drawing_)
+        g_subprocess_force_exit(drawing_.get());
 }
 
-bool Watcher::watchFolders()
+/// Anew after each change, since a folder that a project need not have may have been made by it.
+void Watcher::watchFolders()
 {
-    constexpr unsigned saved = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | IN_CREATE;
-    if (notify_ < 0 || inotify_add_watch(notify_, job_.source.c_str(), saved) < 0)
-        return false;
-    for (const char* name : {"/screens", "/bitmaps"}) // which a project need not have
-        inotify_add_watch(notify_, (job_.source + name).c_str(), saved);
-    return true;
+    monitors_.clear();
+    for (const char* name : {"", "/screens", "/bitmaps"}) {
+        const Owned<GFile> folder(g_file_new_for_path((job_.source + name).c_str()));
+        if (!g_file_query_exists(folder.get(), nullptr))
+            continue;
+        GFileMonitor* monitor =
+            g_file_monitor_directory(folder.get(), G_FILE_MONITOR_WATCH_MOVES, nullptr, nullptr);
+        if (!monitor)
+            continue;
+        g_signal_connect(monitor, "changed", G_CALLBACK(onChange), this);
+        monitors_.emplace_back(monitor);
+    }
 }
 
 void Watcher::run()
 {
-    GIOChannel* channel = g_io_channel_unix_new(notify_);
-    g_io_add_watch(channel, G_IO_IN, onChange, this);
-    g_io_channel_unref(channel);
+    watchFolders();
     draw();
     gtk_widget_show(window_);
     gtk_main();
 }
 
-gboolean Watcher::onChange(GIOChannel*, GIOCondition, gpointer self)
+void Watcher::onChange(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer self)
 {
     auto* watcher = static_cast<Watcher*>(self);
-    char events[4096];
-    while (read(watcher->notify_, events, sizeof events) > 0) {
-    }
     if (!watcher->settling_)
         watcher->settling_ = g_timeout_add(settleMilliseconds, onSettled, watcher);
-    return TRUE;
 }
 
 gboolean Watcher::onSettled(gpointer self)
 {
     auto* watcher = static_cast<Watcher*>(self);
     watcher->settling_ = 0;
+    watcher->watchFolders();
     watcher->draw();
     return FALSE;
 }
 
-// In a process of its own, which a screen that ends the panel ends instead of the watching.
+// In a process of its own, which a screen that ends the panel ends instead of the watching. The window goes
+// on meanwhile; what is saved until the picture is there asks for another one.
 void Watcher::draw()
 {
+    if (drawing_) {
+        again_ = true;
+        return;
+    }
+    again_ = false;
     const std::string picture = (folder_.path() / "picture.png").string();
     std::vector<std::string> words = {"/proc/self/exe", "render", job_.source, "-o", picture};
     if (!job_.pattern.empty())
         words.push_back(job_.pattern);
     words.insert(words.end(), job_.arguments.begin(), job_.arguments.end());
-    std::vector<char*> arguments;
-    for (std::string& word : words)
-        arguments.push_back(word.data());
+    std::vector<const char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
     arguments.push_back(nullptr);
 
-    char* output = nullptr;
-    char* errors = nullptr;
-    int status = 0;
     GError* problem = nullptr;
-    if (!g_spawn_sync(nullptr, arguments.data(), nullptr, static_cast<GSpawnFlags>(0), nullptr, nullptr,
-                      &output, &errors, &status, &problem)) {
+    const auto pipes =
+        static_cast<GSubprocessFlags>(G_SUBPROCESS_FLAGS_STDOUT_SILENCE | G_SUBPROCESS_FLAGS_STDERR_PIPE);
+    drawing_.reset(g_subprocess_newv(arguments.data(), pipes, &problem));
+    if (!drawing_) {
         show(problem->message);
         g_error_free(problem);
         return;
     }
-    GdkPixbuf* drawn = status == 0 ? gdk_pixbuf_new_from_file(picture.c_str(), nullptr) : nullptr;
-    show(drawn ? "" : errors);
-    if (drawn) {
-        gtk_image_set_from_pixbuf(GTK_IMAGE(image_), drawn);
-        g_object_unref(drawn);
-    }
-    g_free(output);
+    g_subprocess_communicate_utf8_async(drawing_.get(), nullptr, nullptr, onDrawn, this);
+}
+
+void Watcher::onDrawn(GObject* process, GAsyncResult* result, gpointer self)
+{
+    auto* watcher = static_cast<Watcher*>(self);
+    char* errors = nullptr;
+    g_subprocess_communicate_utf8_finish(G_SUBPROCESS(process), result, nullptr, &errors, nullptr);
+    const bool succeeded = g_subprocess_get_successful(G_SUBPROCESS(process)) != FALSE;
+    const std::string picture = (watcher->folder_.path() / "picture.png").string();
+    const Owned<GdkPixbuf> drawn(succeeded ? gdk_pixbuf_new_from_file(picture.c_str(), nullptr) : nullptr);
+    if (drawn)
+        gtk_image_set_from_pixbuf(GTK_IMAGE(watcher->image_), drawn.get());
+    watcher->show(drawn ? "" : errors ? errors : "The picture could not be made.");
     g_free(errors);
+    watcher->drawing_.reset();
+    if (watcher->again_)
+        watcher->draw();
 }
 
 // Errors in place of the picture; no text brings the picture back.
@@ -158,11 +182,11 @@ bool Watch(const WatchJob& job, Diagnostics& diagnostics)
                                    "render'.");
         return false;
     }
-    Watcher watcher(job);
-    if (!watcher.watchFolders()) {
+    if (!std::filesystem::is_directory(job.source)) {
         diagnostics.error({job.source, 0}, "can not be watched. Check that it is there and readable.");
         return false;
     }
+    Watcher watcher(job);
     watcher.run();
     return true;
 }
