@@ -93,7 +93,7 @@ TEST_F(Dump, keeps_tables_flags_marks_and_colours_of_every_kind)
     marks[3 * 512 + 100] = 'x'; // behind the 64 bytes that a mark of 16 x 32 shows
     writeFile(sources.output() + "/PtrnMark", marks);
     std::string colors = sources.built("PtrnColr");
-    colors.replace(7 * 12, 12, int32(-5) + int32(70000) + int32(256));
+    colors.replace(std::size_t{7} * 12, 12, int32(-5) + int32(70000) + int32(256));
     writeFile(sources.output() + "/PtrnColr", colors);
     std::string codes = sources.built("PtrnCode");
     codes.replace(34 + 30, 4, int32(9)); // the line shown first on the maintenance screen
