@@ -2,6 +2,7 @@
 
 #include "base/EucText.h"
 #include "comndata/ComnData.h"
+#include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
@@ -83,6 +84,7 @@ void TessaryExit()
     ComnDataExit();
     LogfileWrite("", "システム停止", nullptr, 0);
     LogfileExit();
+    SetEdition(1);
     Platform = 0;
     ticks = 0;
     std::fill(std::begin(ProfName), std::end(ProfName), '\0');

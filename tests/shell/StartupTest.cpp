@@ -2,6 +2,7 @@
 #include "shell/Startup.h"
 
 #include "comndata/ComnData.h"
+#include "config/Edition.h"
 #include "config/Settings.h"
 #include "dialogs/PtrnMente.h"
 #include "draw/Resource.h"
@@ -176,6 +177,7 @@ class WholeRun : public StartUp
             if (LogDay != 0)
                 seen.push_back("tick " + std::to_string(number));
         }
+        tessary::SetEdition(tessary::LATEST_EDITION);
         ReqSystemStop("stop.cpp", 1);
         TessaryExit();
         user.settle();
@@ -205,6 +207,7 @@ TEST_F(WholeRun, leaves_nothing_behind)
     EXPECT_EQ(SystemWnd, 0);
     EXPECT_EQ(WaitTimer, 0);
     EXPECT_EQ(Platform, 0);
+    EXPECT_EQ(tessary::Edition(), 1);
     EXPECT_STREQ(ProfName, "");
     EXPECT_STREQ(ProjPath, "");
     EXPECT_EQ(Language, 0);
