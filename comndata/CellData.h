@@ -9,7 +9,8 @@
 /// One cell.
 struct COMNDATA {
     WORD wData;
-    float fData;  ///< integers are kept here too, so those beyond 2^24 lose their last digits
+    float fData;  ///< integers are kept here too, so those beyond 2^24 lose their last digits (Get_dData has
+                  ///< all)
     LPTSTR sData; ///< owned by the store, or the text of a message row; null when empty
 };
 static_assert(sizeof(COMNDATA) == sizeof(WORD) + sizeof(float) + sizeof(LPTSTR));

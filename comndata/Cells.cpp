@@ -17,6 +17,9 @@ namespace
 // `sData` is not its own text shares the text of a message row, which is not to be freed with the cell.
 // Before the first text is written there are no own ones.
 std::vector<COMNDATA> cells;
+// All digits of the cells' numbers, by data number; `fData` is the float of it. A program may supply other
+// cells than those made here.
+std::vector<double> numbers;
 std::vector<std::unique_ptr<char[]>> ownTexts;
 
 // A text may fill the reading buffer and need one byte more; a longer one is cut when it is written.
@@ -35,6 +38,7 @@ std::unique_ptr<char[]>& OwnText(int no)
 void tessary::CreateCells(int count)
 {
     cells = std::vector<COMNDATA>(static_cast<std::size_t>(count));
+    numbers = std::vector<double>(static_cast<std::size_t>(count));
     ownTexts = std::vector<std::unique_ptr<char[]>>();
     ComnData = count ? cells.data() : nullptr;
     PtrnDataNo = count;
@@ -43,6 +47,24 @@ void tessary::CreateCells(int count)
 bool tessary::HasCell(int no)
 {
     return no >= 0 && no < PtrnDataNo;
+}
+
+void tessary::StoreNumber(int no, double value)
+{
+    const auto place = static_cast<std::size_t>(no);
+    if (place >= numbers.size())
+        numbers.resize(static_cast<std::size_t>(PtrnDataNo));
+    numbers[place] = value;
+    ComnData[no].fData = static_cast<float>(value);
+}
+
+double tessary::StoredNumber(int no)
+{
+    const auto place = static_cast<std::size_t>(no);
+    const float rounded = ComnData[no].fData;
+    return place < numbers.size() && static_cast<float>(numbers[place]) == rounded
+               ? numbers[place]
+               : static_cast<double>(rounded);
 }
 
 void tessary::StoreText(int no, const char* text)

@@ -1,4 +1,5 @@
-// The store of the cells, for the files of this folder: who owns their texts, and nothing of names and logs.
+// The store of the cells, for the files of this folder: who owns their texts and has all digits of their
+// numbers, and nothing of names and logs.
 #pragma once
 
 #include "comndata/CellData.h"
@@ -11,6 +12,13 @@ void CreateCells(int count);
 
 /// True for the number of a cell.
 bool HasCell(int no);
+
+/// Gives a cell, which must be one, a number: all its digits, and the float nearest to it.
+void StoreNumber(int no, double value);
+
+/// The number of a cell, which must be one, with all its digits. The float counts where somebody has written
+/// it alone.
+double StoredNumber(int no);
 
 /// Gives a cell, which must be one, a copy of a text: at most SIZE_SDATA bytes, never half of a two-byte
 /// character.

@@ -40,6 +40,14 @@ const char* AccessText(int write)
     return write ? "WRITE  " : "READ   ";
 }
 
+/// As SetLogfile for a float, with the digits that one of those can not hold.
+void LogNumber(int no, int write, double value, const char* file, int line)
+{
+    char name[SIZE_DTNONAME];
+    if (IsLogged(no, file, name))
+        LogText("COMNMEM", file, line, "%s[%s] %.2f", AccessText(write), name, value);
+}
+
 template <typename Operation> void ChangeWord(int no, const char* file, int line, Operation operation)
 {
     if (!CheckComnData(no, file, line))
@@ -62,7 +70,7 @@ template <typename Setter> void FillNext(int no, int count, Setter set)
 }
 
 /// Sets `count` cells from `no` on, as far as they lie in the store.
-void FillRange(int no, std::int64_t count, WORD word, float value, const char* text)
+void FillRange(int no, std::int64_t count, WORD word, double value, const char* text)
 {
     // The text may belong to one of the cells, which frees it when it is set.
     const std::string copy(text ? text : "");
@@ -70,7 +78,7 @@ void FillRange(int no, std::int64_t count, WORD word, float value, const char* t
     LockComnData();
     for (int cell = std::max(no, 0); cell < end; cell++) {
         Set_wData(cell, word, nullptr, 0);
-        Set_fData(cell, value, nullptr, 0);
+        Set_dData(cell, value, nullptr, 0);
         Set_sData(cell, copy.c_str(), nullptr, 0);
     }
     UnlockComnData();
@@ -114,6 +122,15 @@ float Get_fData(int no, const char* file, int line)
     return value;
 }
 
+double Get_dData(int no, const char* file, int line)
+{
+    if (!CheckComnData(no, file, line))
+        return 0.0;
+    const double value = StoredNumber(no);
+    LogNumber(no, 0, value, file, line);
+    return value;
+}
+
 LPTSTR Get_sData(int no, const char* file, int line)
 {
     static char text[SIZE_SDATA];
@@ -140,7 +157,7 @@ void Set_iData(int no, int value, const char* file, int line)
 {
     if (!CheckComnData(no, file, line))
         return;
-    ComnData[no].fData = static_cast<float>(value);
+    StoreNumber(no, value);
     SetLogfile(no, 1, value, file, line);
 }
 
@@ -148,8 +165,16 @@ void Set_fData(int no, float value, const char* file, int line)
 {
     if (!CheckComnData(no, file, line))
         return;
-    ComnData[no].fData = value;
+    StoreNumber(no, static_cast<double>(value));
     SetLogfile(no, 1, value, file, line);
+}
+
+void Set_dData(int no, double value, const char* file, int line)
+{
+    if (!CheckComnData(no, file, line))
+        return;
+    StoreNumber(no, value);
+    LogNumber(no, 1, value, file, line);
 }
 
 void Set_sData(int no, const char* text, const char* file, int line)
@@ -203,23 +228,23 @@ void Clear_sData(int no, int count, const char* text, const char*, int)
 
 void Clear_AllData(int no, int count, const char*, int)
 {
-    FillRange(no, count, 0, 0.0F, nullptr);
+    FillRange(no, count, 0, 0.0, nullptr);
 }
 
 void Clear_AllData(int no, int count, WORD word, int value, const char* text, const char*, int)
 {
-    FillRange(no, count, word, static_cast<float>(value), text);
+    FillRange(no, count, word, static_cast<double>(value), text);
 }
 
 void Clear_AllData(int no, int count, WORD word, float value, const char* text, const char*, int)
 {
-    FillRange(no, count, word, value, text);
+    FillRange(no, count, word, static_cast<double>(value), text);
 }
 
 void Clear_AllData(int no, const char* file, int line)
 {
     if (const PTRNCODE* row = FindCode(no)) {
-        FillRange(no, std::int64_t{row->DataCount} - no, 0, 0.0F, nullptr);
+        FillRange(no, std::int64_t{row->DataCount} - no, 0, 0.0, nullptr);
         return;
     }
     char name[SIZE_DTNONAME];

@@ -35,6 +35,11 @@ int Get_iData(int no, const char* file, int line);
 /// Reads the number; 0.0 for a number outside the store.
 float Get_fData(int no, const char* file, int line);
 
+/// Reads the number as Set_dData has stored it, with all its digits. The functions above see the same number
+/// rounded to a float; one that was stored by another function reads the same here and there, but for
+/// integers, which keep all their digits.
+double Get_dData(int no, const char* file, int line);
+
 /// Reads the text.
 /// @return one static buffer of SIZE_SDATA bytes, overwritten by the next call; empty when the cell has no
 ///         text or the number is outside the store. A text of 256 bytes is cut before the character that
@@ -49,6 +54,9 @@ void Set_iData(int no, int value, const char* file, int line);
 
 /// Writes the number.
 void Set_fData(int no, float value, const char* file, int line);
+
+/// Writes the number. One beyond the range of a float reads as infinity there.
+void Set_dData(int no, double value, const char* file, int line);
 
 /// Writes a copy of the text: at most 256 bytes, never half of a two-byte character.
 /// @param text  may be what the cell holds already; null or empty leaves the cell without text

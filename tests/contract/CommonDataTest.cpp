@@ -45,10 +45,12 @@ TEST(Contract, declares_access_to_cells)
     EXPECT_TRUE((Declared<WORD(int, const char*, int)>(Get_wData)));
     EXPECT_TRUE((Declared<int(int, const char*, int)>(Get_iData)));
     EXPECT_TRUE((Declared<float(int, const char*, int)>(Get_fData)));
+    EXPECT_TRUE((Declared<double(int, const char*, int)>(Get_dData)));
     EXPECT_TRUE((Declared<LPTSTR(int, const char*, int)>(Get_sData)));
     EXPECT_TRUE((Declared<void(int, WORD, const char*, int)>(Set_wData)));
     EXPECT_TRUE((Declared<void(int, int, const char*, int)>(Set_iData)));
     EXPECT_TRUE((Declared<void(int, float, const char*, int)>(Set_fData)));
+    EXPECT_TRUE((Declared<void(int, double, const char*, int)>(Set_dData)));
     EXPECT_TRUE((Declared<void(int, const char*, const char*, int)>(Set_sData)));
     EXPECT_TRUE((Declared<void(int, WORD, const char*, int)>(OR_wData)));
     EXPECT_TRUE((Declared<void(int, WORD, const char*, int)>(AND_wData)));
