@@ -2,6 +2,7 @@
 #include "draw/DrawCntl.h"
 
 #include "draw/DrawCheck.h"
+#include "draw/DrawScope.h"
 #include "draw/Resource.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
@@ -21,7 +22,10 @@ void tessary::DrawCheckFailed(int line, const char* function, const char* condit
     std::abort();
 }
 
-CDraw::CDraw(GdkWindow* drawable) : window(drawable), gc(gdk_gc_new(drawable)) {}
+CDraw::CDraw(GdkWindow* drawable) : window(drawable), gc(gdk_gc_new(drawable))
+{
+    tessary::RecordWith(gc, drawable);
+}
 
 void tessary::PaintDrawRelease::operator()(CPaintDraw* draw) const
 {

@@ -11,7 +11,7 @@
 // - Arguments are checked on entry. A failed check logs the condition at the error level of glib's log,
 //   which ends the process (draw/DrawCheck.h). A box needs xpos1 <= xpos2 and ypos1 <= ypos2.
 // - Each call sets the state of the graphics context that it needs and leaves no clipping or dashes that a
-//   later call would show.
+//   later call would show. What tessary::ClipScope holds a context to stays.
 // - The RECT forms use the four edges; width and height are ignored.
 #pragma once
 

@@ -1,19 +1,16 @@
 // Marks, bitmap files and built-in pictures. Every call makes its image anew, scales the part of it that can
-// be seen, and releases it.
+// be seen, and releases it; only files that are drawn in parts are kept.
 #include "base/Limits.h"
+#include "config/Edition.h"
 #include "config/Settings.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"
+#include "draw/DrawScope.h"
+#include "draw/ImageFile.h"
 #include "draw/Resource.h"
-#include "draw/ResourceLoad.h"
-#include "draw/ToolkitPtr.h"
-#include "log/Logfile.h"
 
-#include <algorithm>
 #include <cstdio>
-#include <set>
 #include <string>
-#include <sys/stat.h>
 
 using namespace tessary;
 
@@ -21,68 +18,76 @@ namespace
 {
 
 /// Longest edge of a scaled image, the end of the display's coordinates.
-constexpr std::int64_t EDGE_MAX = tessary::COORDINATE_MAX;
-
-/// Most pixels of a bitmap file; a larger one counts as damaged.
-constexpr std::int64_t FILE_PIXELS_MAX = 100'000'000;
-
-/// Most names of missing bitmaps that are remembered.
-constexpr std::size_t MISSING_MAX = 1000;
-
-std::set<std::string> missing; ///< bitmaps that the log has named
+constexpr std::int64_t EDGE_MAX = COORDINATE_MAX;
 
 /// What becomes of an image's transparent pixels.
-enum class Alpha { Ignored, OneBit };
+enum class Alpha {
+    Ignored,
+    OneBit,  ///< all but the opaque ones are left out
+    Blended, ///< what lies below shows through
+};
 
-void PutPixels(GdkDrawable* window, GdkGC* gc, GdkPixbuf* image, int x, int y)
+/// Where images go.
+struct Target {
+    GdkDrawable* window;
+    GdkGC* gc;
+    Box visible; ///< the part that can be drawn on
+};
+
+void PutPixels(const Target& target, GdkPixbuf* image, int x, int y)
 {
     const auto put = gdk_pixbuf_get_has_alpha(image) ? gdk_draw_rgb_32_image : gdk_draw_rgb_image;
-    put(window, gc, x, y, gdk_pixbuf_get_width(image), gdk_pixbuf_get_height(image), GDK_RGB_DITHER_NONE,
-        gdk_pixbuf_get_pixels(image), gdk_pixbuf_get_rowstride(image));
+    put(target.window, target.gc, x, y, gdk_pixbuf_get_width(image), gdk_pixbuf_get_height(image),
+        GDK_RGB_DITHER_NONE, gdk_pixbuf_get_pixels(image), gdk_pixbuf_get_rowstride(image));
 }
 
-/// Draws only the pixels that are opaque to the last bit, through a clip mask that is taken away again.
-void PutOpaquePixels(GdkDrawable* window, GdkGC* gc, GdkPixbuf* image, int x, int y)
+/// Draws only the pixels that are opaque to the last bit, through a clip mask that is taken away again. The
+/// image lies within the clip that the mask takes the place of.
+void PutOpaquePixels(const Target& target, GdkPixbuf* image, int x, int y)
 {
     const int width = gdk_pixbuf_get_width(image);
     const int height = gdk_pixbuf_get_height(image);
-    const BitmapPtr mask(gdk_pixmap_new(window, width, height, 1));
+    const BitmapPtr mask(gdk_pixmap_new(target.window, width, height, 1));
     gdk_pixbuf_render_threshold_alpha(image, mask.get(), 0, 0, 0, 0, width, height, 255);
-    gdk_gc_set_clip_mask(gc, mask.get());
-    gdk_gc_set_clip_origin(gc, x, y);
-    PutPixels(window, gc, image, x, y);
-    gdk_gc_set_clip_mask(gc, nullptr);
-    gdk_gc_set_clip_origin(gc, 0, 0);
+    gdk_gc_set_clip_mask(target.gc, mask.get());
+    gdk_gc_set_clip_origin(target.gc, x, y);
+    PutPixels(target, image, x, y);
+    gdk_gc_set_clip_mask(target.gc, nullptr);
+    gdk_gc_set_clip_origin(target.gc, 0, 0);
+    if (IsClipped(target.gc))
+        ApplyClip(target.gc);
 }
 
-/// Scales an image into a box and draws it. Memory is taken only for the part within the drawable.
-void PutScaled(GdkDrawable* window, GdkGC* gc, GdkPixbuf* image, RECT box, Alpha alpha)
+void PutPart(const Target& target, GdkPixbuf* part, int x, int y, Alpha alpha)
+{
+    if (alpha == Alpha::OneBit)
+        PutOpaquePixels(target, part, x, y);
+    else if (alpha == Alpha::Blended && gdk_pixbuf_get_has_alpha(part))
+        gdk_draw_pixbuf(target.window, target.gc, part, 0, 0, x, y, -1, -1, GDK_RGB_DITHER_NONE, 0, 0);
+    else
+        PutPixels(target, part, x, y);
+}
+
+/// Scales an image into a box and draws it. Memory is taken only for the part that can be seen.
+void PutScaled(const Target& target, GdkPixbuf* image, RECT box, Alpha alpha)
 {
     const std::int64_t width = std::int64_t{box.right} - box.left;
     const std::int64_t height = std::int64_t{box.bottom} - box.top;
     if (!image || width <= 0 || height <= 0 || width > EDGE_MAX || height > EDGE_MAX)
         return;
-    int right = 0;
-    int bottom = 0;
-    gdk_drawable_get_size(window, &right, &bottom);
-    const int left = std::max(box.left, 0);
-    const int top = std::max(box.top, 0);
-    right = std::min(box.right, right);
-    bottom = std::min(box.bottom, bottom);
-    if (left >= right || top >= bottom)
+    const Box seen = Common(BoxOf(box), target.visible);
+    if (seen.empty())
         return;
 
-    const PixbufPtr part(
-        gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(image), 8, right - left, bottom - top));
+    const int cx = seen.right - seen.left;
+    const int cy = seen.bottom - seen.top;
+    const PixbufPtr part(gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(image), 8, cx, cy));
     if (!part)
         return;
-    gdk_pixbuf_scale(image, part.get(), 0, 0, right - left, bottom - top, box.left - left, box.top - top,
+    gdk_pixbuf_scale(image, part.get(), 0, 0, cx, cy, box.left - seen.left, box.top - seen.top,
                      static_cast<double>(width) / gdk_pixbuf_get_width(image),
                      static_cast<double>(height) / gdk_pixbuf_get_height(image), GDK_INTERP_TILES);
-    if (alpha == Alpha::OneBit)
-        PutOpaquePixels(window, gc, part.get(), left, top);
-    else
-        PutPixels(window, gc, part.get(), left, top);
+    PutPart(target, part.get(), seen.left, seen.top, alpha);
 }
 
 /// Copy of an image in which one colour is transparent.
@@ -100,28 +105,11 @@ PixbufPtr XpmImage(const char* const* lines)
     return PixbufPtr(gdk_pixbuf_new_from_xpm_data(const_cast<const char**>(lines)));
 }
 
-/// Loads a plain file of a sane size; null otherwise.
-PixbufPtr FileImage(const std::string& path)
+/// What becomes of the transparency that an image file itself has.
+Alpha FileAlpha(const PixbufPtr& image, Alpha otherwise)
 {
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
-        return nullptr;
-    int width = 0;
-    int height = 0;
-    if (!gdk_pixbuf_get_file_info(path.c_str(), &width, &height) ||
-        std::int64_t{width} * height > FILE_PIXELS_MAX)
-        return nullptr;
-    return PixbufPtr(gdk_pixbuf_new_from_file(path.c_str(), nullptr));
-}
-
-/// Tells the log once about each bitmap that can not be loaded, not at every draw.
-void ReportMissing(const char* name)
-{
-    if (missing.size() >= MISSING_MAX || !missing.insert(name).second)
-        return;
-    char text[SIZE_LOGMESG2 + 2];
-    std::snprintf(text, sizeof text, "ビットマップの読込みに失敗 [%s]", name);
-    LogfileWrite("DRAWCNTL", text, nullptr, 0);
+    return Has(Correction::Transparency) && gdk_pixbuf_get_has_alpha(image.get()) ? Alpha::Blended
+                                                                                  : otherwise;
 }
 
 /// Writes one of a mark's two colour lines.
@@ -131,11 +119,6 @@ void SetMarkColor(int mark, int line, char key, int red, int green, int blue)
 }
 
 } // namespace
-
-void tessary::BitmapExit()
-{
-    missing.clear();
-}
 
 void CDraw::DrawMark(int xpos1, int ypos1, int xpos2, int ypos2, int colr1, int colr2, int mark)
 {
@@ -147,17 +130,21 @@ void CDraw::DrawMark(int xpos1, int ypos1, int xpos2, int ypos2, int colr1, int 
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
     const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    if (!Admits(gc, BoxOf(box)))
+        return;
+    const OwnRequests own(gc);
+    const Target target = {window, gc, VisibleOn(window, gc)};
     const GdkColor& front = DrawColr[colr1];
     SetMarkColor(mark, 2, 'X', front.red >> 8, front.green >> 8, front.blue >> 8);
     if (colr2 == -1) {
         SetMarkColor(mark, 1, '.', 1, 2, 3);
         const PixbufPtr image = KeyedImage(XpmImage(Mark_XPM[mark].mark), 1, 2, 3);
-        PutScaled(window, gc, image.get(), box, Alpha::OneBit);
+        PutScaled(target, image.get(), box, Alpha::OneBit);
         return;
     }
     const GdkColor& back = DrawColr[colr2];
     SetMarkColor(mark, 1, '.', back.red >> 8, back.green >> 8, back.blue >> 8);
-    PutScaled(window, gc, XpmImage(Mark_XPM[mark].mark).get(), box, Alpha::Ignored);
+    PutScaled(target, XpmImage(Mark_XPM[mark].mark).get(), box, Alpha::Ignored);
 }
 
 void CDraw::DrawBmap(int xpos1, int ypos1, int xpos2, int ypos2, int colr, const char* name)
@@ -167,22 +154,26 @@ void CDraw::DrawBmap(int xpos1, int ypos1, int xpos2, int ypos2, int colr, const
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
-    if (!name || !*name)
+    const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    if (!name || !*name || !Admits(gc, BoxOf(box)))
         return;
-    const PixbufPtr image = FileImage(std::string(ProjPath) + "/Bitmap/" + name);
+    // What is drawn again in parts, many times a second, is not read from the disk each time.
+    const std::string path = std::string(ProjPath) + "/Bitmap/" + name;
+    const PixbufPtr image = IsClipped(gc) ? KeptImage(path) : FileImage(path);
     if (!image) {
         ReportMissing(name);
         return;
     }
-    const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    const OwnRequests own(gc);
+    const Target target = {window, gc, VisibleOn(window, gc)};
     if (colr == -1) {
-        PutScaled(window, gc, image.get(), box, Alpha::Ignored);
+        PutScaled(target, image.get(), box, FileAlpha(image, Alpha::Ignored));
         return;
     }
     // The low byte of each component is the key, not the high byte as for marks.
     const GdkColor& key = DrawColr[colr];
-    PutScaled(window, gc, KeyedImage(image, key.red & 0xFF, key.green & 0xFF, key.blue & 0xFF).get(), box,
-              Alpha::OneBit);
+    PutScaled(target, KeyedImage(image, key.red & 0xFF, key.green & 0xFF, key.blue & 0xFF).get(), box,
+              FileAlpha(image, Alpha::OneBit));
 }
 
 void CDraw::DrawXpm(int xpos1, int ypos1, int xpos2, int ypos2, const char* const* name)
@@ -191,5 +182,9 @@ void CDraw::DrawXpm(int xpos1, int ypos1, int xpos2, int ypos2, const char* cons
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
-    PutScaled(window, gc, XpmImage(name).get(), ::SetRect(xpos1, ypos1, xpos2, ypos2), Alpha::Ignored);
+    const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
+    if (!Admits(gc, BoxOf(box)))
+        return;
+    const OwnRequests own(gc);
+    PutScaled({window, gc, VisibleOn(window, gc)}, XpmImage(name).get(), box, Alpha::Ignored);
 }

@@ -4,6 +4,7 @@
 #include "draw/DrawBounds.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"
+#include "draw/DrawScope.h"
 #include "draw/Resource.h"
 
 #include <algorithm>
@@ -23,6 +24,27 @@ enum Format { FOMT_INSIDE = 1, FOMT_OUTSIDE = 2 };
 void SetColor(GdkGC* gc, int colr)
 {
     gdk_gc_set_foreground(gc, &DrawColr[colr]);
+}
+
+/// Of outlines and lines, which cover both of their corners.
+Box WithLastPixels(const RECT& box)
+{
+    return {box.left, box.top, Shift(box.right, 1), Shift(box.bottom, 1)};
+}
+
+/// Whether nothing of a box's outline can be seen although it lies around the clip.
+bool ClipLiesWithin(GdkGC* gc, const RECT& box)
+{
+    const DrawState* state = StateOf(gc);
+    return state && state->clip &&
+           Contains({Shift(box.left, 1), Shift(box.top, 1), box.right, box.bottom}, *state->clip);
+}
+
+/// A line one pixel wide with the pen of the context.
+void Line1(const CDraw& draw, int xpos1, int ypos1, int xpos2, int ypos2)
+{
+    if (Admits(draw.gc, WithLastPixels(::SetRect(xpos1, ypos1, xpos2, ypos2))))
+        LineBounded(draw.window, draw.gc, xpos1, ypos1, xpos2, ypos2);
 }
 
 void SetSolidPen(GdkGC* gc)
@@ -106,6 +128,7 @@ void CDraw::DrawLine(int xpos1, int ypos1, int xpos2, int ypos2, int type, int w
     DRAW_CHECK((wide >= 1) && (wide < 99 ));
     DRAW_CHECK((colr >= 0) && (colr < CONT_COLR));
     // clang-format on
+    const OwnRequests own(gc);
     SetColor(gc, colr);
     if (type == 0)
         SetSolidPen(gc);
@@ -113,7 +136,7 @@ void CDraw::DrawLine(int xpos1, int ypos1, int xpos2, int ypos2, int type, int w
         SetDashedPen(gc, type == 1 ? dash1 : dash2);
 
     if (wide == 1) {
-        LineBounded(window, gc, xpos1, ypos1, xpos2, ypos2);
+        Line1(*this, xpos1, ypos1, xpos2, ypos2);
         return;
     }
     const std::int64_t width = std::abs(std::int64_t{xpos1} - xpos2);
@@ -124,7 +147,7 @@ void CDraw::DrawLine(int xpos1, int ypos1, int xpos2, int ypos2, int type, int w
         const int offset = slanted ? SlantedOffset(i) : StraightOffset(fomt, i);
         const int dx = sideways ? offset : 0;
         const int dy = sideways ? 0 : offset;
-        LineBounded(window, gc, Shift(xpos1, dx), Shift(ypos1, dy), Shift(xpos2, dx), Shift(ypos2, dy));
+        Line1(*this, Shift(xpos1, dx), Shift(ypos1, dy), Shift(xpos2, dx), Shift(ypos2, dy));
     }
 }
 
@@ -137,6 +160,7 @@ void CDraw::DrawRect(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int f
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
+    const OwnRequests own(gc);
     DrawFrame(this, &CDraw::DrawRect1, ::SetRect(xpos1, ypos1, xpos2, ypos2), wide, fomt, colr1, colr2);
 }
 
@@ -149,6 +173,7 @@ void CDraw::DrawCrcl(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int f
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
+    const OwnRequests own(gc);
     DrawFrame(this, &CDraw::DrawCrcl1, ::SetRect(xpos1, ypos1, xpos2, ypos2), wide, fomt, colr1, colr2);
 }
 
@@ -168,12 +193,13 @@ void CDraw::DrawGbox(int xpos1, int ypos1, int xpos2, int ypos2, int wide1, int 
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
+    const OwnRequests own(gc);
     SetSolidPen(gc);
     SetColor(gc, colr5);
-    FillBounded(window, gc, xpos1, ypos1, xpos2, ypos2);
+    DrawRect1(1, xpos1, ypos1, xpos2, ypos2);
 
-    const auto row = [&](int y) { LineBounded(window, gc, xpos1, y, xpos2, y); };
-    const auto column = [&](int x) { LineBounded(window, gc, x, ypos1, x, ypos2); };
+    const auto row = [&](int y) { Line1(*this, xpos1, y, xpos2, y); };
+    const auto column = [&](int x) { Line1(*this, x, ypos1, x, ypos2); };
     SetColor(gc, colr1);
     for (int i = 0; i < wide1; i++)
         row(Shift(ypos1, i));
@@ -194,11 +220,13 @@ void CDraw::DrawRect(int xpos1, int ypos1, int xpos2, int ypos2, int colr)
     if (colr < 0 || colr >= CONT_COLR || height <= 0)
         return;
 
-    // Only the rows of the drawable are visited, however high the box is.
-    int visible = 0;
-    gdk_drawable_get_size(window, nullptr, &visible);
-    const std::int64_t first = std::max<std::int64_t>(0, -std::int64_t{ypos1});
-    const std::int64_t last = std::min(height, std::int64_t{visible} - ypos1);
+    const OwnRequests own(gc);
+    if (!Admits(gc, {std::min(xpos1, xpos2), ypos1, std::max(xpos1, xpos2), ypos2}))
+        return;
+    // Only the rows that can be seen are visited, however high the box is.
+    const Box visible = VisibleOn(window, gc);
+    const std::int64_t first = std::max<std::int64_t>(0, std::int64_t{visible.top} - ypos1);
+    const std::int64_t last = std::min(height, std::int64_t{visible.bottom} - ypos1);
 
     SetSolidPen(gc);
     const auto shades = MakeShades(ColrData[colr]);
@@ -211,15 +239,20 @@ void CDraw::DrawRect(int xpos1, int ypos1, int xpos2, int ypos2, int colr)
 
 void CDraw::DrawRect1(int mode, int xpos1, int ypos1, int xpos2, int ypos2)
 {
+    const OwnRequests own(gc);
     const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
-    if (mode)
-        FillBounded(window, gc, box.left, box.top, box.right, box.bottom);
-    else
+    if (mode) {
+        if (Admits(gc, BoxOf(box)))
+            FillBounded(window, gc, box.left, box.top, box.right, box.bottom);
+    } else if (Admits(gc, WithLastPixels(box)) && !ClipLiesWithin(gc, box)) {
         FrameBounded(window, gc, box.left, box.top, box.right, box.bottom);
+    }
 }
 
 void CDraw::DrawCrcl1(int mode, int xpos1, int ypos1, int xpos2, int ypos2)
 {
+    const OwnRequests own(gc);
     const RECT box = ::SetRect(xpos1, ypos1, xpos2, ypos2);
-    EllipseBounded(window, gc, mode != 0, box.left, box.top, box.right, box.bottom);
+    if (Admits(gc, WithLastPixels(box)))
+        EllipseBounded(window, gc, mode != 0, box.left, box.top, box.right, box.bottom);
 }

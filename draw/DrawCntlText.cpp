@@ -3,6 +3,7 @@
 #include "draw/DrawBounds.h"
 #include "draw/DrawCheck.h"
 #include "draw/DrawCntl.h"
+#include "draw/DrawScope.h"
 #include "draw/Resource.h"
 
 #include <algorithm>
@@ -35,6 +36,13 @@ Extents Measure(int font, const char* text)
     return extents;
 }
 
+/// The ink of a text with its origin at (x, y) on the baseline.
+Box InkOf(const Extents& extents, int x, int y)
+{
+    return {Shift(x, std::min(0, extents.lbearing)), Shift(y, -extents.ascent),
+            Shift(x, std::max(extents.rbearing, extents.width)), Shift(y, extents.descent)};
+}
+
 } // namespace
 
 SIZE tessary::FontCell(int font)
@@ -51,13 +59,16 @@ void CDraw::DrawText(int xpos, int ypos, int font, int colr1, int colr2, const c
     // clang-format on
     if (!Drawable(font, text))
         return;
+    const OwnRequests own(gc);
     const Extents extents = Measure(font, text);
     const int line = FontSize[font].cy;
     if (colr2 != -1)
         DrawRect(xpos, ypos, Shift(xpos, std::max(0, extents.width)), Shift(ypos, line), 0, 0, colr2, colr2);
+    const int baseline = Shift(ypos, (extents.ascent + line - extents.descent) / 2);
+    if (!Admits(gc, InkOf(extents, xpos, baseline)))
+        return;
     gdk_gc_set_foreground(gc, &DrawColr[colr1]);
-    TextBounded(window, gc, DrawFont[font], xpos, Shift(ypos, (extents.ascent + line - extents.descent) / 2),
-                text);
+    TextBounded(window, gc, DrawFont[font], xpos, baseline, text);
 }
 
 void CDraw::ClearText(int xpos, int ypos, int font, int colr, const char* text)
@@ -92,6 +103,7 @@ void CDraw::DrawButn(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int c
     DRAW_CHECK(xpos1 <= xpos2);
     DRAW_CHECK(ypos1 <= ypos2);
     // clang-format on
+    const OwnRequests own(gc);
     DrawGbox(xpos1, ypos1, xpos2, ypos2, wide, wide, wide, wide, colr1, colr2, colr1, colr2, colr3);
     if (!Drawable(font, butn))
         return;
@@ -103,7 +115,10 @@ void CDraw::DrawButn(int xpos1, int ypos1, int xpos2, int ypos2, int wide, int c
     const std::int64_t height = std::int64_t{ypos2} - ypos1;
     const std::int64_t indent = post != -1 ? post : (width - (extents.lbearing + extents.rbearing)) / 2;
     const std::int64_t baseline = (height - (extents.ascent + extents.descent)) / 2 + extents.ascent;
+    const POINT origin = {Saturate(xpos1 + indent), Saturate(ypos1 + baseline)};
+    if (!Admits(gc, InkOf(extents, origin.x, origin.y)))
+        return;
     gdk_gc_set_foreground(gc, &DrawColr[colr4]);
     gdk_gc_set_background(gc, &DrawColr[colr3]);
-    TextBounded(window, gc, DrawFont[font], Saturate(xpos1 + indent), Saturate(ypos1 + baseline), butn);
+    TextBounded(window, gc, DrawFont[font], origin.x, origin.y, butn);
 }

@@ -17,7 +17,7 @@ void FontExit();
 void MarkExit();
 void CursorColorExit();
 
-/// Forgets which bitmaps the log has named as missing.
+/// Forgets which bitmaps the log has named as missing, and those that are kept in memory.
 void BitmapExit();
 
 } // namespace tessary

@@ -1,0 +1,123 @@
+#include "draw/ImageFile.h"
+
+#include "base/Constants.h"
+#include "draw/ResourceLoad.h"
+#include "log/Logfile.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+#include <set>
+#include <sys/stat.h>
+#include <tuple>
+#include <vector>
+
+namespace tessary
+{
+
+namespace
+{
+
+/// Most pixels of a bitmap file; a larger one counts as damaged.
+constexpr std::int64_t largestImage = 100'000'000;
+
+/// Most names of missing bitmaps that are remembered.
+constexpr std::size_t mostMissing = 1000;
+
+std::set<std::string> missing; ///< bitmaps that the log has named
+
+/// Images that are kept, and bytes of all their pixels together.
+constexpr std::size_t mostKept = 16;
+constexpr std::size_t mostKeptBytes = 64 * 1024 * 1024;
+
+/// What tells a file from the one that was there before.
+using FileMark = std::tuple<dev_t, ino_t, off_t, time_t, long>;
+
+/// Nothing for what is no plain file.
+std::optional<FileMark> MarkOf(const std::string& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return FileMark(status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec,
+                    status.st_mtim.tv_nsec);
+}
+
+struct Kept {
+    std::string path;
+    FileMark mark;
+    PixbufPtr image; ///< null for a file that is no image
+};
+
+std::vector<Kept> kept; ///< the one used last stands at the end
+
+std::size_t BytesOf(const PixbufPtr& image)
+{
+    return image ? gdk_pixbuf_get_byte_length(image.get()) : 0;
+}
+
+PixbufPtr Shared(const PixbufPtr& image)
+{
+    return PixbufPtr(image ? GDK_PIXBUF(g_object_ref(image.get())) : nullptr);
+}
+
+void Keep(Kept loaded)
+{
+    std::size_t bytes = BytesOf(loaded.image);
+    if (bytes > mostKeptBytes)
+        return;
+    for (const Kept& one : kept)
+        bytes += BytesOf(one.image);
+    while (!kept.empty() && (kept.size() >= mostKept || bytes > mostKeptBytes)) {
+        bytes -= BytesOf(kept.front().image);
+        kept.erase(kept.begin());
+    }
+    kept.push_back(std::move(loaded));
+}
+
+} // namespace
+
+PixbufPtr FileImage(const std::string& path)
+{
+    int width = 0;
+    int height = 0;
+    if (!MarkOf(path) || !gdk_pixbuf_get_file_info(path.c_str(), &width, &height) ||
+        std::int64_t{width} * height > largestImage)
+        return nullptr;
+    return PixbufPtr(gdk_pixbuf_new_from_file(path.c_str(), nullptr));
+}
+
+PixbufPtr KeptImage(const std::string& path)
+{
+    const std::optional<FileMark> mark = MarkOf(path);
+    if (!mark)
+        return nullptr;
+    const auto found =
+        std::find_if(kept.begin(), kept.end(), [&](const Kept& one) { return one.path == path; });
+    if (found != kept.end() && found->mark == *mark) {
+        std::rotate(found, found + 1, kept.end());
+        return Shared(kept.back().image);
+    }
+    if (found != kept.end())
+        kept.erase(found);
+    PixbufPtr image = FileImage(path);
+    Keep({path, *mark, Shared(image)});
+    return image;
+}
+
+void BitmapExit()
+{
+    missing.clear();
+    kept.clear();
+}
+
+void ReportMissing(const char* name)
+{
+    if (missing.size() >= mostMissing || !missing.insert(name).second)
+        return;
+    char text[SIZE_LOGMESG2 + 2];
+    std::snprintf(text, sizeof text, "ビットマップの読込みに失敗 [%s]", name);
+    LogfileWrite("DRAWCNTL", text, nullptr, 0);
+}
+
+} // namespace tessary
