@@ -1,6 +1,7 @@
 // The order in which the items of a pattern are drawn, and tested in reverse.
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
+#include "pattern/Layers.h"
 #include "pattern/PtrnData.h"
 
 #include <algorithm>
@@ -19,8 +20,13 @@ void CPtrnData::BuildDrawOrder()
     std::sort(DrawOrder.begin(), DrawOrder.end(), [](const Place& one, const Place& other) {
         return std::tie(one.Pass, one.Rank, one.Recd) < std::tie(other.Pass, other.Rank, other.Recd);
     });
+    const bool sameItems = OrderedData == PtrnData && OrderedCont == PtrnCont;
     OrderedData = PtrnData;
     OrderedCont = PtrnCont;
+    if (!sameItems)
+        Shown.reset();
+    else if (Shown)
+        OrderLayers();
 }
 
 void CPtrnData::RenewDrawOrder()

@@ -5,10 +5,19 @@
 #include "base/Constants.h"
 #include "base/Types.h"
 
+#include <functional>
+#include <initializer_list>
+#include <memory>
 #include <utility>
 #include <vector>
 
 class CDraw;
+
+namespace tessary
+{
+struct Box;
+class Layers;
+} // namespace tessary
 
 /// The type numbers in the order in which they are drawn within a pass. Hit tests go through it backwards.
 extern const int TypeTabl[CONT_PTRN];
@@ -65,7 +74,8 @@ static_assert(sizeof(PTRNDATA) == 632);
 #pragma pack(pop)
 
 /// Text of a numeric item's current value: hexadecimal, or decimal with optional zero fill and grouping.
-/// A separator takes the place of digits: 1234567 in a field of 7 reads "1,4,7".
+/// A separator takes the place of digits: 1234567 in a field of 7 reads "1,4,7". In later editions it is
+/// tessary::NumberText.
 /// @param item  its FIELD_... parameters and data number are used; a negative width fills on the right,
 ///              negative decimals mean six, and both are held at 255
 /// @return a static buffer of at most 255 bytes of text, overwritten by the next call
@@ -97,6 +107,11 @@ class CPtrnData
     PTRNDATA RepeatPtrn{}; ///< the item being held
     RECT LogoMarkButn{};   ///< title bar button areas, set when the title bar is drawn
     RECT HardCopyButn{};
+    /// Of the window: what lies below a body whose bitmap does not cover it, and what lies above the items,
+    /// such as a field in edit. Called while a part of the display is restored, with a context that draws
+    /// only there; null for nothing.
+    std::function<void(CDraw*)> DrawBelow;
+    std::function<void(CDraw*)> DrawAbove;
 
     /// Loads the pattern `name`; a pattern that can not be loaded leaves an object without items.
     explicit CPtrnData(const char* name);
@@ -134,6 +149,14 @@ class CPtrnData
     /// Redraws the bound items whose cell has changed.
     void UpdtPtrnData(CDraw* draw);
     void UpdtPtrnData(CDraw* draw, int top);
+    /// Draws an area anew as a full display would, with the cells' present values: title bar and body, the
+    /// items whose pictures meet it, and what lies above them. Neither their caches nor what lies outside
+    /// change.
+    /// @param area  pixels of the pattern; its right column and bottom row are left out
+    void RestoreArea(CDraw* draw, const RECT& area);
+    /// Shows the items of a data number, of one type or (type 0) of all, as their cells are now, together
+    /// with what lies below and above them.
+    void RedrawPtrnData(CDraw* draw, int dataNo, int type);
     /// Erases one item by its type.
     void ClerPtrnData(CDraw* draw, PTRNDATA* item);
     /// Advances the flicker cycle by one tick and redraws at a phase change.
@@ -235,4 +258,27 @@ class CPtrnData
     Places PassPlaces(int pass);
     Places TypePlaces(int pass, int rank);
     void ShowPtrnData(CDraw* draw, PTRNDATA* item, int updt);
+
+    /// What lies where; null until something is displayed in an edition that needs it.
+    std::unique_ptr<tessary::Layers> Shown;
+    bool Blanked = false; ///< blinking items are away
+    tessary::Layers& LayersOn(CDraw* draw);
+    void OrderLayers();
+    /// Whether an item with these values is on the display.
+    bool IsOnDisplay(const PTRNDATA& item) const;
+    void DispLayers(CDraw* draw, int top);
+    void UpdtLayers(CDraw* draw, std::initializer_list<int> passes);
+    void FlikLayers(CDraw* draw);
+    tessary::Box MeasureItem(CDraw* draw, PTRNDATA* item);
+    /// Takes the item's new values over. @return its old and its new area
+    std::pair<tessary::Box, tessary::Box> ChangeItem(CDraw* draw, PTRNDATA* item);
+    void RestoreAreas(CDraw* draw, const std::vector<tessary::Box>& areas);
+    void RestoreItem(CDraw* draw, int recd, const tessary::Box& clip);
+
+    void DrawTitleBar(CDraw* draw);
+    void DrawClock(CDraw* draw);
+    /// Shows the present time below the items that lie on it.
+    void RestoreClock(CDraw* draw);
+    /// Everything that lies below the items.
+    void RestoreTitle(CDraw* draw, const tessary::Box& area);
 };

@@ -5,6 +5,7 @@
 #include "config/Settings.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
+#include "pattern/Layers.h"
 #include "pattern/PatternRecords.h"
 #include "pattern/PtrnData.h"
 #include "pattern/PtrnHedr.h"
@@ -132,6 +133,8 @@ int CPtrnData::LoadPtrnData(const char* name)
     PtrnCont = 0;
     PtrnHedr = {};
     DrawOrder.clear();
+    Shown.reset();
+    Blanked = false;
 
     const std::string fileName = std::string(name ? name : "") + ".ptn";
     if (FileExist(ProjPath, fileName.c_str()) == 0)

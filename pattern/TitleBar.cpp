@@ -2,8 +2,10 @@
 // band and outer frame; all from the header parameters.
 #include "pattern/TitleBar.h"
 
+#include "base/Box.h"
 #include "base/Coord.h"
 #include "comndata/ClockCells.h"
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"
@@ -97,28 +99,50 @@ void DrawOuterFrame(CDraw* draw, const PTRNHEDR& header)
 
 } // namespace
 
-void CPtrnData::DispTitle(CDraw* draw)
+/// Fills the bar and draws everything in it but the clock.
+void CPtrnData::DrawTitleBar(CDraw* draw)
 {
     const auto& parm = PtrnHedr.Parm1;
-    if (parm[HEDR_TITLE_HEIGHT]) {
-        Fill(draw, 0, 0, parm[HEDR_WIDTH], parm[HEDR_TITLE_HEIGHT], parm[HEDR_TITLE_BACK]);
-        const int line = FontCell(parm[HEDR_TITLE_FONT]).cy;
-        const int margin = TitleMargin(PtrnHedr, line);
-        int x0 = 0;
-        if (parm[HEDR_LOGO] && PtrnHedr.LogoName[0]) {
-            LogoMarkButn = SetRect(margin, margin, Shift(margin, line), Shift(margin, line));
-            draw->DrawBmap(LogoMarkButn, -1, PtrnHedr.LogoName);
-            x0 = Shift(line, margin);
-        }
-        DrawTitleText(draw, PtrnHedr, x0, line, margin);
-        PtrnCalnPos = margin;
-        if (parm[HEDR_HARDCOPY]) {
-            const int right = Saturate(std::int64_t{parm[HEDR_WIDTH]} - margin);
-            HardCopyButn = SetRect(Shift(right, -line), margin, right, Shift(margin, line));
-            draw->DrawXpm(HardCopyButn, XPM_Printer);
-            PtrnCalnPos = Saturate(2 * std::int64_t{margin} + line);
-        }
+    Fill(draw, 0, 0, parm[HEDR_WIDTH], parm[HEDR_TITLE_HEIGHT], parm[HEDR_TITLE_BACK]);
+    const int line = FontCell(parm[HEDR_TITLE_FONT]).cy;
+    const int margin = TitleMargin(PtrnHedr, line);
+    int x0 = 0;
+    if (parm[HEDR_LOGO] && PtrnHedr.LogoName[0]) {
+        LogoMarkButn = SetRect(margin, margin, Shift(margin, line), Shift(margin, line));
+        draw->DrawBmap(LogoMarkButn, -1, PtrnHedr.LogoName);
+        x0 = Shift(line, margin);
+    }
+    DrawTitleText(draw, PtrnHedr, x0, line, margin);
+    PtrnCalnPos = margin;
+    if (parm[HEDR_HARDCOPY]) {
+        const int right = Saturate(std::int64_t{parm[HEDR_WIDTH]} - margin);
+        HardCopyButn = SetRect(Shift(right, -line), margin, right, Shift(margin, line));
+        draw->DrawXpm(HardCopyButn, XPM_Printer);
+        PtrnCalnPos = Saturate(2 * std::int64_t{margin} + line);
+    }
+}
+
+void CPtrnData::DispTitle(CDraw* draw)
+{
+    if (PtrnHedr.Parm1[HEDR_TITLE_HEIGHT]) {
+        DrawTitleBar(draw);
         DispCalender(draw);
+    }
+    DrawBody(draw, PtrnHedr);
+    DrawOuterFrame(draw, PtrnHedr);
+}
+
+void CPtrnData::RestoreTitle(CDraw* draw, const Box& area)
+{
+    // The body covers what sticks out of the bar, unless its bitmap does not cover it.
+    const bool bare = PtrnHedr.BmapName[0] != '\0';
+    if (bare && DrawBelow)
+        DrawBelow(draw);
+    const int height = PtrnHedr.Parm1[HEDR_TITLE_HEIGHT];
+    if (height && (bare || area.top < height)) {
+        DrawTitleBar(draw);
+        if (HasClock(PtrnHedr))
+            DrawClock(draw);
     }
     DrawBody(draw, PtrnHedr);
     DrawOuterFrame(draw, PtrnHedr);
@@ -130,11 +154,20 @@ void CPtrnData::DispCalender(CDraw* draw)
         return;
     int caln[7];
     Get_Caln(caln);
-    const auto [year, month, day, weekday, hour, minute, second] = caln;
-    if (second == PtrnCalnSec)
+    if (caln[6] == PtrnCalnSec)
         return;
-    PtrnCalnSec = second;
+    PtrnCalnSec = caln[6];
+    if (Has(Correction::Layers))
+        RestoreClock(draw);
+    else
+        DrawClock(draw);
+}
 
+void CPtrnData::DrawClock(CDraw* draw)
+{
+    int caln[7];
+    Get_Caln(caln);
+    const auto [year, month, day, weekday, hour, minute, second] = caln;
     const auto& parm = PtrnHedr.Parm1;
     const auto& names = parm[HEDR_CLOCK] < CLOCK_JAPANESE ? Week1 : Week2;
     const char* const name = weekday >= 0 && weekday < 7 ? names[weekday] : "";

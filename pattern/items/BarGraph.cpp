@@ -2,6 +2,7 @@
 #include "base/Coord.h"
 #include "comndata/LimtData.h"
 #include "draw/DrawCntl.h"
+#include "pattern/ItemCell.h"
 #include "pattern/items/ItemDraw.h"
 
 #include <algorithm>
@@ -43,12 +44,42 @@ int Hold(int value, int end1, int end2)
 }
 
 /// The position `share` of `length` away from `start`. A share that is no number gives the start itself.
-int Advance(int start, std::int64_t length, float share)
+template <typename Real> int Advance(int start, std::int64_t length, Real share)
 {
-    const float distance = static_cast<float>(length) * share;
+    const Real distance = static_cast<Real>(length) * share;
     if (std::isnan(distance))
         return start;
-    return Saturate(start + static_cast<std::int64_t>(std::clamp(distance, -1e10f, 1e10f)));
+    constexpr auto farthest = static_cast<Real>(1e10);
+    return Saturate(start + static_cast<std::int64_t>(std::clamp(distance, -farthest, farthest)));
+}
+
+/// The ends of the scale; a scale without length shows no level.
+template <typename Real> struct Scale {
+    Real minimum;
+    Real maximum;
+};
+
+template <typename Real> Scale<Real> ScaleOf(const PTRNDATA* item)
+{
+    if (item->Parm[BARG_MINIMUM] != 0 || item->Parm[BARG_MAXIMUM] != 0)
+        return {static_cast<Real>(item->Parm[BARG_MINIMUM]), static_cast<Real>(item->Parm[BARG_MAXIMUM])};
+    float minimum = 0;
+    float maximum = 0;
+    Get_LimtData(item->DataNo, &minimum, &maximum, nullptr, 0);
+    return {static_cast<Real>(minimum), static_cast<Real>(maximum)};
+}
+
+/// Sets the level of a value. The scale spans the whole item, the bar only the part inside the frame.
+template <typename Real> void SetLevel(BarArea& area, const PTRNDATA* item, Real value)
+{
+    const Scale<Real> scale = ScaleOf<Real>(item);
+    if (!(scale.minimum < scale.maximum))
+        return;
+    const Real share = (value - scale.minimum) / (scale.maximum - scale.minimum);
+    const std::int64_t width = std::int64_t{item->Parm[PARM_X2]} - item->Parm[PARM_X1];
+    const std::int64_t height = std::int64_t{item->Parm[PARM_Y1]} - item->Parm[PARM_Y2];
+    area.xl = Hold(Advance(area.xa, width, share), area.xa, area.xb);
+    area.yl = Hold(Advance(area.yb, height, share), area.ya, area.yb);
 }
 
 BarArea LayOut(const PTRNDATA* item)
@@ -62,17 +93,10 @@ BarArea LayOut(const PTRNDATA* item)
     BarArea area{Shift(x1, inset), Shift(y1, inset), Shift(x2, back), Shift(y2, back), 0, 0};
     area.xl = area.xa;
     area.yl = area.yb;
-
-    float min = static_cast<float>(item->Parm[BARG_MINIMUM]);
-    float max = static_cast<float>(item->Parm[BARG_MAXIMUM]);
-    if (item->Parm[BARG_MINIMUM] == 0 && item->Parm[BARG_MAXIMUM] == 0)
-        Get_LimtData(item->DataNo, &min, &max, nullptr, 0);
-    if (min < max) {
-        // The scale spans the whole item, the bar only the part inside the frame.
-        const float share = (item->fData - min) / (max - min);
-        area.xl = Hold(Advance(area.xa, std::int64_t{x2} - x1, share), area.xa, area.xb);
-        area.yl = Hold(Advance(area.yb, std::int64_t{y1} - y2, share), area.ya, area.yb);
-    }
+    if (Has(Correction::LargeNumbers))
+        SetLevel(area, item, ItemNumber(item));
+    else
+        SetLevel(area, item, item->fData);
     return area;
 }
 

@@ -49,6 +49,9 @@ constexpr bool IsUsable(const PTRNDATA& item)
     return item.wData < STATE_DISABLE;
 }
 
+/// Whether an item of any type is one that blinks, by its state or by a parameter of its type.
+bool Blinks(const PTRNDATA& item);
+
 /// Paints the item's rectangle with its clear colour.
 void EraseRect(CDraw* draw, const PTRNDATA* item);
 

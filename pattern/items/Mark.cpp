@@ -1,4 +1,5 @@
 // Mark: an icon in two colours.
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "draw/Resource.h"
 #include "pattern/items/ItemDraw.h"
@@ -35,7 +36,10 @@ void Draw(CPtrnData& data, CDraw* draw, PTRNDATA* item, int updt)
 
     // Stored at once and by every kind of display, so that the next update wipes this mark.
     item->Parm[MARK_LAST] = mark;
-    data.WritePtrnData(item);
+    if (!Has(Correction::Layers))
+        data.WritePtrnData(item);
+    else if (item->Recd >= 0 && item->Recd < data.PtrnCont)
+        data.PtrnData[item->Recd].Parm[MARK_LAST] = mark;
 }
 
 void Blink(CDraw* draw, const PTRNDATA* item, int phase)

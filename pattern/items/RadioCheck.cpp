@@ -3,6 +3,7 @@
 #include "comndata/ComnData.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
+#include "pattern/ItemCell.h"
 #include "pattern/items/ItemDraw.h"
 #include "pattern/Press.h"
 
@@ -82,13 +83,13 @@ void DrawWith(CDraw* draw, const PTRNDATA* item, int mark)
 
 void DrawRadio(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
-    const bool on = std::trunc(static_cast<double>(item->fData)) == item->Parm[RDIO_VALUE];
+    const bool on = std::trunc(ItemNumber(item)) == item->Parm[RDIO_VALUE];
     DrawWith(draw, item, on ? MARK_RADIO_ON : MARK_RADIO_OFF);
 }
 
 void DrawCheck(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
-    DrawWith(draw, item, item->fData == 0.0f ? MARK_CHECK_OFF : MARK_CHECK_ON);
+    DrawWith(draw, item, ItemNumber(item) == 0.0 ? MARK_CHECK_OFF : MARK_CHECK_ON);
 }
 
 int Hit(POINT point, const PTRNDATA* item)

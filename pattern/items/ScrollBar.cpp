@@ -5,6 +5,7 @@
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"
+#include "pattern/ItemCell.h"
 #include "pattern/items/ItemDraw.h"
 #include "pattern/Press.h"
 
@@ -77,7 +78,7 @@ bool CanScroll(const PTRNDATA& item)
 int ScrollTo(const PTRNDATA* item, std::int64_t value)
 {
     const int position = Saturate(std::min(std::max<std::int64_t>(value, 0), Range(*item)));
-    if (position == Get_iData(item->DataNo, nullptr, 0))
+    if (position == ItemInteger(CellNumber(item->DataNo)))
         return 0;
     Set_iData(item->DataNo, position, nullptr, 0);
     return 1;
@@ -85,7 +86,7 @@ int ScrollTo(const PTRNDATA* item, std::int64_t value)
 
 int ScrollBy(const PTRNDATA* item, std::int64_t distance)
 {
-    return ScrollTo(item, Get_iData(item->DataNo, nullptr, 0) + distance);
+    return ScrollTo(item, ItemInteger(CellNumber(item->DataNo)) + distance);
 }
 
 int StepScrollBar(const PTRNDATA* item, int part)
@@ -218,7 +219,7 @@ void CPtrnData::SetScrollBar(PTRNDATA* item)
     constexpr int thumbMargin = 2;
     const int length = Inset(end, begin);
     const int thumb = Scale(length, parm[SBAR_VISIBLE], parm[SBAR_TOTAL]);
-    const int offset = Scale(Inset(length, thumb), Get_iData(item->DataNo, nullptr, 0), Range(*item));
+    const int offset = Scale(Inset(length, thumb), ItemInteger(CellNumber(item->DataNo)), Range(*item));
     const int thumbBegin = Shift(begin, offset);
     SCrect5 = piece(thumbBegin, Shift(thumbBegin, thumb), thumbMargin);
     SCrect6 = piece(begin, end);

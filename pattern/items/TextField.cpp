@@ -1,6 +1,7 @@
 // Fixed text, variable text and numeric field.
 #include "base/Coord.h"
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "pattern/items/ItemDraw.h"
@@ -78,6 +79,8 @@ void DrawState(CDraw* draw, const PTRNDATA* item)
     const int behind = Background(item);
     if (!IsDisabled(item))
         DrawText(draw, item, Selected(item, TEXT_COLOR4), behind);
+    else if (behind != -1 && Has(Correction::Layers))
+        DrawText(draw, item, behind, behind); // as large as the text, not only as its ink
     else if (behind != -1)
         draw->ClearText(item->Parm[PARM_X1], item->Parm[PARM_Y1], item->Parm[TEXT_FONT], behind, item->Text);
 }
@@ -87,7 +90,7 @@ void DrawState(CDraw* draw, const PTRNDATA* item)
 void DrawField(CDraw* draw, const PTRNDATA* item)
 {
     const int behind = Background(item);
-    if (!IsDisabled(item) && behind != -1) {
+    if ((!IsDisabled(item) || Has(Correction::Layers)) && behind != -1) {
         const SIZE cell = FontCell(item->Parm[TEXT_FONT]);
         const std::int64_t wide = std::int64_t{cell.cx} * std::max(0, item->Parm[FIELD_WIDTH]);
         const int x = item->Parm[PARM_X1];
@@ -97,8 +100,8 @@ void DrawField(CDraw* draw, const PTRNDATA* item)
     DrawState(draw, item);
 }
 
-/// Bytes of `text` that a field of `limit` bytes shows. Only the two bytes at the cut are looked at: when
-/// both may belong to two-byte characters, one byte less is shown.
+/// Bytes of `text` that a field of `limit` bytes showed before it was cut rightly. Only the two bytes at the
+/// cut are looked at: when both may belong to two-byte characters, one byte less is shown.
 std::size_t FieldCut(const char* text, std::size_t limit)
 {
     const std::size_t length = std::strlen(text);
@@ -106,6 +109,11 @@ std::size_t FieldCut(const char* text, std::size_t limit)
         return length;
     const auto half = [text](std::size_t at) { return IsEucHalf(static_cast<unsigned char>(text[at])); };
     return limit > 0 && half(limit - 1) && half(limit) ? limit - 1 : limit;
+}
+
+std::size_t ShownBytes(const char* text, std::size_t limit)
+{
+    return Has(Correction::TextCut) ? EucCut(text, limit) : FieldCut(text, limit);
 }
 
 void DrawFixed(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
@@ -116,7 +124,7 @@ void DrawFixed(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 void DrawVariable(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 {
     const int limit = std::clamp(item->Parm[FIELD_WIDTH], 0, SIZE_PTRNTEXT);
-    CopyText(item->Text, FieldCut(item->sData, static_cast<std::size_t>(limit)) + 1, item->sData);
+    CopyText(item->Text, ShownBytes(item->sData, static_cast<std::size_t>(limit)) + 1, item->sData);
     DrawField(draw, item);
 }
 

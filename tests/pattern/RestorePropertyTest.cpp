@@ -1,0 +1,133 @@
+// Whatever has happened to the cells of a pattern, its window looks as one that has just been opened: with
+// items of all types on top of each other, with and without backgrounds, hidden, disabled and blinking.
+#include "tests/pattern/LoadedPattern.h"
+#include "tests/pattern/RandomItems.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/UseEdition.h"
+
+namespace
+{
+
+constexpr int width = 160;
+constexpr int height = 120;
+constexpr int cellCount = 25; ///< the numbers of the codes "A" and "B"
+constexpr int clockCells = 7; ///< the first of them
+
+class AnyRestored : public LoadedPattern
+{
+  protected:
+    AnyRestored() : canvas(width, height) { useRandomArtwork(project, 3); }
+
+    static Pattern randomPattern(Random& random, int count)
+    {
+        Pattern pattern("p");
+        pattern.size(width, height).header(HEDR_TITLE_HEIGHT, random.below(30));
+        pattern.header(HEDR_BODY_SHADED, random.below(2)).header(HEDR_BAND_HEIGHT, random.below(20));
+        pattern.header(HEDR_KIND, random.below(2)).header(HEDR_FRAME_WIDTH, random.below(4));
+        pattern.header(HEDR_HARDCOPY, random.below(2)).header(HEDR_CLOCK, random.below(7));
+        if (random.oneIn(4))
+            pattern.bitmap("four.ppm");
+        pattern.title(randomText(random, 12));
+        for (int i = 0; i < count; ++i) {
+            addAnyItem(pattern, random.between(1, CONT_PTRN), random, width, height);
+            pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
+            const int cell = random.between(0, cellCount + 1);
+            if (cell > cellCount)
+                pattern.code("unknown");
+            else if (cell > 0)
+                pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
+        }
+        return pattern;
+    }
+
+    static void change(Random& random)
+    {
+        // Cell 0 is that of the items without a code, which no tick updates; the clock only goes on as a
+        // whole.
+        const int no = random.between(clockCells + 1, cellCount);
+        switch (random.below(3)) {
+        case 0:
+            setState(no, static_cast<int>(random.bits() & random.bits() & 0xFFFF & ~STATE_FROZEN));
+            break;
+        case 1:
+            set(no, randomNumber(random, {}));
+            break;
+        default:
+            setText(no, randomText(random, 40).c_str());
+        }
+    }
+
+    static void display(CPtrnData& pattern, Canvas& on)
+    {
+        on.clear();
+        pattern.DispTitle(on.draw());
+        pattern.DispPtrnData(on.draw());
+    }
+
+    void tick()
+    {
+        data().DispCalender(canvas.draw());
+        data().FlikPtrnData(canvas.draw());
+        data().UpdtPtrnData(canvas.draw());
+    }
+
+    /// A window of the same pattern that was opened at this moment and blinks in step.
+    static Picture openedNow(int ticks)
+    {
+        Canvas other(width, height);
+        CPtrnData opened("p");
+        for (int i = 0; i < ticks; ++i)
+            opened.FlikPtrnData(other.draw());
+        display(opened, other);
+        return other.picture();
+    }
+
+    Canvas canvas;
+};
+
+} // namespace
+
+TEST_F(AnyRestored, looks_after_every_tick_as_if_it_had_just_been_opened)
+{
+    const UseEdition edition;
+    for (const unsigned seed : seeds(12)) {
+        SCOPED_TRACE(seedText(seed));
+        Random random(seed);
+        load(randomPattern(random, 30));
+        for (int changes = 0; changes < 50; ++changes)
+            change(random);
+        display(data(), canvas);
+        for (int ticks = 1; ticks <= 40; ++ticks) {
+            for (int changes = random.below(6); changes > 0; --changes)
+                change(random);
+            set(clockCells, static_cast<float>(random.below(60)));
+            tick();
+            ASSERT_TRUE(same(canvas.picture(), openedNow(ticks))) << "tick " << ticks;
+        }
+    }
+}
+
+TEST_F(AnyRestored, area_is_drawn_anew_and_nothing_else)
+{
+    const UseEdition edition;
+    for (const unsigned seed : seeds(12)) {
+        SCOPED_TRACE(seedText(seed));
+        Random random(seed);
+        load(randomPattern(random, 30));
+        for (int changes = 0; changes < 50; ++changes)
+            change(random);
+        display(data(), canvas);
+        const Picture whole = canvas.picture();
+        for (int round = 0; round < 20; ++round) {
+            const RECT area = SetRect(random.between(-20, width + 20), random.between(-20, height + 20),
+                                      random.between(-20, width + 20), random.between(-20, height + 20));
+            canvas.clear();
+            data().RestoreArea(canvas.draw(), area);
+            Picture expected = canvas.blank();
+            for (int y = std::max(0, area.top); y < std::min(height, area.bottom); ++y)
+                for (int x = std::max(0, area.left); x < std::min(width, area.right); ++x)
+                    expected.set(x, y, whole.at(x, y));
+            ASSERT_TRUE(same(canvas.picture(), expected)) << "round " << round;
+        }
+    }
+}
