@@ -1,6 +1,8 @@
 // Text of a numeric field's value.
 #include "comndata/ComnData.h"
+#include "config/Edition.h"
 #include "pattern/ItemParm.h"
+#include "pattern/NumberText.h"
 #include "pattern/PtrnData.h"
 
 #include <algorithm>
@@ -45,6 +47,10 @@ std::string Tail(const std::string& digits, int width)
 
 const char* ConvertNumrData(const PTRNDATA* item)
 {
+    if (tessary::Has(tessary::Correction::NumberRoom)) {
+        std::snprintf(text, sizeof text, "%s", tessary::NumberText(item).c_str());
+        return text;
+    }
     const int width = std::clamp<int>(item->Parm[FIELD_WIDTH], -longest, longest);
     const int decimals = std::min<int>(item->Parm[FIELD_DECIMALS], longest);
     const bool zeros = item->Parm[FIELD_ZEROFILL] != 0;
