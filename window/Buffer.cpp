@@ -1,6 +1,8 @@
 #include "window/Buffer.h"
 
 #include "base/Limits.h"
+#include "config/Edition.h"
+#include "draw/DrawScope.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -55,11 +57,20 @@ std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)
     GdkPixmap* pixmap = NewPixmap(area->window, size);
     // Not everything need be drawn on: a picture of the body may be missing.
     gdk_draw_rectangle(pixmap, area->style->bg_gc[GTK_STATE_NORMAL], TRUE, 0, 0, size.cx, size.cy);
+    if (Has(Correction::QuietTick))
+        RecordDrawings(pixmap)->add({0, 0, size.cx, size.cy});
     return {new CPaintDraw(pixmap), [](CPaintDraw* draw) {
                 GdkDrawable* buffer = draw->window;
                 PaintDrawRelease()(draw);
                 g_object_unref(buffer);
             }};
+}
+
+void FillGround(GtkWidget* area, CDraw* draw)
+{
+    const Box whole = WholeOf(draw->window);
+    gdk_gc_set_foreground(draw->gc, &area->style->bg[GTK_STATE_NORMAL]);
+    draw->DrawRect1(1, whole.left, whole.top, whole.right, whole.bottom);
 }
 
 } // namespace tessary

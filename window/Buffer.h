@@ -18,4 +18,7 @@ SIZE BoundedBuffer(int width, int height);
 /// buffer is one pixel large; that is logged.
 std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size);
 
+/// Fills what a context may draw on with the plain background that new back buffers have.
+void FillGround(GtkWidget* area, CDraw* draw);
+
 } // namespace tessary

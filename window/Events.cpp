@@ -1,6 +1,7 @@
 // The toolkit's events turned into the window's calls.
 #include "window/Events.h"
 
+#include "config/Edition.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
@@ -132,10 +133,13 @@ int Configure_Event(GtkWidget*, GdkEventConfigure*, CPtrnDisp* wnd)
     return TRUE;
 }
 
-int Expose_Event(GtkWidget*, GdkEventExpose*, CPtrnDisp* wnd)
+int Expose_Event(GtkWidget*, GdkEventExpose* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
-    wnd->UpdateEvent();
+    if (event && event->region && Has(Correction::QuietTick))
+        wnd->UpdateArea(*event);
+    else
+        wnd->UpdateEvent();
     return TRUE;
 }
 

@@ -202,6 +202,13 @@ void CPtrnDisp::ShowKeyInput()
     HideKeyCursor();
 }
 
+/// Of a part of the display that is drawn anew: the field in edit as it is.
+void CPtrnDisp::RedrawKeyInput(CDraw* draw)
+{
+    if (KeyInputMode == 1)
+        KeyInputDisp(draw, DRAW_BACK | DRAW_TEXT | (KeyInputFlag ? DRAW_CURSOR : 0));
+}
+
 /// The text has been drawn without the cursor, which appears at the next tick.
 void CPtrnDisp::HideKeyCursor()
 {

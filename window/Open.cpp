@@ -74,6 +74,11 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
     delete PtrnData;
     PtrnData = nullptr;
     PtrnData = new CPtrnData(pattern.c_str());
+    PtrnData->DrawBelow = [this](CDraw* draw) {
+        if (DrawArea)
+            FillGround(DrawArea, draw);
+    };
+    PtrnData->DrawAbove = [this](CDraw* draw) { RedrawKeyInput(draw); };
 
     const int width = Header(HEDR_WIDTH);
     const int height = Header(HEDR_HEIGHT);

@@ -200,6 +200,7 @@ class CPtrnDisp
 
   private:
     friend struct tessary::WindowSignals;
+    friend int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
     friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
     /// is using it, since a hook of that may close the window.
@@ -218,7 +219,13 @@ class CPtrnDisp
     void PressTitle(POINT pt);
     void ExitChildren();
     void ReleaseBuffer();
+    RECT ViewOfBuffer() const;
     void ClearUncovered(RECT view);
+    void UpdateArea(const GdkEventExpose& event);
+    void RunDispFunc(CDraw* draw);
+    void ShowDrawn();
+    void RedrawKeyInput(CDraw* draw);
+    RECT ViewRect{}; ///< of the back buffer: what the window shows since the last tick
     void FollowWindow();
     void InsistOnShowing();
     void LeaveWidget();

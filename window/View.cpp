@@ -3,6 +3,7 @@
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
 #include "comndata/PtrnCode.h"
+#include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
 #include "log/LogText.h"
@@ -68,6 +69,10 @@ void CPtrnDisp::PtrnSetScroll(int dataNo, int total, int pos, const char* file, 
 
 void CPtrnDisp::PtrnDispData(CDraw* draw, int dataNo, int type)
 {
+    if (Has(Correction::Layers)) {
+        PtrnData->RedrawPtrnData(draw, dataNo, type);
+        return;
+    }
     for (int i = 0; i < PtrnData->PtrnCont; i++) {
         PTRNDATA item = PtrnData->PtrnData[i];
         if (item.DataNo != dataNo || (type != 0 && item.Type != type))

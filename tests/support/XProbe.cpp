@@ -44,6 +44,11 @@ void setKeyboardOwner(unsigned long window)
     XSync(own(), False);
 }
 
+unsigned long requestsSent()
+{
+    return NextRequest(GDK_DISPLAY());
+}
+
 ForeignWindow::ForeignWindow(int x, int y, int width, int height)
 {
     Display* display = XOpenDisplay(XServer::display().c_str());

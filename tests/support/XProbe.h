@@ -19,6 +19,9 @@ unsigned long keyboardOwner();
 /// Gives the keyboard to nobody (0), to the window under the pointer (1) or to a window.
 void setKeyboardOwner(unsigned long window);
 
+/// Requests that this process's toolkit has sent to the server so far.
+unsigned long requestsSent();
+
 /// Opens a window of another program at a place of the screen. @return its number
 class ForeignWindow
 {
