@@ -4,10 +4,12 @@
 //   bench_tick_cost
 //
 // Needs the X server of $DISPLAY. Ends with 1 when a screen of 10,000 bound items costs a millisecond or
-// more, when the cost grows faster than the items, or when items send a request.
+// more, when the cost grows faster than the items, when items send a request, or when a tick that changes one
+// item costs more than twice as much in the edition that restores layers as in the first one.
 #include "base/EucText.h"
 #include "bench/BenchProject.h"
 #include "bench/BenchWindow.h"
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "pattern/PtrnData.h"
 
@@ -26,6 +28,9 @@ constexpr double limit = 1e-3; ///< seconds a tick of the largest screen
 constexpr double growth = 4.0;
 /// Requests a tick of a whole window, which renews the pointer and copies the back buffer, whatever it shows.
 constexpr unsigned long windowLimit = 20;
+
+/// Times that a tick with one changed item may cost when what lies below and above it is drawn too.
+constexpr double layersLimit = 2.0;
 
 template <typename Number> Number Median(std::vector<Number> numbers)
 {
@@ -139,11 +144,48 @@ class TickScreen
         return {Median(warm), Median(cold), NextRequest(GDK_DISPLAY()) - before};
     }
 
+    /// Seconds of a tick in which one item has changed, each time another one, with its part of the requests
+    /// sent to the server.
+    double measureChanged()
+    {
+        constexpr int ticks = 300;
+        std::vector<double> times;
+        for (int batch = 0; batch < 15; batch++) {
+            const double start = ProcessorTime();
+            for (int i = 0; i < ticks; i++) {
+                changed_ = (changed_ + 7919) % items();
+                const int no = BenchProject::firstCell + changed_;
+                Set_iData(no, Get_iData(no, nullptr, 0) + 1, nullptr, 0);
+                tick();
+            }
+            times.push_back((ProcessorTime() - start) / ticks);
+            gdk_display_sync(gdk_display_get_default());
+        }
+        return Median(times);
+    }
+
   private:
     CPtrnData pattern_;
     GdkPixmap* pixmap_;
     PaintDrawPtr draw_;
+    int changed_ = 0;
 };
+
+/// One of all items of a screen changes in each tick.
+/// @return how many times a tick costs more in the edition that restores layers
+double CompareEditions(const char* name)
+{
+    double times[2] = {};
+    for (const int edition : {1, 2}) {
+        tessary::SetEdition(edition);
+        TickScreen screen(name);
+        times[edition - 1] = screen.measureChanged();
+    }
+    tessary::SetEdition(1);
+    std::printf("a tick that changes one item: %.2f us in edition 1, %.2f us in edition 2, ratio %.2f (%s)\n",
+                times[0] * 1e6, times[1] * 1e6, times[1] / times[0], name);
+    return times[1] / times[0];
+}
 
 /// Requests of one tick of a window.
 unsigned long WindowRequests(const char* name)
@@ -193,6 +235,8 @@ int main()
         missed = missed || cost.requests != 0 || each > growth * smallest || inWindow > windowLimit;
     }
     missed = missed || cost.warm >= limit || cost.cold >= limit;
+
+    missed = missed || CompareEditions("static") > layersLimit;
 
     const double bare = BareComparison(largest);
     std::printf("%d items cost %.1f times a bare comparison of as many cells (%.2f us)\n", largest,
