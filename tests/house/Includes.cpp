@@ -35,6 +35,7 @@ constexpr Area areas[] = {
     {"tessary.h", Group::framework, 9},
     {"app", Group::sample, 0},
     {"app/ptn", Group::registration, 0}, // the sample's own part of the tool
+    {"tools/ptn/system", Group::tool, 0},
     {"tools/ptn/common", Group::tool, 0},
     {"tools/ptn/yaml", Group::tool, 1},
     {"tools/ptn/model", Group::tool, 2, true}, // reads pictures

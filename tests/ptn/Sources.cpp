@@ -11,23 +11,20 @@ namespace fs = std::filesystem;
 
 Sources::Sources() : before_(fs::current_path().string())
 {
-    std::string name = (fs::temp_directory_path() / "ptn-XXXXXX").string();
-    root_ = mkdtemp(name.data());
-    fs::create_directories(root_ + "/src/screens");
-    fs::create_directories(root_ + "/src/bitmaps");
-    fs::current_path(root_);
+    fs::create_directories(root() + "/src/screens");
+    fs::create_directories(root() + "/src/bitmaps");
+    fs::current_path(root());
 }
 
 Sources::~Sources()
 {
     std::error_code ignored;
     fs::current_path(before_, ignored);
-    fs::remove_all(root_, ignored);
 }
 
 Sources& Sources::write(const std::string& name, const std::string& text)
 {
-    writeFile(root_ + "/src/" + name, text);
+    writeFile(root() + "/src/" + name, text);
     return *this;
 }
 
@@ -50,8 +47,8 @@ PtnResult Sources::build() const
 
 PtnResult Sources::run(const std::string& arguments) const
 {
-    const std::string out = root_ + "/stdout";
-    const std::string err = root_ + "/stderr";
+    const std::string out = root() + "/stdout";
+    const std::string err = root() + "/stderr";
     const std::string command = Program::buildFolder() + "/ptn " + arguments + " >" + out + " 2>" + err;
     const int status = std::system(command.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(out), readFile(err)};

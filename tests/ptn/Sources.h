@@ -1,6 +1,8 @@
 // A temporary folder of sources, and the tool itself run on it.
 #pragma once
 
+#include "tools/ptn/system/TemporaryFolder.h"
+
 #include <string>
 
 struct PtnResult {
@@ -19,9 +21,9 @@ class Sources
     Sources(const Sources&) = delete;
     Sources& operator=(const Sources&) = delete;
 
-    std::string root() const { return root_; }
-    std::string output() const { return root_ + "/out/ProjPath"; }
-    std::string profile() const { return root_ + "/out/panel.ini"; }
+    std::string root() const { return folder_.path().string(); }
+    std::string output() const { return root() + "/out/ProjPath"; }
+    std::string profile() const { return root() + "/out/panel.ini"; }
 
     /// Writes a file below src; texts are UTF-8.
     Sources& write(const std::string& name, const std::string& text);
@@ -39,6 +41,6 @@ class Sources
     std::string built(const std::string& name) const;
 
   private:
-    std::string root_;
+    ptn::TemporaryFolder folder_{"ptn-"};
     std::string before_;
 };

@@ -45,11 +45,9 @@ std::string field(const std::string& text, std::size_t size)
 
 Project::Project() : before_(fs::current_path().string())
 {
-    std::string name = (fs::temp_directory_path() / "tessary-XXXXXX").string();
-    root_ = mkdtemp(name.data());
     fs::create_directories(folder());
     fs::create_directories(logFolder());
-    fs::current_path(root_);
+    fs::current_path(root());
     set("TESSARY", "PROJECT", folder());
     set("LOG", "LOGFILE", logFolder());
     set("LOG", "LOGSIZE", "1");
@@ -69,7 +67,6 @@ Project::~Project()
     Language = 0;
     std::error_code ignored;
     fs::current_path(before_, ignored);
-    fs::remove_all(root_, ignored);
 }
 
 Project& Project::set(const std::string& section, const std::string& key, const std::string& value)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Types.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 
 #include <string>
 #include <vector>
@@ -25,10 +26,10 @@ class Project
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;
 
-    std::string root() const { return root_; }
-    std::string folder() const { return root_ + "/ProjPath"; }
-    std::string logFolder() const { return root_ + "/log"; }
-    std::string profile() const { return root_ + "/panel.ini"; }
+    std::string root() const { return folder_.path().string(); }
+    std::string folder() const { return root() + "/ProjPath"; }
+    std::string logFolder() const { return root() + "/log"; }
+    std::string profile() const { return root() + "/panel.ini"; }
 
     /// Adds a key; panel.ini is written anew at once. Logging is on with LOGSIZE 1 from the start.
     Project& set(const std::string& section, const std::string& key, const std::string& value);
@@ -58,7 +59,7 @@ class Project
 
   private:
     void writeProfile() const;
-    std::string root_;
+    ptn::TemporaryFolder folder_{"tessary-"};
     std::string before_;
     std::vector<std::pair<std::string, std::vector<std::pair<std::string, std::string>>>> keys_;
     std::string codes_;

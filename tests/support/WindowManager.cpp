@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
@@ -92,16 +91,13 @@ void waitFor(const char* what, const std::function<bool()>& condition)
 WindowManager::WindowManager()
 {
     XServer::ensure();
-    home_ = (std::filesystem::temp_directory_path() / "tessary-wm-XXXXXX").string();
-    if (!mkdtemp(home_.data()))
-        ADD_FAILURE() << "no folder for the window manager";
     pid_ = fork();
     if (pid_ == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         const int nowhere = open("/dev/null", O_RDWR);
         dup2(nowhere, STDOUT_FILENO);
         dup2(nowhere, STDERR_FILENO);
-        setenv("HOME", home_.c_str(), 1);
+        setenv("HOME", home_.path().c_str(), 1);
         setenv("LC_ALL", "C", 1);
         execlp("openbox", "openbox", "--sm-disable", static_cast<char*>(nullptr));
         _exit(127);
@@ -127,8 +123,6 @@ WindowManager::~WindowManager()
         resume();
         waitpid(pid_, nullptr, 0);
     }
-    std::error_code ignored;
-    std::filesystem::remove_all(home_, ignored);
 }
 
 void WindowManager::pause() const

@@ -2,7 +2,8 @@
 // raises a window and Alt with the left button moves it.
 #pragma once
 
-#include <string>
+#include "tools/ptn/system/TemporaryFolder.h"
+
 #include <sys/types.h>
 
 class WindowManager
@@ -27,5 +28,5 @@ class WindowManager
 
   private:
     pid_t pid_ = -1;
-    std::string home_;
+    ptn::TemporaryFolder home_{"tessary-wm-"};
 };

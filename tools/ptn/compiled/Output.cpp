@@ -3,10 +3,8 @@
 #include "tools/ptn/common/Files.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <cstdint>
-#include <cstdlib>
 #include <sstream>
 
 namespace ptn
@@ -74,42 +72,36 @@ int RemoveOld(const fs::path& folder, const std::string& before, const FileMap& 
 
 } // namespace
 
-// Within the folder, which may be the only one of its file system; files can only be moved within one.
-Staging::Staging(const fs::path& folder) : folder_(folder), made_(fs::create_directories(folder))
+MadeFolder::MadeFolder(const fs::path& path) : path_(path), made_(fs::create_directories(path)) {}
+
+MadeFolder::~MadeFolder()
 {
-    std::string name = (folder / ".ptn-XXXXXX").string();
-    if (!mkdtemp(name.data()))
-        throw fs::filesystem_error("can not be made", name, std::error_code(errno, std::generic_category()));
-    temporary_ = name;
+    std::error_code notEmpty;
+    if (made_)
+        fs::remove(path_, notEmpty);
 }
 
-Staging::~Staging()
-{
-    std::error_code ignored;
-    fs::remove_all(temporary_, ignored);
-    if (made_)
-        fs::remove(folder_, ignored); // which fails unless it has stayed empty
-}
+Staging::Staging(const fs::path& folder) : folder_(folder), temporary_(".ptn-", folder) {}
 
 void Staging::add(const std::string& name, const std::string& bytes)
 {
-    if (ReadBytes(folder_ / name) == bytes)
+    if (ReadBytes(folder_.path() / name) == bytes)
         return;
     // Found out before anything is moved.
     std::error_code missing;
-    if (fs::is_directory(folder_ / name, missing))
-        throw fs::filesystem_error("is a folder", folder_ / name,
+    if (fs::is_directory(folder_.path() / name, missing))
+        throw fs::filesystem_error("is a folder", folder_.path() / name,
                                    std::make_error_code(std::errc::is_a_directory));
-    WriteBytes(temporary_ / std::to_string(names_.size()), bytes);
+    WriteBytes(temporary_.path() / std::to_string(names_.size()), bytes);
     names_.push_back(name);
 }
 
 int Staging::moveIn()
 {
     for (std::size_t i = 0; i < names_.size(); ++i) {
-        const fs::path target = folder_ / names_[i];
+        const fs::path target = folder_.path() / names_[i];
         fs::create_directories(target.parent_path());
-        fs::rename(temporary_ / std::to_string(i), target);
+        fs::rename(temporary_.path() / std::to_string(i), target);
     }
     return static_cast<int>(names_.size());
 }

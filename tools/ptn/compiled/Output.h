@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 
 #include <filesystem>
 #include <string>
@@ -10,6 +11,22 @@
 namespace ptn
 {
 
+/// A folder that goes again when it was not there before and has stayed empty.
+class MadeFolder
+{
+  public:
+    explicit MadeFolder(const std::filesystem::path& path);
+    ~MadeFolder();
+    MadeFolder(const MadeFolder&) = delete;
+    MadeFolder& operator=(const MadeFolder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+    bool made_;
+};
+
 /// New files, written into a hidden folder first and moved to their places when everything is complete. What
 /// is not moved is removed again, and so is the folder itself when it was made for them.
 class Staging
@@ -17,9 +34,6 @@ class Staging
   public:
     /// @param folder  where the files will go; made when needed
     explicit Staging(const std::filesystem::path& folder);
-    ~Staging();
-    Staging(const Staging&) = delete;
-    Staging& operator=(const Staging&) = delete;
 
     /// Writes a file unless the folder has it with the same bytes already.
     void add(const std::string& name, const std::string& bytes);
@@ -28,9 +42,8 @@ class Staging
     int moveIn();
 
   private:
-    std::filesystem::path folder_;
-    bool made_ = false; ///< the folder was not there before
-    std::filesystem::path temporary_;
+    MadeFolder folder_;
+    TemporaryFolder temporary_; ///< within the folder; files can only be moved within one file system
     std::vector<std::string> names_;
 };
 

@@ -2,11 +2,11 @@
 
 #include "base/EucText.h"
 #include "tools/ptn/common/Files.h"
-#include "tools/ptn/common/TemporaryFolder.h"
 #include "tools/ptn/compiled/Build.h"
 #include "tools/ptn/compiled/Compiled.h"
 #include "tools/ptn/emit/ScreenText.h"
 #include "tools/ptn/source/Sections.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -56,7 +56,7 @@ FileMap SourceFiles(Compiled& compiled)
 // Builds the sources aside and compares. @return how many files are alike
 int CompareBuild(const fs::path& project, const fs::path& sources, Diagnostics& diagnostics)
 {
-    const TemporaryFolder temporary;
+    const TemporaryFolder temporary("ptn-");
     const fs::path built = temporary.path() / project.filename();
     Diagnostics found;
     Build(sources, built, found);

@@ -12,14 +12,15 @@
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/Names.h"
-#include "tools/ptn/common/TemporaryFolder.h"
 #include "tools/ptn/compiled/Build.h"
 #include "tools/ptn/render/Picture.h"
-#include "tools/ptn/render/PrivateDisplay.h"
 #include "tools/ptn/source/StateFile.h"
+#include "tools/ptn/system/PrivateServer.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <unistd.h>
 
@@ -57,7 +58,7 @@ class Stage
 
   private:
     void link(const fs::path& project);
-    TemporaryFolder folder_;
+    TemporaryFolder folder_{"ptn-"};
     fs::path before_ = fs::current_path();
 };
 
@@ -108,6 +109,22 @@ void SetCells(const ScreenState& state)
         Set_sData(cell.cell, cell.text.c_str(), nullptr, 0);
         Set_wData(cell.cell, cell.word, nullptr, 0);
     }
+}
+
+// A display to draw on: that of the user or, without one, a server of this process.
+bool EnsureDisplay(Diagnostics& diagnostics)
+{
+    if (const char* display = std::getenv("DISPLAY"); display && *display)
+        return true;
+    const std::string& display = PrivateDisplay();
+    if (display.empty()) {
+        diagnostics.error({"", 0},
+                          "$DISPLAY is not set and Xvfb does not start. Install the package xvfb, or "
+                          "set DISPLAY.");
+        return false;
+    }
+    setenv("DISPLAY", display.c_str(), 1);
+    return true;
 }
 
 // The framework as start-up leaves it, without a window and without a log.

@@ -1,6 +1,6 @@
 #include "tools/ptn/render/Watch.h"
 
-#include "tools/ptn/common/TemporaryFolder.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 
 #include <filesystem>
 #include <gio/gio.h>
@@ -41,7 +41,7 @@ class Watcher
     void show(const std::string& text);
 
     const WatchJob& job_;
-    TemporaryFolder folder_;
+    TemporaryFolder folder_{"ptn-"};
     std::vector<Owned<GFileMonitor>> monitors_;
     guint settling_ = 0;
     Owned<GSubprocess> drawing_; ///< makes the picture; null while none is being made

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace ptn
 {
@@ -9,8 +10,10 @@ namespace ptn
 class TemporaryFolder
 {
   public:
+    /// Makes a folder with a name of its own that begins with `prefix`.
+    /// @param parent  an existing folder; without it that for temporary files
     /// Throws std::filesystem::filesystem_error when it can not be made.
-    TemporaryFolder();
+    explicit TemporaryFolder(const std::string& prefix, const std::filesystem::path& parent = "");
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;

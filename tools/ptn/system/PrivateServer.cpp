@@ -1,4 +1,4 @@
-#include "tools/ptn/render/PrivateDisplay.h"
+#include "tools/ptn/system/PrivateServer.h"
 
 #include <csignal>
 #include <cstdio>
@@ -15,7 +15,7 @@ namespace ptn
 namespace
 {
 
-constexpr int startSeconds = 30;
+constexpr int startSeconds = 60;
 
 pid_t server = -1;
 pid_t owner = -1;
@@ -37,7 +37,7 @@ pid_t owner = -1;
 }
 
 // The server writes the display's number and a line feed once it accepts connections.
-std::string ReadNumber(int pipe)
+std::string ReadDisplay(int pipe)
 {
     std::string number;
     for (pollfd ready{pipe, POLLIN, 0}; poll(&ready, 1, startSeconds * 1000) == 1;) {
@@ -45,7 +45,7 @@ std::string ReadNumber(int pipe)
         if (read(pipe, &byte, 1) != 1)
             return "";
         if (byte == '\n')
-            return number;
+            return ":" + number;
         number += byte;
     }
     return "";
@@ -53,38 +53,35 @@ std::string ReadNumber(int pipe)
 
 void StopServer()
 {
-    if (getpid() != owner)
+    if (getpid() != owner) // a child
         return;
     kill(server, SIGTERM);
     waitpid(server, nullptr, 0);
 }
 
-} // namespace
-
-bool EnsureDisplay(Diagnostics& diagnostics)
+std::string StartServer()
 {
-    if (const char* display = std::getenv("DISPLAY"); display && *display)
-        return true;
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0)
-        return false;
+        return "";
     owner = getpid();
     server = fork();
     if (server == 0)
         RunServer(ends[1]);
     close(ends[1]);
-    const std::string number = server > 0 ? ReadNumber(ends[0]) : "";
+    const std::string display = server > 0 ? ReadDisplay(ends[0]) : "";
     close(ends[0]);
     if (server > 0)
         std::atexit(StopServer);
-    if (number.empty()) {
-        diagnostics.error(
-            {"", 0},
-            "$DISPLAY is not set and Xvfb does not start. Install the package xvfb, or set DISPLAY.");
-        return false;
-    }
-    setenv("DISPLAY", (":" + number).c_str(), 1);
-    return true;
+    return display;
+}
+
+} // namespace
+
+const std::string& PrivateDisplay()
+{
+    static const std::string display = StartServer();
+    return display;
 }
 
 } // namespace ptn

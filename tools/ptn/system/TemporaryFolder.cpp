@@ -1,17 +1,16 @@
-#include "tools/ptn/common/TemporaryFolder.h"
+#include "tools/ptn/system/TemporaryFolder.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <string>
 
 namespace ptn
 {
 
 namespace fs = std::filesystem;
 
-TemporaryFolder::TemporaryFolder()
+TemporaryFolder::TemporaryFolder(const std::string& prefix, const fs::path& parent)
 {
-    std::string name = (fs::temp_directory_path() / "ptn-XXXXXX").string();
+    std::string name = ((parent.empty() ? fs::temp_directory_path() : parent) / (prefix + "XXXXXX")).string();
     if (!mkdtemp(name.data()))
         throw fs::filesystem_error("can not be made", name, std::error_code(errno, std::generic_category()));
     path_ = name;
