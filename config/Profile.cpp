@@ -9,6 +9,7 @@
 #include <cstdarg>
 #include <cstdint>
 #include <cstring>
+#include <glib.h>
 #include <string>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -292,4 +293,12 @@ void ProfileWriteAsc(const char* file, const char* section, const char* key, con
 void ProfileWriteAsc(const char* file, const char* section, const char* key, int number, const char* value)
 {
     ProfileWrite(file, section, key, number, "s", value);
+}
+
+unsigned short atoh(const char* text)
+{
+    unsigned value = 0;
+    for (int i = 0; text && i < 4 && g_ascii_isxdigit(text[i]); i++)
+        value = value * 16 + static_cast<unsigned>(g_ascii_xdigit_value(text[i]));
+    return static_cast<unsigned short>(value);
 }

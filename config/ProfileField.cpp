@@ -1,7 +1,6 @@
 #include "config/ProfileField.h"
 
 #include "base/EucText.h"
-#include "config/Profile.h"
 
 #include <algorithm>
 #include <climits>
@@ -25,18 +24,6 @@ bool HoldsOnly(const char* text, const char* allowed)
 bool IsDecimalNumber(const char* text)
 {
     return HoldsOnly(text, "0123456789.") && std::count(text, text + std::strlen(text), '.') <= 1;
-}
-
-// The number a hexadecimal digit stands for, or -1.
-int DigitValue(char digit)
-{
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    if (digit >= 'A' && digit <= 'F')
-        return digit - 'A' + 10;
-    if (digit >= 'a' && digit <= 'f')
-        return digit - 'a' + 10;
-    return -1;
 }
 
 } // namespace
@@ -115,12 +102,4 @@ void htoa(WORD value, char (&text)[SIZE_FIELD])
 void ftoa(float value, char (&text)[SIZE_FIELD])
 {
     std::snprintf(text, sizeof text, "%.4f", static_cast<double>(value));
-}
-
-unsigned short atoh(const char* text)
-{
-    unsigned value = 0;
-    for (int i = 0; text && i < 4 && DigitValue(text[i]) >= 0; i++)
-        value = value * 16 + static_cast<unsigned>(DigitValue(text[i]));
-    return static_cast<unsigned short>(value);
 }

@@ -23,8 +23,6 @@ struct Exception {
 };
 
 constexpr Exception exceptions[] = {
-    {"config/Profile, config/ProfileField, config/ProfileImage: a circle",
-     "Profile.h declares what reads fields too"},
     {"tessary.h: \"gtk/gtk.h\" is of the toolkit",
      "applications name the toolkit's types without including it"},
     {"tools/ptn/source/ProjectSource, tools/ptn/source/Sections: a circle",
