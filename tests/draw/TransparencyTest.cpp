@@ -28,7 +28,7 @@ class Transparency : public testing::Test
         // Nothing, half, all, and the key colour.
         const std::array<guchar, 16> pixels = {255, 255, 255, 0,   0, 100, 200, 128,
                                                10,  20,  30,  255, 7, 8,   9,   255};
-        const PixbufPtr file(gdk_pixbuf_new(GDK_COLORSPACE_RGB, TRUE, 8, 4, 1));
+        const tessary::PixbufPtr file(gdk_pixbuf_new(GDK_COLORSPACE_RGB, TRUE, 8, 4, 1));
         std::copy(pixels.begin(), pixels.end(), gdk_pixbuf_get_pixels(file.get()));
         const std::string path = project.folder() + "/Bitmap/glass.png";
         EXPECT_TRUE(gdk_pixbuf_save(file.get(), path.c_str(), "png", nullptr, nullptr));

@@ -5,6 +5,8 @@
 #include "tests/support/Canvas.h"
 #include "tests/support/UseEdition.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -4,6 +4,8 @@
 
 #include "config/Edition.h"
 
+using namespace tessary;
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 #include "draw/Resource.h"
 #include "window/Request.h"
 
+using namespace tessary;
+
 namespace
 {
 
