@@ -4,6 +4,7 @@
 #include "comndata/Cells.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -56,8 +57,8 @@ CodeIndex codeIndex;
 
 void LogCut(const PTRNCODE& row, std::size_t number, const char* reason)
 {
-    LogText("COMNMEM", __FILE__, __LINE__, "PtrnCode: table ends before row %zu [%.*s], count %d: %s", number,
-            static_cast<int>(sizeof row.ID_Code), row.ID_Code, row.DataCount, reason);
+    LogText(CATEGORY_CELLS, __FILE__, __LINE__, "PtrnCode: table ends before row %zu [%.*s], count %d: %s",
+            number, static_cast<int>(sizeof row.ID_Code), row.ID_Code, row.DataCount, reason);
 }
 
 /// Takes the rows that can be used, which are those before the first one that can not.
@@ -89,7 +90,8 @@ int LoadRows(int size)
 {
     int count = size / static_cast<int>(sizeof(PTRNCODE));
     if (count > CONT_PTRNCODE) {
-        LogText("COMNMEM", __FILE__, __LINE__, "PtrnCode: %d rows, only %d are read", count, CONT_PTRNCODE);
+        LogText(CATEGORY_CELLS, __FILE__, __LINE__, "PtrnCode: %d rows, only %d are read", count,
+                CONT_PTRNCODE);
         count = CONT_PTRNCODE;
     }
     if (count == 0)

@@ -4,6 +4,7 @@
 #include "comndata/Cells.h"
 #include "comndata/CodeTable.h"
 #include "comndata/PtrnCode.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -91,7 +92,7 @@ int CheckComnData(int no, const char* file, int line)
     if (HasCell(no))
         return 1;
     if (file)
-        LogText("COMNMEM", file, line, "Data No Error [%d]", no);
+        LogText(CATEGORY_CELLS, file, line, "Data No Error [%d]", no);
     return 0;
 }
 
@@ -249,33 +250,33 @@ void Clear_AllData(int no, const char* file, int line)
     }
     char name[SIZE_DTNONAME];
     ConvertDtno(no, name);
-    LogText("COMNMEM", file, line, "Clear_AllData Error [%s / %d]", name, no);
+    LogText(CATEGORY_CELLS, file, line, "Clear_AllData Error [%s / %d]", name, no);
 }
 
 void SetLogfile(int no, int write, WORD value, const char* file, int line)
 {
     char name[SIZE_DTNONAME];
     if (IsLogged(no, file, name))
-        LogText("COMNMEM", file, line, "%s[%s] 0x%04X", AccessText(write), name, value);
+        LogText(CATEGORY_CELLS, file, line, "%s[%s] 0x%04X", AccessText(write), name, value);
 }
 
 void SetLogfile(int no, int write, int value, const char* file, int line)
 {
     char name[SIZE_DTNONAME];
     if (IsLogged(no, file, name))
-        LogText("COMNMEM", file, line, "%s[%s] %d", AccessText(write), name, value);
+        LogText(CATEGORY_CELLS, file, line, "%s[%s] %d", AccessText(write), name, value);
 }
 
 void SetLogfile(int no, int write, float value, const char* file, int line)
 {
     char name[SIZE_DTNONAME];
     if (IsLogged(no, file, name))
-        LogText("COMNMEM", file, line, "%s[%s] %.2f", AccessText(write), name, value);
+        LogText(CATEGORY_CELLS, file, line, "%s[%s] %.2f", AccessText(write), name, value);
 }
 
 void SetLogfile(int no, int write, const char* value, const char* file, int line)
 {
     char name[SIZE_DTNONAME];
     if (IsLogged(no, file, name))
-        LogText("COMNMEM", file, line, "%s[%s] %s", AccessText(write), name, value);
+        LogText(CATEGORY_CELLS, file, line, "%s[%s] %s", AccessText(write), name, value);
 }

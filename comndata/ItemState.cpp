@@ -3,6 +3,7 @@
 #include "base/Constants.h"
 #include "comndata/ComnData.h"
 #include "comndata/PtrnCode.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 using namespace tessary;
@@ -22,7 +23,7 @@ void SwitchState(int no, int bit, bool on, const char* set, const char* clear, c
 
     char name[SIZE_DTNONAME];
     if (file && ConvertDtno(no, name))
-        LogText("PTRNDISP", file, line, "%s  [%s]", on ? set : clear, name);
+        LogText(CATEGORY_WINDOW, file, line, "%s  [%s]", on ? set : clear, name);
 }
 
 } // namespace
@@ -36,7 +37,7 @@ void Set_Color(int no, int colour, const char* file, int line)
 
     char name[SIZE_DTNONAME];
     if (file && ConvertDtno(no, name))
-        LogText("PTRNDISP", file, line, "表示色設定  [%s / %d]", name, colour);
+        LogText(CATEGORY_WINDOW, file, line, "表示色設定  [%s / %d]", name, colour);
 }
 
 void Set_Flikr(int no, int on, const char* file, int line)

@@ -7,6 +7,7 @@
 #include "comndata/PtrnCode.h"
 #include "comndata/TableFile.h"
 #include "config/Profile.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -41,7 +42,8 @@ int Resolve(const LIMTDATA& row, int offset, int number)
 {
     const int no = ConvertDtno(row.ID_Code, offset);
     if (no == -1)
-        LogText("LIMTDATA", __FILE__, __LINE__, "LimtData Error [%d / %s / %d]", number, row.ID_Code, offset);
+        LogText(CATEGORY_LIMITS, __FILE__, __LINE__, "LimtData Error [%d / %s / %d]", number, row.ID_Code,
+                offset);
     return no;
 }
 
@@ -61,7 +63,7 @@ bool CheckNumber(int no, const char* file, int line)
         return true;
     char name[SIZE_DTNONAME];
     if (ConvertDtno(no, name))
-        LogText("LIMTDATA", file, line, "Data No Error [%s]", name);
+        LogText(CATEGORY_LIMITS, file, line, "Data No Error [%s]", name);
     return false;
 }
 
@@ -71,7 +73,7 @@ void LoadLimtData()
 {
     ExitLimtData();
     char path[SIZE_PATH + 1];
-    if (!TablePath(path, "LimtData", "LIMTDATA"))
+    if (!TablePath(path, "LimtData", CATEGORY_LIMITS))
         return;
 
     LimitArea minimum;

@@ -9,6 +9,7 @@
 #include "comndata/TableFile.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -28,7 +29,7 @@ void BindToCell(MESGDATA& row, int number)
 {
     const int no = ConvertDtno(row.ID_Code, row.ID_No);
     if (no == -1)
-        LogText("MESGDATA", __FILE__, __LINE__, "MesgData Error [%d / %s / %d]", number, row.ID_Code,
+        LogText(CATEGORY_MESSAGES, __FILE__, __LINE__, "MesgData Error [%d / %s / %d]", number, row.ID_Code,
                 row.ID_No);
     else
         ShareText(no, row.MesgText);
@@ -40,7 +41,7 @@ void LoadMesgData()
 {
     ExitMesgData();
     char path[SIZE_PATH + 1];
-    if (!TablePath(path, "MesgData", "MESGDATA"))
+    if (!TablePath(path, "MesgData", CATEGORY_MESSAGES))
         return;
 
     const int language = Language == 0 || Language == 1 ? Language : LANGUAGE_COUNT - 1;
@@ -75,7 +76,7 @@ LPTSTR Get_MesgData(int no, const char* file, int line)
 {
     if (no >= 1 && no <= CONT_MESGDATA && MesgData[no - 1])
         return MesgData[no - 1]->MesgText;
-    LogText("MESGDATA", file, line, "Message No Error [%d]", no);
+    LogText(CATEGORY_MESSAGES, file, line, "Message No Error [%d]", no);
     static char none[1];
     none[0] = '\0';
     return none;

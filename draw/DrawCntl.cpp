@@ -4,6 +4,7 @@
 #include "draw/DrawCheck.h"
 #include "draw/DrawScope.h"
 #include "draw/Resource.h"
+#include "log/Category.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
 
@@ -15,7 +16,7 @@ using namespace tessary;
 void tessary::DrawCheckFailed(int line, const char* function, const char* condition)
 {
     // The panel's own log tells too why it ended, with the lines that were still buffered.
-    LogText("DRAWCNTL", nullptr, 0, "%s: assertion failed: (%s)", function, condition);
+    LogText(CATEGORY_DRAW, nullptr, 0, "%s: assertion failed: (%s)", function, condition);
     LogfileSave();
     g_log(G_LOG_DOMAIN, G_LOG_LEVEL_ERROR, "file %s: line %d (%s): assertion failed: (%s)", "DrawCntl", line,
           function, condition);

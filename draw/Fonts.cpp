@@ -4,6 +4,7 @@
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
 #include "draw/ToolkitPtr.h"
+#include "log/Category.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
 
@@ -21,8 +22,6 @@ SIZE FontSize[CONT_FONT];
 
 namespace
 {
-
-constexpr char kLog[] = "SYSTEM";
 
 /// What DrawFont points at. Never destroyed: the display may go before the program ends.
 std::array<FontPtr, CONT_FONT>& Fonts()
@@ -64,13 +63,15 @@ bool LoadFont(int no, const std::string& key, const std::string& name)
     DrawFont[no] = font.get();
     FontDataInit(no, name.c_str());
     if (!font) {
-        LogText(kLog, __FILE__, __LINE__, "フォントの読込みに失敗 [%s=%s]", key.c_str(), name.c_str());
+        LogText(CATEGORY_SYSTEM, __FILE__, __LINE__, "フォントの読込みに失敗 [%s=%s]", key.c_str(),
+                name.c_str());
         return false;
     }
     const std::string missing = MissingCharsets(font.get());
     if (missing.empty())
         return true;
-    LogText(kLog, __FILE__, __LINE__, "フォントに文字集合がない [%s: %s]", key.c_str(), missing.c_str());
+    LogText(CATEGORY_SYSTEM, __FILE__, __LINE__, "フォントに文字集合がない [%s: %s]", key.c_str(),
+            missing.c_str());
     return false;
 }
 
@@ -90,12 +91,12 @@ void tessary::FontInit()
     }
 
     if (!named)
-        LogText(kLog, __FILE__, __LINE__,
+        LogText(CATEGORY_SYSTEM, __FILE__, __LINE__,
                 "文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない",
                 FontKey(0).c_str(), FontKey(CONT_FONT - 1).c_str());
     if (!complete)
         LogfileWrite(
-            kLog,
+            CATEGORY_SYSTEM,
             "xfonts-base, xfonts-intl-japanese を導入してXサーバーを再起動するか、[FONT] の名前を直すこと "
             "(名前はコンマで終わる。一つの名前が * で全文字集合に合うこと)",
             __FILE__, __LINE__);

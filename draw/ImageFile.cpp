@@ -2,6 +2,7 @@
 
 #include "base/Constants.h"
 #include "draw/ResourceLoad.h"
+#include "log/Category.h"
 #include "log/Logfile.h"
 
 #include <algorithm>
@@ -117,7 +118,7 @@ void ReportMissing(const char* name)
         return;
     char text[SIZE_LOGMESG2 + 2];
     std::snprintf(text, sizeof text, "ビットマップの読込みに失敗 [%s]", name);
-    LogfileWrite("DRAWCNTL", text, nullptr, 0);
+    LogfileWrite(CATEGORY_DRAW, text, nullptr, 0);
 }
 
 } // namespace tessary

@@ -9,6 +9,7 @@
 #include "dialogs/MessageBox.h"
 #include "dialogs/PtrnMente.h"
 #include "draw/Resource.h"
+#include "log/Category.h"
 #include "log/Clock.h"
 #include "log/Logfile.h"
 #include "shell/Locale.h"
@@ -68,7 +69,7 @@ int TessaryInit(char* path)
     LogfileInit();
     LogfileWrite("", "システム起動", nullptr, 0);
     if (const char* problem = LocaleProblem())
-        LogfileWrite("SYSTEM", problem, nullptr, 0);
+        LogfileWrite(CATEGORY_SYSTEM, problem, nullptr, 0);
 
     if (ComnDataInit() != 1)
         return 0;

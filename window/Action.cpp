@@ -1,5 +1,6 @@
 // Action codes, messages and closing.
 #include "comndata/PtrnCode.h"
+#include "log/Category.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
 #include "window/PtrnDisp.h"
@@ -10,11 +11,6 @@
 using namespace tessary;
 
 using namespace tessary;
-
-namespace
-{
-constexpr char kLog[] = "PTRNDISP";
-}
 
 void CPtrnDisp::ExecMessage(PTRNDATA* item)
 {
@@ -74,7 +70,7 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
     switch (which) {
     case CLOSE_SELF:
         if (!ParentWnd)
-            LogfileWrite(kLog, "最上位ウィンドウを閉じることはできません。", file, line);
+            LogfileWrite(CATEGORY_WINDOW, "最上位ウィンドウを閉じることはできません。", file, line);
         else if (PtrnType == KIND_CHILD1 || PtrnType == KIND_CHILD2)
             ParentWnd->PtrnCloseWnd(PtrnType, file, line);
         else if (PtrnType == KIND_SYSTEM)
@@ -88,7 +84,7 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
                 Slot(which) = nullptr;
             RetirePtrnWnd(child);
             if (file)
-                LogfileWrite(kLog,
+                LogfileWrite(CATEGORY_WINDOW,
                              which == CLOSE_CHILD1 ? "子ウィンドウ（１）を閉じる。"
                                                    : "子ウィンドウ（２）を閉じる。",
                              file, line);
@@ -97,7 +93,7 @@ void CPtrnDisp::PtrnCloseWnd(int which, const char* file, int line)
     case CLOSE_SYSTEM:
         PtrnDispSysWnd("", nullptr, 0);
         if (file)
-            LogfileWrite(kLog, "システムウィンドウを閉じる。", file, line);
+            LogfileWrite(CATEGORY_WINDOW, "システムウィンドウを閉じる。", file, line);
         break;
     default:
         break;
@@ -116,7 +112,7 @@ void CPtrnDisp::PtrnSendMessage(int target, int mesg, const char* file, int line
     if (receiver)
         receiver->PtrnMesgFunc(mesg);
 
-    char name[SIZE_DTNONAME + 1];
+    char name[SIZE_DTNONAME];
     if (file && ConvertDtno(mesg, name))
-        LogText(kLog, file, line, "メッセージ送信  [%d / %s]", target, name);
+        LogText(CATEGORY_WINDOW, file, line, "メッセージ送信  [%d / %s]", target, name);
 }

@@ -3,6 +3,7 @@
 #include "base/Limits.h"
 #include "config/Edition.h"
 #include "draw/DrawScope.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
         return gdk_pixmap_new(window, size.cx, size.cy, -1);
     if (GdkPixmap* pixmap = TryPixmap(window, size))
         return pixmap;
-    LogText("PTRNDISP", nullptr, 0, "Xサーバーのメモリが足りない  [%d x %d]", size.cx, size.cy);
+    LogText(CATEGORY_WINDOW, nullptr, 0, "Xサーバーのメモリが足りない  [%d x %d]", size.cx, size.cy);
     return gdk_pixmap_new(window, 1, 1, -1);
 }
 

@@ -3,6 +3,7 @@
 #include "base/Coord.h"
 #include "base/EucText.h"
 #include "draw/DrawCntl.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"
@@ -146,7 +147,7 @@ void InputMethod::type(const char* utf8)
         const auto length = static_cast<std::size_t>(g_utf8_next_char(at) - at);
         const std::string euc = FieldForm(std::string(at, length));
         if (euc.empty())
-            LogText("PTRNDISP", nullptr, 0, "入力できない文字  [U+%04X]", g_utf8_get_char(at));
+            LogText(CATEGORY_WINDOW, nullptr, 0, "入力できない文字  [U+%04X]", g_utf8_get_char(at));
         for (const unsigned char byte : euc)
             ReqKeyEntry(byte, 0);
     }

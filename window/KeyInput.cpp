@@ -7,6 +7,7 @@
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
 #include "config/Profile.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemCell.h"
 #include "pattern/ItemParm.h"
@@ -24,8 +25,6 @@ using namespace tessary;
 namespace
 {
 
-constexpr char kLog[] = "PTRNDISP";
-
 // What KeyInputDisp draws.
 enum KeyDraw { DRAW_BACK = 1, DRAW_TEXT = 2, DRAW_CURSOR = 4, DRAW_NO_CURSOR = 8 };
 
@@ -42,13 +41,13 @@ void CPtrnDisp::KeyInputStart(int dataNo, const char* file, int line)
 {
     PTRNDATA item;
     if (!PtrnReadData(dataNo, PTRN_CHAR, &item) && !PtrnReadData(dataNo, PTRN_NUMR, &item)) {
-        LogText(kLog, file, line, "キー入力開始に失敗  [%s]", NameOf(dataNo).c_str());
+        LogText(CATEGORY_WINDOW, file, line, "キー入力開始に失敗  [%s]", NameOf(dataNo).c_str());
         return;
     }
     if (!IsUsable(item.wData) || item.Parm[FIELD_KEYENTRY] != 1)
         return;
     if (file)
-        LogText(kLog, file, line, "キー入力開始  [%s]", NameOf(dataNo).c_str());
+        LogText(CATEGORY_WINDOW, file, line, "キー入力開始  [%s]", NameOf(dataNo).c_str());
     KeyInputStart(&item);
 }
 
@@ -78,7 +77,7 @@ int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int l
     if (KeyInputCheck(static_cast<int>(key)) == 0)
         return 0;
     if (file)
-        LogText(kLog, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo).c_str());
+        LogText(CATEGORY_WINDOW, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo).c_str());
 
     PTRNDATA item = KeyInputPtrn;
     if (Draw) {

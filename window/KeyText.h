@@ -2,13 +2,14 @@
 // are byte indexes.
 #pragma once
 
+#include "base/Limits.h"
 #include "pattern/PtrnData.h"
 #include "window/KeyValue.h"
 
 namespace tessary
 {
 
-constexpr int KEYTEXT_SIZE = 256;
+constexpr int KEYTEXT_SIZE = TEXT_BUFFER;
 
 /// Field length in bytes, held within what an edited text can be.
 int KeyFieldWidth(const PTRNDATA& item);

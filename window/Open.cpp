@@ -5,6 +5,7 @@
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "draw/Resource.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/Buffer.h"
@@ -13,6 +14,7 @@
 
 #include <cstdio>
 #include <string>
+#include <utility>
 
 using namespace tessary;
 
@@ -36,7 +38,7 @@ CPtrnDisp::~CPtrnDisp()
 {
     DestroyWidget();
     ReleaseBuffer();
-    delete PtrnData;
+    ReleasePattern();
     ForgetPtrnWnd(this);
 }
 
@@ -60,6 +62,12 @@ int CPtrnDisp::PtrnKeyStart(PTRNDATA*)
 }
 void CPtrnDisp::PtrnKeyFunc(int, int, PTRNDATA*) {}
 
+/// The public pointer is itself the owner: a screen class may put another pattern in its place.
+void CPtrnDisp::ReleasePattern()
+{
+    delete std::exchange(PtrnData, nullptr);
+}
+
 void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
 {
     const std::string pattern(name ? name : ""); // what it points to may be replaced here
@@ -71,8 +79,7 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
     PtrnType = kind;
     CopyText(PtrnName, pattern.c_str());
 
-    delete PtrnData;
-    PtrnData = nullptr;
+    ReleasePattern();
     PtrnData = new CPtrnData(pattern.c_str());
     PtrnData->DrawBelow = [this](CDraw* draw) {
         if (DrawArea)
@@ -84,9 +91,9 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
     const int height = Header(HEDR_HEIGHT);
     const SIZE shown = BoundedBuffer(width, height);
     if (width < 1 || height < 1)
-        LogText("PTRNDISP", nullptr, 0, "パターンを表示できない  [%s]", PtrnName);
+        LogText(CATEGORY_WINDOW, nullptr, 0, "パターンを表示できない  [%s]", PtrnName);
     else if (shown.cx < width || shown.cy < height)
-        LogText("PTRNDISP", nullptr, 0, "パターンが大きすぎる  [%s / %d x %d]", PtrnName, width, height);
+        LogText(CATEGORY_WINDOW, nullptr, 0, "パターンが大きすぎる  [%s / %d x %d]", PtrnName, width, height);
 }
 
 void CPtrnDisp::PlaceWindow()

@@ -4,6 +4,7 @@
 #include "draw/DrawScope.h"
 #include "draw/Resource.h"
 #include "draw/ToolkitPtr.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/Buffer.h"
@@ -269,5 +270,5 @@ void CPtrnDisp::PtrnSetCursor(int type, const char* file, int line)
     if (type >= 0 && type < CONT_CURSOR && DrawArea && DrawArea->window)
         SendPointer(DrawArea->window, type);
     if (file)
-        LogText("PTRNDISP", file, line, "カーソル設定  [%d]", type);
+        LogText(CATEGORY_WINDOW, file, line, "カーソル設定  [%d]", type);
 }

@@ -214,6 +214,7 @@ class CPtrnDisp
     int Hidden = 0;          ///< ticks until it does
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
+    void ReleasePattern();
     void PlaceWindow();
     bool InTitle(POINT pt) const;
     void PressTitle(POINT pt);

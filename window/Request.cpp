@@ -5,6 +5,7 @@
 #include "config/FileCntl.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "log/Category.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
 #include "window/MaintenanceWnd.h"
@@ -21,8 +22,6 @@ int WaitTimer;
 
 namespace
 {
-
-constexpr char kLog[] = "SYSTEM";
 
 /// Takes a window out of the slot of the system window. Another one that a hook has opened in the meantime
 /// stays there.
@@ -75,11 +74,11 @@ void PtrnDispTopWnd(const char* name, const char* file, int line)
     const std::string pattern(name ? name : ""); // the registry may use the buffer that it lies in
     CPtrnDisp* wnd = GetPtrnWnd(pattern.c_str());
     if (!wnd) {
-        LogText(kLog, file, line, "最上位ウィンドウ表示に失敗  [%s]", pattern.c_str());
+        LogText(CATEGORY_SYSTEM, file, line, "最上位ウィンドウ表示に失敗  [%s]", pattern.c_str());
         return;
     }
     if (file)
-        LogText(kLog, file, line, "最上位ウィンドウ表示  [%s]", pattern.c_str());
+        LogText(CATEGORY_SYSTEM, file, line, "最上位ウィンドウ表示  [%s]", pattern.c_str());
 
     CPtrnDisp* old = AppliWnd;
     AppliWnd = wnd;
@@ -96,17 +95,17 @@ void PtrnDispSysWnd(const char* name, const char* file, int line)
     CloseSystemWnd();
     if (pattern.empty()) {
         if (file)
-            LogfileWrite(kLog, "システムウィンドウを閉じる。", file, line);
+            LogfileWrite(CATEGORY_SYSTEM, "システムウィンドウを閉じる。", file, line);
         return;
     }
 
     CPtrnDisp* wnd = GetPtrnWnd(pattern.c_str());
     if (!wnd) {
-        LogText(kLog, file, line, "システムウィンドウ表示に失敗  [%s]", pattern.c_str());
+        LogText(CATEGORY_SYSTEM, file, line, "システムウィンドウ表示に失敗  [%s]", pattern.c_str());
         return;
     }
     if (file)
-        LogText(kLog, file, line, "システムウィンドウ表示  [%s]", pattern.c_str());
+        LogText(CATEGORY_SYSTEM, file, line, "システムウィンドウ表示  [%s]", pattern.c_str());
     OpenSystemWnd(wnd, pattern.c_str());
 }
 
@@ -124,7 +123,7 @@ void ReqSystemStop(const char* file, int line)
 {
     SystemStop = 1;
     if (file)
-        LogfileWrite(kLog, "システム停止要求", file, line);
+        LogfileWrite(CATEGORY_SYSTEM, "システム停止要求", file, line);
 
     // The setting is in seconds, the countdown in ticks.
     const int seconds = ProfileReadInt(ProfName, "TESSARY", "WAITTIMER");
@@ -155,5 +154,5 @@ void ReqKeyReset()
 void ReqHardCopy(const char* file, int line)
 {
     if (file)
-        LogfileWrite(kLog, "ハードコピー要求", file, line);
+        LogfileWrite(CATEGORY_SYSTEM, "ハードコピー要求", file, line);
 }

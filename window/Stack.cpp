@@ -1,5 +1,6 @@
 // Child and popup windows.
 #include "draw/Resource.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"
@@ -13,8 +14,6 @@ using namespace tessary;
 
 namespace
 {
-
-constexpr char kLog[] = "PTRNDISP";
 
 /// Puts a new window of the pattern into the slot and opens it. The occupant is destroyed first, without its
 /// exit hook: its position is not saved and its own children are not exited.
@@ -30,14 +29,14 @@ void FillSlot(CPtrnDisp*& slot, int kind, const char* name, const char* file, in
     }
     slot = GetPtrnWnd(pattern.c_str());
     if (!slot) {
-        LogText(kLog, file, line,
+        LogText(CATEGORY_WINDOW, file, line,
                 first ? "子ウィンドウ（１）表示に失敗  [%s]" : "子ウィンドウ（２）表示に失敗  [%s]",
                 pattern.c_str());
         return;
     }
     if (file)
-        LogText(kLog, file, line, first ? "子ウィンドウ（１）表示  [%s]" : "子ウィンドウ（２）表示  [%s]",
-                pattern.c_str());
+        LogText(CATEGORY_WINDOW, file, line,
+                first ? "子ウィンドウ（１）表示  [%s]" : "子ウィンドウ（２）表示  [%s]", pattern.c_str());
     open(slot, pattern.c_str());
 }
 
@@ -85,13 +84,13 @@ void CPtrnDisp::PtrnDispPopup(int which, const char* name, RECT rect, const char
 {
     PTRNHEDR header;
     if (!PtrnReadHedr(name, &header)) {
-        LogText(kLog, file, line, "ポップアップウィンドウ表示に失敗  [%s]", name ? name : "");
+        LogText(CATEGORY_WINDOW, file, line, "ポップアップウィンドウ表示に失敗  [%s]", name ? name : "");
         return;
     }
     const int x = BesideArea(rect.right, rect.left, header.Parm1[HEDR_WIDTH], DispSizeX);
     const int y = BesideArea(rect.top, rect.bottom, header.Parm1[HEDR_HEIGHT], DispSizeY);
     if (file)
-        LogText(kLog, file, line, "ポップアップウィンドウ表示  [%s]", name);
+        LogText(CATEGORY_WINDOW, file, line, "ポップアップウィンドウ表示  [%s]", name);
     PtrnDispChild(which, name, x, y, nullptr, 0);
 }
 

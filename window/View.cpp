@@ -6,6 +6,7 @@
 #include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
+#include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemCell.h"
 #include "pattern/ItemParm.h"
@@ -17,11 +18,6 @@
 #include <string>
 
 using namespace tessary;
-
-namespace
-{
-constexpr char kLog[] = "PTRNDISP";
-}
 
 void CPtrnDisp::PtrnSetOffset(int target, int x, int y, const char* file, int line)
 {
@@ -37,17 +33,17 @@ void CPtrnDisp::PtrnSetOffset(int target, int x, int y, const char* file, int li
     Offset = {x, y};
     PtrnUpdate();
     if (file)
-        LogText(kLog, file, line, "表示開始位置設定  [%d / (%d,%d)]", target, x, y);
+        LogText(CATEGORY_WINDOW, file, line, "表示開始位置設定  [%d / (%d,%d)]", target, x, y);
 }
 
 void CPtrnDisp::PtrnSetScroll(int dataNo, int total, int pos, const char* file, int line)
 {
-    char name[SIZE_DTNONAME + 1] = "";
+    char name[SIZE_DTNONAME] = "";
     const int named = ConvertDtno(dataNo, name);
 
     PTRNDATA bar;
     if (!PtrnReadData(dataNo, PTRN_SBAR, &bar)) {
-        LogText(kLog, file, line, "スクロールバー設定エラー  [%s]", name);
+        LogText(CATEGORY_WINDOW, file, line, "スクロールバー設定エラー  [%s]", name);
         return;
     }
     bar.Parm[SBAR_TOTAL] = total;
@@ -64,7 +60,7 @@ void CPtrnDisp::PtrnSetScroll(int dataNo, int total, int pos, const char* file, 
         Set_Disable(bar.DataNo, 1, 1, nullptr, 0);
     }
     if (file && named)
-        LogText(kLog, file, line, "スクロールバー設定  [%s / (%d,%d)]", name, total, pos);
+        LogText(CATEGORY_WINDOW, file, line, "スクロールバー設定  [%s / (%d,%d)]", name, total, pos);
 }
 
 void CPtrnDisp::PtrnDispData(CDraw* draw, int dataNo, int type)
