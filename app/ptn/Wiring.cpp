@@ -111,7 +111,7 @@ void SetColumn(HAISENDATA& wire, const std::string& name, const std::string& val
         if (const auto parsed = ParseInteger(value))
             wire.*number->member = *parsed;
         else
-            diagnostics.error(place, what + " can not be " + Quoted(value) + ". Write a whole number.");
+            diagnostics.error(place, what, " can not be '{}'. Write a whole number.", value);
     }
 }
 
@@ -152,9 +152,8 @@ void Wiring::read(const Source& section, const std::filesystem::path& folder, Di
         } else if (entry.name == "table") {
             table = entry;
         } else {
-            diagnostics.error(entry.place, "'wiring': unknown " + Quoted(entry.name) + "." +
-                                               Suggestion(entry.name, names) +
-                                               " Write system, delivery, work, board, comment and table.");
+            ReportUnknown(entry, "'wiring': unknown", names,
+                          "Write system, delivery, work, board, comment and table.", diagnostics);
         }
     }
     AppendRecord(bytes_.emplace(), header);
@@ -169,15 +168,17 @@ void Wiring::readTable(const std::filesystem::path& file, const Place& place, Di
 {
     const std::optional<std::string> text = ReadBytes(file);
     if (!text) {
-        diagnostics.error(place, "'wiring': " + Quoted(file.string()) +
-                                     " can not be read. Put the CSV file there or correct 'table'.");
+        diagnostics.error(
+            place, fmt::format("'wiring': '{}' can not be read. Put the CSV file there or correct 'table'.",
+                               file.string()));
         return;
     }
     const std::vector<CsvRow> rows = ParseCsv(*text);
     const std::size_t wires = rows.empty() ? 0 : rows.size() - 1;
     if (wires > static_cast<std::size_t>(CONT_HAISENDATA)) {
-        diagnostics.error({file.string(), 0}, "has " + std::to_string(wires) + " wires; the program reads " +
-                                                  std::to_string(CONT_HAISENDATA) + ". Split the table.");
+        diagnostics.error(
+            {file.string(), 0},
+            fmt::format("has {} wires; the program reads {}. Split the table.", wires, CONT_HAISENDATA));
         return;
     }
     std::vector<std::string> columns;
@@ -187,15 +188,14 @@ void Wiring::readTable(const std::filesystem::path& file, const Place& place, Di
             columns = row.fields;
             for (const std::string& column : columns)
                 if (!FindText(column) && !FindNumber(column))
-                    diagnostics.error(line, "no column " + Quoted(column) + "." +
-                                                Suggestion(column, ColumnNames()) +
-                                                " The first line names the columns.");
+                    diagnostics.error(line, fmt::format("no column '{}'.{} The first line names the columns.",
+                                                        column, Suggestion(column, ColumnNames())));
             continue;
         }
         if (row.fields.size() > columns.size()) {
-            diagnostics.error(line, "has " + std::to_string(row.fields.size()) + " fields for " +
-                                        std::to_string(columns.size()) +
-                                        " columns. Quote fields that have commas in them.");
+            diagnostics.error(
+                line, fmt::format("has {} fields for {} columns. Quote fields that have commas in them.",
+                                  row.fields.size(), columns.size()));
             continue;
         }
         HAISENDATA wire{};

@@ -23,7 +23,10 @@ class Checker
     {
     }
 
-    void say(const std::string& what) { diagnostics_.error(place_, label_ + ": " + what); }
+    template <typename... Values> void say(fmt::format_string<Values...> text, Values&&... values)
+    {
+        diagnostics_.error(place_, label_ + ": ", text, std::forward<Values>(values)...);
+    }
 
     void values(SchemaTable<ParmSchema> parms, const std::int32_t* values, bool onlyFatal = false)
     {
@@ -34,9 +37,8 @@ class Checker
             for (int i = parm.index; i < parm.index + parm.count; ++i) {
                 if (parm.accepts(values[i]))
                     continue;
-                say(Quoted(parm.name) + " is " + std::to_string(values[i]) + ", outside " +
-                    std::to_string(parm.minimum) + " to " + std::to_string(parm.maximum) +
-                    (parm.fatal ? ", which ends the panel when it is drawn" : "") + ". Correct it.");
+                say("'{}' is {}, outside {} to {}{}. Correct it.", parm.name, values[i], parm.minimum,
+                    parm.maximum, parm.fatal ? ", which ends the panel when it is drawn" : "");
                 break;
             }
         }
@@ -49,18 +51,18 @@ class Checker
         const std::array<std::string, 3>& names = project_.resources.fontNames(number);
         for (std::size_t language = 0; language < names.size(); ++language)
             if (names.at(language).empty() && shown(language))
-                say("its font, number " + std::to_string(number) + ", has no name in language " +
-                    std::to_string(language) + ", so no text is drawn. Name it in 'fonts'.");
+                say("its font, number {}, has no name in language {}, so no text is drawn. Name it in "
+                    "'fonts'.",
+                    number, language);
     }
 
     void text(const std::string& text, std::size_t limit, const char* what)
     {
         if (text.size() > limit)
-            say(std::string(what) + " has " + std::to_string(text.size()) + " bytes; the panel keeps " +
-                std::to_string(limit) + ". Shorten it.");
+            say("{} has {} bytes; the panel keeps {}. Shorten it.", what, text.size(), limit);
         Diagnostics found;
         if (!ToEuc(EucToUtf8(text), text.size(), "", {}, found) || Utf8ToEuc(EucToUtf8(text)) != text)
-            say(std::string(what) + " has bytes that are no EUC-JP. Write it anew.");
+            say("{} has bytes that are no EUC-JP. Write it anew.", what);
         else
             drawable(text, what);
     }
@@ -68,8 +70,9 @@ class Checker
     void bitmap(const std::string& name, const char* what)
     {
         if (!name.empty() && !project_.bitmaps.count(name))
-            say(std::string(what) + " '" + EucToUtf8(name) +
-                "' is not among the bitmaps, so nothing is drawn. Put the file there or correct the name.");
+            say("{} '{}' is not among the bitmaps, so nothing is drawn. Put the file there or correct the "
+                "name.",
+                what, EucToUtf8(name));
     }
 
     void cell(const PatternItem& item)
@@ -78,13 +81,11 @@ class Checker
             return;
         const CodeTable::Row* row = project_.codes.row(item.code);
         if (!row)
-            say("no code " + Quoted(EucToUtf8(item.code)) +
-                ", so it is bound to nothing. Add it to 'codes' or "
-                "use another.");
+            say("no code '{}', so it is bound to nothing. Add it to 'codes' or use another.",
+                EucToUtf8(item.code));
         else if (item.record.ID_No < 0 || item.record.ID_No >= row->count)
-            say("code " + Quoted(row->name) + " has " + std::to_string(row->count) +
-                " cells, so there is no " + (item.record.ID_No < 0 ? "" : "+") +
-                std::to_string(item.record.ID_No) + ". Correct the offset or extend the code.");
+            say("code '{}' has {} cells, so there is no {}{}. Correct the offset or extend the code.",
+                row->name, row->count, item.record.ID_No < 0 ? "" : "+", item.record.ID_No);
     }
 
   private:
@@ -104,8 +105,8 @@ class Checker
         constexpr char threeBytes = '\x8F';
         const std::size_t at = text.find(threeBytes);
         if (at != std::string::npos)
-            say(std::string(what) + " has " + Quoted(EucToUtf8(text.substr(at, 3))) +
-                ", which the fonts of a panel lack. Use another character.");
+            say("{} has '{}', which the fonts of a panel lack. Use another character.", what,
+                EucToUtf8(text.substr(at, 3)));
     }
 
     Place place_;
@@ -166,16 +167,14 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         Checker checker(item.place, ItemName(item, i), project, diagnostics);
         const ItemClass* schema = FindItemClass(item.record.Type);
         if (!schema) {
-            checker.say("no such type, so nothing is drawn. Use a type from 1 to " +
-                        std::to_string(CONT_PTRN) + ".");
+            checker.say("no such type, so nothing is drawn. Use a type from 1 to {}.", CONT_PTRN);
             continue;
         }
         checker.values(schema->parms, item.record.Parm);
         checker.values(CommonParms(), item.record.Parm);
         const int pass = item.record.Parm[PARM_PASS];
         if (pass != 0 && pass != 1)
-            checker.say("'pass' is " + std::to_string(pass) +
-                        ", in which nothing is ever drawn. Write 'back' or 'front'.");
+            checker.say("'pass' is {}, in which nothing is ever drawn. Write 'back' or 'front'.", pass);
         for (const std::string& text : item.texts)
             checker.text(text, SIZE_PTRNTEXT, "its text");
         checker.text(item.name, SIZE_ID_NAME, "the name of its pattern");
@@ -189,14 +188,13 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
             checker.font(facts.font());
         const ActionSchema* action = FindAction(item.record.ID_Type);
         if (!item.name.empty() && !(action && action->opens))
-            checker.say("names the screen " + Quoted(EucToUtf8(item.name)) +
-                        ", but its action opens none. Write an action such as open-application, or remove "
-                        "'pattern'.");
+            checker.say("names the screen '{}', but its action opens none. Write an action such as "
+                        "open-application, or remove 'pattern'.",
+                        EucToUtf8(item.name));
         if (!action)
-            checker.say("action " + std::to_string(item.record.ID_Type) +
-                        " does nothing. Use one from 0 to 16.");
+            checker.say("action {} does nothing. Use one from 0 to 16.", item.record.ID_Type);
         CheckRoom(facts, checker);
-        facts.check([&checker](const std::string& what) { checker.say(what); });
+        facts.check([&checker](const std::string& what) { checker.say("{}", what); });
     }
 }
 

@@ -38,10 +38,11 @@ class Layout
     void checkHidden();
 
   private:
-    void say(std::size_t index, const std::string& what)
+    template <typename... Values>
+    void say(std::size_t index, fmt::format_string<Values...> text, Values&&... values)
     {
         const PatternItem& item = pattern_.items[index];
-        diagnostics_.error(item.place, ItemName(item, index) + ": " + what);
+        diagnostics_.error(item.place, ItemName(item, index) + ": ", text, std::forward<Values>(values)...);
     }
     std::size_t rank(std::size_t index) const;
 
@@ -64,11 +65,11 @@ void Layout::checkPlaces()
         const bool beyond = rect.left < 0 || rect.top < 0 || rect.right > window[HEDR_WIDTH] ||
                             rect.bottom > window[HEDR_HEIGHT];
         if (outside || beyond)
-            say(i, (outside ? "lies outside the pattern of " : "reaches beyond the pattern of ") + size +
-                       ", to " + std::to_string(rect.right) + "," + std::to_string(rect.bottom) +
-                       ". Move it, or enlarge the window.");
+            say(i, "{}{}, to {},{}. Move it, or enlarge the window.",
+                outside ? "lies outside the pattern of " : "reaches beyond the pattern of ", size, rect.right,
+                rect.bottom);
         else if (title > 0 && rect.top < title)
-            say(i, "lies in the title bar, which is " + std::to_string(title) + " high. Move it down.");
+            say(i, "lies in the title bar, which is {} high. Move it down.", title);
     }
 }
 
@@ -79,8 +80,8 @@ void Layout::checkFrames()
         const RECT& rect = rects_[i];
         const int caption = facts_[i]->captionWidth();
         if (caption > rect.width)
-            say(i, "its caption needs " + std::to_string(caption) + " pixels and has " +
-                       std::to_string(rect.width) + ". Shorten it or widen the button.");
+            say(i, "its caption needs {} pixels and has {}. Shorten it or widen the button.", caption,
+                rect.width);
         if (!facts_[i]->isText())
             continue;
         const RECT* frame = nullptr;
@@ -93,9 +94,10 @@ void Layout::checkFrames()
                 frame = &box;
         }
         if (frame && (rect.right > frame->right || rect.bottom > frame->bottom))
-            say(i, "reaches " + std::to_string(rect.right) + "," + std::to_string(rect.bottom) +
-                       ", beyond its frame, which ends at " + std::to_string(frame->right) + "," +
-                       std::to_string(frame->bottom) + ". Make it narrower, or the frame larger.");
+            say(i,
+                "reaches {},{}, beyond its frame, which ends at {},{}. Make it narrower, or the frame "
+                "larger.",
+                rect.right, rect.bottom, frame->right, frame->bottom);
     }
 }
 
@@ -110,9 +112,8 @@ void Layout::checkChoices()
         const int value = item.record.Parm[type->choiceParm];
         const auto added = known.emplace(std::make_tuple(type->type, item.code, item.record.ID_No, value), i);
         if (!added.second)
-            say(i, "has the value " + std::to_string(value) + ", as the " +
-                       ItemName(pattern_.items[added.first->second], added.first->second).text() +
-                       " has, so both are on together. Give it another 'value'.");
+            say(i, "has the value {}, as the {} has, so both are on together. Give it another 'value'.",
+                value, ItemName(pattern_.items[added.first->second], added.first->second).text());
     }
 }
 
@@ -139,8 +140,10 @@ void Layout::checkHidden()
             if (i == j || !stays || !facts_[j]->isOpaque() || rank(j) < rank(i) ||
                 !Contains(rects_[j], rects_[i]))
                 continue;
-            say(i, "is hidden below the " + ItemName(above, j).text() +
-                       ", which is drawn later. Move one of them, or draw it in the front pass.");
+            say(i,
+                "is hidden below the {}, which is drawn later. Move one of them, or draw it in the front "
+                "pass.",
+                ItemName(above, j).text());
             break;
         }
     }

@@ -59,19 +59,20 @@ void Screens::checkProfile()
                                    (key == std::string("PTRNSTART") ? "shows nothing" : "ends unseen") +
                                    ". Write the name of a screen.");
         else if (!byName_.count(name))
-            diagnostics_.error(place, what + "no screen is named " + Quoted(EucToUtf8(name)) +
-                                          ". Use the 'name' of a screen.");
+            diagnostics_.error(place, what, "no screen is named '{}'. Use the 'name' of a screen.",
+                               EucToUtf8(name));
         else if (!knows(name))
-            diagnostics_.error(place, what + "the program's registry does not know " +
-                                          Quoted(EucToUtf8(name)) + ". Add it there.");
+            diagnostics_.error(place, what, "the program's registry does not know '{}'. Add it there.",
+                               EucToUtf8(name));
     }
 }
 
 void Screens::checkBuiltin(const Place& place, const Subject& label, const char* name)
 {
     if (!byName_.count(name))
-        diagnostics_.error(place, label + ": opens the screen " + Quoted(EucToUtf8(name)) +
-                                      ", which is not there. Add it, or take the action away.");
+        diagnostics_.error(place, label,
+                           ": opens the screen '{}', which is not there. Add it, or take the action away.",
+                           EucToUtf8(name));
 }
 
 void Screens::checkActions()
@@ -95,14 +96,15 @@ void Screens::checkActions()
                 continue;
             // A missing pattern of a source is reported with the source itself.
             if (!byName_.count(item.name) && (item.exact || !item.place.line))
-                diagnostics_.error(item.place, label + ": no screen is named " +
-                                                   Quoted(EucToUtf8(item.name)) +
-                                                   ", which this item opens. Correct the name or add the "
-                                                   "screen.");
+                diagnostics_.error(
+                    item.place, label,
+                    ": no screen is named '{}', which this item opens. Correct the name or add the screen.",
+                    EucToUtf8(item.name));
             else if (byName_.count(item.name) && !knows(item.name))
-                diagnostics_.error(item.place, label + ": the program's registry does not know " +
-                                                   Quoted(EucToUtf8(item.name)) +
-                                                   ", so nothing opens. Add it there.");
+                diagnostics_.error(
+                    item.place, label,
+                    ": the program's registry does not know '{}', so nothing opens. Add it there.",
+                    EucToUtf8(item.name));
         }
     }
 }
@@ -133,11 +135,12 @@ void Screens::checkReach()
     for (const Pattern& pattern : patterns_)
         if (!reached_.count(pattern.name))
             diagnostics_.error(pattern.place,
-                               "the screen " + Quoted(EucToUtf8(pattern.name)) +
-                                   " can not be reached: no action of another screen opens it" +
-                                   (project_.registry ? " and the program's registry does not know it"
-                                                      : ", and no 'registry' tells what the program opens") +
-                                   ". Add an action, or remove the screen.");
+                               fmt::format("the screen '{}' can not be reached: no action of another screen "
+                                           "opens it{}. Add an action, or remove the screen.",
+                                           EucToUtf8(pattern.name),
+                                           project_.registry
+                                               ? " and the program's registry does not know it"
+                                               : ", and no 'registry' tells what the program opens"));
 }
 
 } // namespace

@@ -15,6 +15,7 @@
 
 #include "tools/ptn/common/Framework.h"
 
+#include <fmt/core.h>
 #include <iosfwd>
 #include <set>
 #include <string>
@@ -73,6 +74,14 @@ class Diagnostics
     /// Adds an error. The same text at the same place is kept once, of whichever item it is.
     /// @param what  UTF-8: what is wrong, and what to do about it
     void error(const Place& place, const Subject& what) { add({place, Severity::Error, what}); }
+
+    /// The same for what `about` is: its text, followed by the formatted one.
+    template <typename... Values>
+    void error(const Place& place, const Subject& about, fmt::format_string<Values...> text,
+               Values&&... values)
+    {
+        error(place, about + fmt::format(text, std::forward<Values>(values)...));
+    }
 
     /// Adds a remark that does not stop the build.
     void warning(const Place& place, const Subject& what) { add({place, Severity::Warning, what}); }

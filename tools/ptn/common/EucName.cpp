@@ -89,12 +89,11 @@ std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, con
         std::string list;
         for (const std::string& character : refused)
             list += (list.empty() ? "" : ", ") + character;
-        diagnostics.error(place, what + ": EUC-JP has no " + list + ". Use another character.");
+        diagnostics.error(place, what, ": EUC-JP has no {}. Use another character.", list);
         return std::nullopt;
     }
     if (euc.size() > limit) {
-        diagnostics.error(place, what + " has " + std::to_string(euc.size()) +
-                                     " bytes in EUC-JP. Shorten it to " + std::to_string(limit) + ".");
+        diagnostics.error(place, what, " has {} bytes in EUC-JP. Shorten it to {}.", euc.size(), limit);
         return std::nullopt;
     }
     return euc;
@@ -104,9 +103,9 @@ std::optional<std::string> ToEucFileName(const std::string& utf8, std::size_t li
                                          const Place& place, Diagnostics& diagnostics)
 {
     if (utf8.empty() || utf8[0] == '.' || utf8.find('/') != std::string::npos) {
-        diagnostics.error(place,
-                          what + " " + Quoted(utf8) +
-                              " can not be a file name. Write a name without '/' and without '.' in front.");
+        diagnostics.error(place, what,
+                          " '{}' can not be a file name. Write a name without '/' and without '.' in front.",
+                          utf8);
         return std::nullopt;
     }
     return ToEuc(utf8, limit, what, place, diagnostics);

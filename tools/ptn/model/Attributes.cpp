@@ -50,8 +50,8 @@ void Attributes::set(const ParmSchema& parm, const Entry& entry, const Subject& 
     const bool variants = parm.count > 1 && entry.value.isList();
     const std::vector<Source> members = entry.value.members();
     if (variants && members.size() != static_cast<std::size_t>(parm.count)) {
-        diagnostics_.error(entry.place, what + " has " + std::to_string(members.size()) +
-                                            " values. Write one for all states, or four.");
+        diagnostics_.error(entry.place, what, " has {} values. Write one for all states, or four.",
+                           members.size());
         return;
     }
     if (entry.value.isEmpty()) {
@@ -105,8 +105,8 @@ std::optional<int> Attributes::choice(const ParmSchema& parm, const Source& sour
         names.push_back(choice.name);
         list += (list.empty() ? "" : ", ") + names.back();
     }
-    diagnostics_.error(source.place(), what + " can not be " + Quoted(source.text()) + "." +
-                                           Suggestion(source.text(), names) + " Write one of: " + list + ".");
+    diagnostics_.error(source.place(), what, " can not be '{}'.{} Write one of: {}.", source.text(),
+                       Suggestion(source.text(), names), list);
     return std::nullopt;
 }
 

@@ -43,9 +43,8 @@ std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, D
     const Subject what = "code " + Quoted(entry.name);
     Row row{entry.name, "", next, 0, entry.place, 0};
     if (entry.name.empty() || ParseInteger(entry.name) || entry.name.find('+') != std::string::npos) {
-        diagnostics.error(entry.place,
-                          what + " could be taken for a cell. Write a name that is neither empty nor a "
-                                 "number and has no '+'.");
+        diagnostics.error(entry.place, what + " could be taken for a cell. Write a name that is neither "
+                                              "empty nor a number and has no '+'.");
         return std::nullopt;
     }
     const auto code = ToEuc(entry.name, SIZE_ID_CODE, what, entry.place, diagnostics);
@@ -69,9 +68,8 @@ std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, D
                                    std::numeric_limits<int>::max(), what + ": 'line'", diagnostics)
                                .value_or(0);
             } else {
-                diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                                  Suggestion(part.name, {"first", "count", "line"}) +
-                                                  " Write 'first' and 'count'.");
+                ReportUnknown(part, what + ": unknown", {"first", "count", "line"},
+                              "Write 'first' and 'count'.", diagnostics);
             }
         }
     }
@@ -84,8 +82,8 @@ std::optional<CodeTable::Row> CodeTable::readRow(const Entry& entry, int next, D
         return std::nullopt;
     row.count = *cells;
     if (row.count > LAST_CELL + 1 - row.first) {
-        diagnostics.error(entry.place, what + " ends beyond cell " + std::to_string(LAST_CELL) +
-                                           ". Give it fewer cells or a lower 'first'.");
+        diagnostics.error(entry.place, what, " ends beyond cell {}. Give it fewer cells or a lower 'first'.",
+                          LAST_CELL);
         return std::nullopt;
     }
     return row;
@@ -120,12 +118,12 @@ void CodeTable::checkCover(const Place& section, Diagnostics& diagnostics) const
     for (const Row* row : order) {
         const Subject what = "code " + Quoted(row->name) + " begins with cell " + std::to_string(row->first);
         if (row->first < next)
-            diagnostics.error(row->place, what + ", which belongs to " + Quoted(before->name) +
-                                              ". Give it another 'first'.");
+            diagnostics.error(row->place, what, ", which belongs to '{}'. Give it another 'first'.",
+                              before->name);
         else if (row->first > next)
-            diagnostics.error(row->place, what + ", but the cells from " + std::to_string(next) + " to " +
-                                              std::to_string(row->first - 1) +
-                                              " belong to no code. Add a code for them.");
+            diagnostics.error(row->place, what,
+                              ", but the cells from {} to {} belong to no code. Add a code for them.", next,
+                              row->first - 1);
         next = std::max(next, row->first + row->count);
         before = row;
     }
@@ -151,7 +149,7 @@ std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const Su
         for (const Row& row : rows_)
             if (row.covers(*number))
                 return Cell{row.code, *number - row.first, row.count};
-        return complain("no code covers cell " + text + ". Use a cell of 'codes' or extend it.");
+        return complain(fmt::format("no code covers cell {}. Use a cell of 'codes' or extend it.", text));
     }
 
     const std::string name = text.substr(0, text.find('+'));
@@ -163,15 +161,15 @@ std::optional<CodeTable::Cell> CodeTable::find(const std::string& text, const Su
             continue;
         if (*offset < row.count)
             return Cell{row.code, *offset, row.count};
-        return complain("code " + Quoted(name) + " has " + std::to_string(row.count) +
-                        " cells, so there is no +" + std::to_string(*offset) + ". Write at most +" +
-                        std::to_string(row.count - 1LL) + " or extend the code.");
+        return complain(
+            fmt::format("code '{}' has {} cells, so there is no +{}. Write at most +{} or extend the code.",
+                        name, row.count, *offset, row.count - 1LL));
     }
     std::vector<std::string> names;
     for (const Row& row : rows_)
         names.push_back(row.name);
-    return complain("no code " + Quoted(name) + "." + Suggestion(name, names) +
-                    " Add it to 'codes' or use another.");
+    return complain(
+        fmt::format("no code '{}'.{} Add it to 'codes' or use another.", name, Suggestion(name, names)));
 }
 
 std::string CodeTable::bytes() const
@@ -191,8 +189,8 @@ std::string CodeTable::bytes() const
 void CodeTable::load(const std::string& bytes, const Place& place, Diagnostics& diagnostics)
 {
     if (bytes.size() % sizeof(PTRNCODE))
-        diagnostics.warning(place, "its last " + std::to_string(bytes.size() % sizeof(PTRNCODE)) +
-                                       " bytes are no whole record and are left out.");
+        diagnostics.warning(place, fmt::format("its last {} bytes are no whole record and are left out.",
+                                               bytes.size() % sizeof(PTRNCODE)));
     for (std::size_t at = 0; at + sizeof(PTRNCODE) <= bytes.size(); at += sizeof(PTRNCODE)) {
         PTRNCODE record;
         std::memcpy(&record, bytes.data() + at, sizeof record);

@@ -16,8 +16,8 @@ std::map<std::string, Source> Parameters(const Source& source, const Subject& wh
         if (names.size() == 1 && names[0] == name)
             parameters[name] = value;
         else
-            diagnostics.error(place, what + ": " + Quoted(name) +
-                                         " is no name of a parameter. Use letters, digits and '_' only.");
+            diagnostics.error(place, what,
+                              ": '{}' is no name of a parameter. Use letters, digits and '_' only.", name);
     };
     if (source.isList())
         for (const Source& name : source.members())
@@ -37,8 +37,8 @@ void CheckNames(const Source& source, const Subject& what, const std::map<std::s
         known.push_back(parameter.first);
     for (const std::string& name : ArgumentNames(source.text()))
         if (!parameters.count(name))
-            diagnostics.error(source.place(), what + ": no parameter " + Quoted(name) + "." +
-                                                  Suggestion(name, known) + " Add it to 'parameters'.");
+            diagnostics.error(source.place(), what, ": no parameter '{}'.{} Add it to 'parameters'.", name,
+                              Suggestion(name, known));
     if (source.isList())
         for (const Source& member : source.members())
             CheckNames(member, what, parameters, diagnostics);
@@ -60,9 +60,8 @@ void Groups::read(const Source& section, Diagnostics& diagnostics)
             else if (part.name == "items")
                 group.items = part.value;
             else
-                diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                                  Suggestion(part.name, {"parameters", "items"}) +
-                                                  " Write 'parameters' and 'items'.");
+                ReportUnknown(part, what + ": unknown", {"parameters", "items"},
+                              "Write 'parameters' and 'items'.", diagnostics);
         }
         if (!group.items.isList())
             diagnostics.error(entry.place, what + " has no list of 'items'. Begin each item with '-'.");

@@ -27,14 +27,16 @@ std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Sub
         line.erase(line.find_last_not_of(" \r") + 1);
         const std::size_t wrong = line.find_first_not_of(".X# ");
         if (wrong != std::string::npos) {
-            diagnostics.error(place, where + ": column " + std::to_string(wrong + 1) +
-                                         " has neither '.' nor 'X'. Draw with these two.");
+            diagnostics.error(place, where, ": column {} has neither '.' nor 'X'. Draw with these two.",
+                              wrong + 1);
             whole = false;
             continue;
         }
         if (row >= size.cy || line.size() > static_cast<std::size_t>(size.cx)) {
-            diagnostics.error(place, where + ": the picture is too large. Marks of this number have " +
-                                         SizeText(size) + " pixels; choose a number of a larger group.");
+            diagnostics.error(place, where,
+                              ": the picture is too large. Marks of this number have {} pixels; choose a "
+                              "number of a larger group.",
+                              SizeText(size));
             return std::nullopt;
         }
         for (std::size_t column = 0; column < line.size(); ++column) {

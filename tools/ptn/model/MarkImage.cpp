@@ -29,18 +29,18 @@ std::optional<MARKDATA> ReadMarkImage(const std::filesystem::path& file, SIZE si
     GError* problem = nullptr;
     const std::unique_ptr<GdkPixbuf, Unref> picture(gdk_pixbuf_new_from_file(file.c_str(), &problem));
     if (!picture) {
-        diagnostics.error(place, what + ": '" + file.string() + "' can not be read: " + problem->message +
-                                     ". Give a PNG or XBM file.");
+        diagnostics.error(place, what, ": '{}' can not be read: {}. Give a PNG or XBM file.", file.string(),
+                          problem->message);
         g_error_free(problem);
         return std::nullopt;
     }
     const int width = gdk_pixbuf_get_width(picture.get());
     const int height = gdk_pixbuf_get_height(picture.get());
     if (width != size.cx || height != size.cy) {
-        diagnostics.error(place, what + ": '" + file.string() + "' has " + std::to_string(width) + " x " +
-                                     std::to_string(height) + " pixels. Marks of this number have " +
-                                     std::to_string(size.cx) + " x " + std::to_string(size.cy) +
-                                     "; scale it, or choose a number of another group.");
+        diagnostics.error(place, what,
+                          ": '{}' has {} x {} pixels. Marks of this number have {} x {}; scale it, or choose "
+                          "a number of another group.",
+                          file.string(), width, height, size.cx, size.cy);
         return std::nullopt;
     }
     MARKDATA mark{};

@@ -34,9 +34,9 @@ std::optional<int> NameTable::find(const Source& source, const Subject& attribut
     for (const auto& entry : numbers_)
         candidates.push_back(entry.first);
     const std::string found = source.isText() ? " " + Quoted(text) : "";
-    diagnostics.error(source.place(), attribute + ": this project has no " + what_ + found + "." +
-                                          Suggestion(text, candidates) + " Define it in " +
-                                          Quoted(std::string(what_) + "s") + " or use one that is there.");
+    diagnostics.error(source.place(), attribute,
+                      ": this project has no {}{}.{} Define it in '{}' or use one that is there.", what_,
+                      found, Suggestion(text, candidates), std::string(what_) + "s");
     return std::nullopt;
 }
 
@@ -78,22 +78,20 @@ std::optional<NumberedEntry> ReadEntry(const Entry& entry, const std::vector<std
             } else if (std::find(extras.begin(), extras.end(), part.name) != extras.end()) {
                 read.extras[part.name] = part.value;
             } else {
-                diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                                  Suggestion(part.name, known) + " Write " + Listed(known) +
-                                                  ".");
+                ReportUnknown(part, what + ": unknown", known, "Write " + Listed(known) + ".", diagnostics);
             }
         }
     }
     if (read.number >= table.limit()) {
-        diagnostics.error(entry.place, what + " would be number " + std::to_string(read.number) +
-                                           "; the last is " + std::to_string(table.limit() - 1) +
-                                           ". Remove one, or number them with 'no'.");
+        diagnostics.error(entry.place, what,
+                          " would be number {}; the last is {}. Remove one, or number them with 'no'.",
+                          read.number, table.limit() - 1);
         return std::nullopt;
     }
     if (read.value.isEmpty()) {
-        diagnostics.error(entry.place, what + " has no value. Write " + Quoted(key) +
-                                           " for it; a value that begins "
-                                           "with '#' needs quotes.");
+        diagnostics.error(entry.place, what,
+                          " has no value. Write '{}' for it; a value that begins with '#' needs quotes.",
+                          key);
         return std::nullopt;
     }
     return read;
@@ -120,8 +118,8 @@ std::vector<NumberedEntry> NumberedEntries(const Source& section, const std::vec
         next = numbered->number + 1;
         const std::string owner = table.nameOf(numbered->number);
         if (!owner.empty()) {
-            diagnostics.error(entry.place, what + " has the number " + std::to_string(numbered->number) +
-                                               ", as " + Quoted(owner) + " has. Give it another 'no'.");
+            diagnostics.error(entry.place, what, " has the number {}, as '{}' has. Give it another 'no'.",
+                              numbered->number, owner);
             continue;
         }
         table.add(entry.name, numbered->number);

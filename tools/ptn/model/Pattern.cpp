@@ -16,7 +16,7 @@ std::optional<Pattern> ParsePattern(const std::string& name, const std::string& 
                                     Diagnostics& diagnostics)
 {
     const auto damaged = [&](const std::string& what) {
-        diagnostics.error(place, "not a whole pattern file: " + what + ". Get an undamaged copy.");
+        diagnostics.error(place, fmt::format("not a whole pattern file: {}. Get an undamaged copy.", what));
         return std::nullopt;
     };
     Pattern pattern;
@@ -29,13 +29,13 @@ std::optional<Pattern> ParsePattern(const std::string& name, const std::string& 
     PatternRecords records = TakePatternRecords(header, bytes.substr(sizeof header));
     const int count = static_cast<int>(records.items.size());
     if (header.DataCount != count)
-        return damaged("it has no room for its " + std::to_string(header.DataCount) + " items");
+        return damaged(fmt::format("it has no room for its {} items", int{header.DataCount}));
     if (header.TextSize != records.textSize || records.left)
         return damaged("its texts are not as long as it says");
     if (records.missingTexts) {
         const int perItem = LANGUAGE_COUNT + 2; // and the name and the code
         const int first = (count * perItem - records.missingTexts) / perItem;
-        return damaged("a text of item " + std::to_string(first + 1) + " does not end");
+        return damaged(fmt::format("a text of item {} does not end", first + 1));
     }
     if (records.textsUsed != records.textSize)
         return damaged("something follows its texts");

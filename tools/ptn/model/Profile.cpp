@@ -54,10 +54,10 @@ void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
 {
     for (const Entry& part : Entries(section, "'profile'", diagnostics)) {
         if (!IsName(part.name) || part.name == WINDOW_SECTION) {
-            diagnostics.error(part.place,
-                              "'profile' can not have a section " + Quoted(part.name) +
-                                  (part.name == WINDOW_SECTION ? ": the program writes it itself. Remove it."
-                                                               : ". Use letters, digits and '_' only."));
+            diagnostics.error(part.place, fmt::format("'profile' can not have a section '{}'{}", part.name,
+                                                      part.name == WINDOW_SECTION
+                                                          ? ": the program writes it itself. Remove it."
+                                                          : ". Use letters, digits and '_' only."));
             continue;
         }
         sections_.push_back(part.name);
@@ -85,16 +85,15 @@ void ProfileSource::readKey(const std::string& section, const Entry& entry, Diag
         if (!field)
             return;
         if (!FitsField(*field) || (!field->empty() && field->back() == ' ')) {
-            diagnostics.error(entry.place,
-                              what + ": a value can have no ',' or ';' and no blank at its end. Write "
-                                     "several fields as a list.");
+            diagnostics.error(entry.place, what + ": a value can have no ',' or ';' and no blank at its end. "
+                                                  "Write several fields as a list.");
             return;
         }
         value += (i ? "," : "") + *field;
     }
     if (KeyBegin(entry.name).size() + value.size() > PROFILE_LINE_MAX) {
-        diagnostics.error(entry.place, what + " is longer than a line of the profile. Shorten it to " +
-                                           std::to_string(PROFILE_LINE_MAX) + " bytes.");
+        diagnostics.error(entry.place, what, " is longer than a line of the profile. Shorten it to {} bytes.",
+                          PROFILE_LINE_MAX);
         return;
     }
     keys_.push_back({section, entry.name, value, entry.place});
@@ -112,9 +111,11 @@ void ProfileSource::checkPatterns(const std::set<std::string>& patterns, Diagnos
 {
     for (const char* name : {"PTRNSTART", "PTRNSTOP"})
         if (const Key* key = find("PTRN", name); key && !key->value.empty() && !patterns.count(key->value))
-            diagnostics.error(key->place,
-                              "profile key " + Quoted(name) +
-                                  " names a pattern that no screen defines. Use the 'name' of a screen.");
+            diagnostics.error(
+                key->place,
+                fmt::format(
+                    "profile key '{}' names a pattern that no screen defines. Use the 'name' of a screen.",
+                    name));
 }
 
 std::string ProfileSource::bytes(const std::string& folder, const std::string& project,
@@ -147,10 +148,11 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
                 value = folder + "/" + relative;
                 if (!FitsField(value)) {
                     value = relative;
-                    diagnostics.warning({folder, 0},
-                                        "this path is too long for the profile or has ',' or ';' in it, so " +
-                                            Quoted(key.name) + " is written as " + Quoted(relative) +
-                                            ". Start the program in this folder.");
+                    diagnostics.warning(
+                        {folder, 0},
+                        fmt::format("this path is too long for the profile or has ',' or ';' in it, so '{}' "
+                                    "is written as '{}'. Start the program in this folder.",
+                                    key.name, relative));
                 }
             }
             bytes += KeyBegin(key.name) + value + "\n";

@@ -79,8 +79,9 @@ void Resources::readColors(const Source& section, Diagnostics& diagnostics)
         if (color)
             colorData_.at(entry.number) = *color;
         else
-            diagnostics.error(entry.place, "color " + Quoted(entry.name) +
-                                               " is no colour. Write it as \"#RRGGBB\", in quotes.");
+            diagnostics.error(
+                entry.place,
+                fmt::format("color '{}' is no colour. Write it as \"#RRGGBB\", in quotes.", entry.name));
     }
 }
 
@@ -95,17 +96,17 @@ void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
             if (!name)
                 continue;
             if (name->find_first_of(",;") != std::string::npos) {
-                diagnostics.error(entry.place, what +
-                                                   " has ',' or ';' in its X name, which ends a field of the "
-                                                   "profile. Write one name, with '*' for what may vary.");
+                diagnostics.error(entry.place,
+                                  what + " has ',' or ';' in its X name, which ends a field of the profile. "
+                                         "Write one name, with '*' for what may vary.");
                 continue;
             }
             FontDataInit(entry.number, name->c_str());
             const bool missing = name->empty() && entry.value.isList();
             if (!missing && FontSize[entry.number].cy == 0)
                 diagnostics.error(entry.place,
-                                  what + " has no size in its X name. Write the pixel size after the "
-                                         "seventh '-', as in -*-fixed-medium-r-normal--16-*.");
+                                  what + " has no size in its X name. Write the pixel size after the seventh "
+                                         "'-', as in -*-fixed-medium-r-normal--16-*.");
             if (fontCells_.at(entry.number).cy == 0)
                 fontCells_.at(entry.number) = FontSize[entry.number];
             fontNames_.at(entry.number).at(language) = *name;

@@ -58,9 +58,8 @@ void Styles::read(const Source& section, Diagnostics& diagnostics)
             if (Knows(tables, entry.name) || (style.name != "window" && itemKeys.count(entry.name)))
                 layer.entries.push_back(entry);
             else
-                diagnostics.error(entry.place, layer.label + ": unknown attribute " + Quoted(entry.name) +
-                                                   "." + Suggestion(entry.name, Names(tables)) +
-                                                   " Correct or remove it.");
+                ReportUnknown(entry, layer.label + ": unknown attribute", Names(tables),
+                              "Correct or remove it.", diagnostics);
         }
         styles_[style.name] = layer;
     }

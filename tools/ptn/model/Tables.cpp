@@ -81,8 +81,8 @@ void MessageTable::read(const Source& section, const CodeTable& codes, Diagnosti
                 diagnostics.error(entry.place, what + " has ',' or ';' in it, which ends a field of the "
                                                       "table. Use the wide characters instead.");
             if (text && !text->empty() && text->back() == ' ')
-                diagnostics.error(entry.place, what + " ends with a blank, which the table does not keep. "
-                                                      "Remove it.");
+                diagnostics.error(entry.place,
+                                  what + " ends with a blank, which the table does not keep. Remove it.");
         }
         if (const auto data = entry.extras.find("data"); data != entry.extras.end())
             if (const auto cell = codes.find(data->second, what + ": 'data'", diagnostics)) {
@@ -94,8 +94,9 @@ void MessageTable::read(const Source& section, const CodeTable& codes, Diagnosti
         for (const std::string& text : row.texts)
             length += text.size() + 1;
         if (length > PROFILE_LINE_MAX)
-            diagnostics.error(entry.place, what + " is longer than a line of the table with its three "
-                                                  "languages. Shorten it.");
+            diagnostics.error(
+                entry.place,
+                what + " is longer than a line of the table with its three languages. Shorten it.");
     }
 }
 
@@ -176,23 +177,22 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
         else if (entry.name == "above")
             row.errors[1] = message(entry);
         else
-            diagnostics.error(entry.place, what + ": unknown " + Quoted(entry.name) + "." +
-                                               Suggestion(entry.name, {"data", "count", "minimum", "maximum",
-                                                                       "below", "above", "no"}) +
-                                               " Write data, count, minimum, maximum, below, above or no.");
+            ReportUnknown(entry, what + ": unknown",
+                          {"data", "count", "minimum", "maximum", "below", "above", "no"},
+                          "Write data, count, minimum, maximum, below, above or no.", diagnostics);
     }
     if (!bound && (source.isMap() || source.isEmpty()))
         diagnostics.error(source.place(), what + " has no cells. Name the first one with 'data'.");
     if (!cell)
         return;
     if (count > cell->count - cell->offset)
-        diagnostics.error(source.place(), what + " ends beyond its code. Lower 'count' to " +
-                                              std::to_string(cell->count - cell->offset) + ".");
+        diagnostics.error(source.place(), what, " ends beyond its code. Lower 'count' to {}.",
+                          cell->count - cell->offset);
     row.code = cell->code;
     row.offsets = {cell->offset + count - 1, cell->offset};
     if (number > CONT_LIMTDATA || !rows_.emplace(number, row).second)
-        diagnostics.error(source.place(), what + " has a number that is taken or above " +
-                                              std::to_string(CONT_LIMTDATA) + ". Give it another 'no'.");
+        diagnostics.error(source.place(), what,
+                          " has a number that is taken or above {}. Give it another 'no'.", CONT_LIMTDATA);
 }
 
 void LimitTable::read(const Source& section, const CodeTable& codes, const MessageTable& messages,

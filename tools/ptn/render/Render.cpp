@@ -184,8 +184,8 @@ std::vector<const Pattern*> Chosen(const Compiled& compiled, const RenderJob& jo
     std::string list;
     for (const std::string& one : names)
         list += (list.empty() ? "" : ", ") + Quoted(one);
-    diagnostics.error({"", 0}, "no screen is named " + Quoted(name) + "." + Suggestion(name, names) +
-                                   " The screens are: " + list + ".");
+    diagnostics.error({"", 0}, fmt::format("no screen is named '{}'.{} The screens are: {}.", name,
+                                           Suggestion(name, names), list));
     return chosen;
 }
 

@@ -34,8 +34,8 @@ std::optional<std::string> ExactText(const Source& source, const Subject& what, 
     for (const Entry& entry : Entries(source, what, diagnostics)) {
         const auto bytes = entry.name == "bytes" ? FromHex(entry.value.text()) : std::nullopt;
         if (!bytes || bytes->find('\0') != std::string::npos) {
-            diagnostics.error(entry.place, what + ": write 'bytes' as pairs of hexadecimal digits other than "
-                                                  "00.");
+            diagnostics.error(entry.place,
+                              what + ": write 'bytes' as pairs of hexadecimal digits other than 00.");
             return std::nullopt;
         }
         text = *bytes;
@@ -50,8 +50,8 @@ void ReadExactTexts(const Source& source, const Subject& what, const Place& plac
     if (!source.isList())
         members = {source};
     if (members.empty() || members.size() > item.texts.size()) {
-        diagnostics.error(place, what + " must be one text, or a list of two or three in the order of the "
-                                        "languages.");
+        diagnostics.error(
+            place, what + " must be one text, or a list of two or three in the order of the languages.");
         return;
     }
     for (std::size_t language = 0; language < item.texts.size(); ++language)
@@ -68,8 +68,9 @@ void ReadParm(const Source& source, const Subject& label, std::int32_t* values, 
     for (const Entry& entry : Entries(source, what, diagnostics)) {
         const std::optional<int> index = ParseInteger(entry.name);
         if (!index || *index < 0 || *index >= CONT_PARM) {
-            diagnostics.error(entry.place, what + " has no entry " + Quoted(entry.name) +
-                                               ". Write the number of a parameter, from 0 to 29.");
+            diagnostics.error(entry.place, what,
+                              " has no entry '{}'. Write the number of a parameter, from 0 to 29.",
+                              entry.name);
             continue;
         }
         if (const auto number = Integer(entry.value, LOWEST, HIGHEST, what, diagnostics))
@@ -111,10 +112,8 @@ void ReadExactItem(const Source& source, const Subject& label, PatternItem& item
         } else {
             const std::vector<std::string> names = {"rect", "parm",   "text",   "pattern",
                                                     "code", "offset", "action", "reserved"};
-            diagnostics.error(entry.place, what + ": unknown " + Quoted(entry.name) + "." +
-                                               Suggestion(entry.name, names) +
-                                               " Write rect, parm, text, pattern, code, offset, action or "
-                                               "reserved.");
+            ReportUnknown(entry, what + ": unknown", names,
+                          "Write rect, parm, text, pattern, code, offset, action or reserved.", diagnostics);
         }
     }
 }
@@ -139,9 +138,8 @@ void ReadExactHeader(const Source& source, HEDRFILE& header, Diagnostics& diagno
                     std::memcpy(reinterpret_cast<char*>(&header) + *offset, bytes->data(), bytes->size());
             }
         } else {
-            diagnostics.error(entry.place, what + ": unknown " + Quoted(entry.name) + "." +
-                                               Suggestion(entry.name, {"version", "reserved", "bytes"}) +
-                                               " Write version, reserved or bytes.");
+            ReportUnknown(entry, what + ": unknown", {"version", "reserved", "bytes"},
+                          "Write version, reserved or bytes.", diagnostics);
         }
     }
 }

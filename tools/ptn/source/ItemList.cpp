@@ -49,9 +49,8 @@ Repeat ReadRepeat(const Source& source, const Subject& label, Diagnostics& diagn
         } else if (entry.name == "data") {
             repeat.data = Integer(entry.value, 0, 1000, label + " 'data'", diagnostics).value_or(1);
         } else {
-            diagnostics.error(entry.place, label + ": unknown " + Quoted(entry.name) + "." +
-                                               Suggestion(entry.name, {"count", "step", "data"}) +
-                                               " Write 'count', 'step' and 'data'.");
+            ReportUnknown(entry, label + ": unknown", {"count", "step", "data"},
+                          "Write 'count', 'step' and 'data'.", diagnostics);
         }
     }
     return repeat;
@@ -115,9 +114,10 @@ Items ListReader::repeated(const Items& items, const Entry& entry, const Subject
                 continue;
             const long long last = item.record.ID_No + (repeat.count() - 1LL) * repeat.data;
             if (last >= row->count) {
-                diagnostics_.error(place, label + ": 'repeat' ends with cell +" + std::to_string(last) +
-                                              " of a code of " + std::to_string(row->count) +
-                                              " cells. Repeat less, or extend the code.");
+                diagnostics_.error(
+                    place, label,
+                    ": 'repeat' ends with cell +{} of a code of {} cells. Repeat less, or extend the code.",
+                    last, row->count);
                 return {};
             }
             item.record.ID_No += copy * repeat.data;
@@ -126,8 +126,7 @@ Items ListReader::repeated(const Items& items, const Entry& entry, const Subject
             return {};
         made_ += moved.size();
         if (made_ > MAX_ITEMS) {
-            diagnostics_.error(place, label + ": the screen gets more than " + std::to_string(MAX_ITEMS) +
-                                          " items. Repeat less.");
+            diagnostics_.error(place, label, ": the screen gets more than {} items. Repeat less.", MAX_ITEMS);
             return {};
         }
         all.insert(all.end(), moved.begin(), moved.end());
@@ -145,9 +144,8 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
         std::vector<std::string> names = context_.groups.names();
         for (const std::string& name : context_.project.groups.names())
             names.push_back(name);
-        diagnostics_.error(use.place, label + ": no group " + Quoted(use.value.text()) + "." +
-                                          Suggestion(use.value.text(), names) +
-                                          " Add it to 'groups' or use another.");
+        diagnostics_.error(use.place, label, ": no group '{}'.{} Add it to 'groups' or use another.",
+                           use.value.text(), Suggestion(use.value.text(), names));
         return {};
     }
     const auto arguments = std::make_shared<Arguments>(group->parameters);
@@ -158,9 +156,9 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
             std::vector<std::string> names = {"at", "repeat"};
             for (const auto& parameter : group->parameters)
                 names.push_back(parameter.first);
-            diagnostics_.error(entry.place, label + ": the group has no parameter " + Quoted(entry.name) +
-                                                "." + Suggestion(entry.name, names) +
-                                                " Correct or remove it.");
+            diagnostics_.error(entry.place, label,
+                               ": the group has no parameter '{}'.{} Correct or remove it.", entry.name,
+                               Suggestion(entry.name, names));
             continue;
         }
         (*arguments)[entry.name] = entry.value;
@@ -168,8 +166,7 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
     for (const auto& argument : *arguments) {
         if (!argument.second.isEmpty())
             continue;
-        diagnostics_.error(use.place,
-                           label + ": the group needs " + Quoted(argument.first) + ". Write a value for it.");
+        diagnostics_.error(use.place, label, ": the group needs '{}'. Write a value for it.", argument.first);
         return {};
     }
     return group->items.with(arguments);
@@ -188,9 +185,8 @@ Items ListReader::arrange(std::vector<Items> parts, const Source& grid, const Su
         else if (entry.name == "step")
             step = Integers(entry.value, 2, label + ": 'grid' 'step'", diagnostics_).value_or(step);
         else
-            diagnostics_.error(entry.place, label + ": 'grid': unknown " + Quoted(entry.name) + "." +
-                                                Suggestion(entry.name, {"columns", "step"}) +
-                                                " Write 'columns' and 'step'.");
+            ReportUnknown(entry, label + ": 'grid': unknown", {"columns", "step"},
+                          "Write 'columns' and 'step'.", diagnostics_);
     }
     if (!grid.isEmpty() && (!given.count("columns") || !given.count("step")))
         diagnostics_.error(grid.place(), label + ": 'grid' needs 'columns' and 'step: [dx, dy]'.");
@@ -212,8 +208,8 @@ Items ListReader::readPart(const std::vector<Entry>& entries, const Source& sour
     const Entry* use = Find(entries, "use");
     label += use ? " (" + use->value.text() + ")" : "";
     if (depth >= MAX_DEPTH) {
-        diagnostics_.error(source.place(), label + ": groups within groups go too deep. A group can not use "
-                                                   "itself.");
+        diagnostics_.error(source.place(),
+                           label + ": groups within groups go too deep. A group can not use itself.");
         return {};
     }
     std::vector<Items> parts;
@@ -222,11 +218,8 @@ Items ListReader::readPart(const std::vector<Entry>& entries, const Source& sour
     } else {
         for (const Entry& entry : entries)
             if (entry.name != "items" && entry.name != "at" && entry.name != "repeat" && entry.name != "grid")
-                diagnostics_.error(entry.place,
-                                   label + ": unknown " + Quoted(entry.name) + "." +
-                                       Suggestion(entry.name, {"at", "grid", "items", "repeat"}) +
-                                       " Items that belong together have items, at, grid and "
-                                       "repeat.");
+                ReportUnknown(entry, label + ": unknown", {"at", "grid", "items", "repeat"},
+                              "Items that belong together have items, at, grid and repeat.", diagnostics_);
         const Source list = Find(entries, "items")->value;
         if (!list.isList())
             diagnostics_.error(list.place(), label + ": 'items' must be a list. Begin each item with '-'.");

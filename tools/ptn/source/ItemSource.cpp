@@ -76,9 +76,9 @@ void ItemReader::applyStyle(const std::string& name, bool named, const Place& pl
             else if (entry.name == "action")
                 readAction(entry.value);
             else if (named && !attributes_.find(entry.name))
-                diagnostics_.error(place, label_ + ": " + style->label.text() + " sets " +
-                                              Quoted(entry.name) + ", which a " + schema_.name +
-                                              " does not have. Use another style.");
+                diagnostics_.error(place, label_,
+                                   ": {} sets '{}', which a {} does not have. Use another style.",
+                                   style->label.text(), entry.name, schema_.name);
         }
         attributes_.apply(*style);
     }
@@ -102,9 +102,8 @@ void ItemReader::applyStyles(const std::vector<Entry>& entries)
             std::vector<std::string> known = project_.styles.names();
             for (const std::string& own : styles_.names())
                 known.push_back(own);
-            diagnostics_.error(entry.place, label_ + ": no style " + Quoted(name.text()) + "." +
-                                                Suggestion(name.text(), known) +
-                                                " Add it to 'styles' or use another.");
+            diagnostics_.error(entry.place, label_, ": no style '{}'.{} Add it to 'styles' or use another.",
+                               name.text(), Suggestion(name.text(), known));
         }
     }
 }
@@ -114,10 +113,9 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
     Layer own{label_, {}};
     for (const Entry& entry : entries) {
         if (placeWords.count(entry.name)) {
-            diagnostics_.error(entry.place, label_ +
-                                                ": write its place as rect: [x1, y1, x2, y2] or at: [x, y], "
-                                                "not as " +
-                                                Quoted(entry.name) + ".");
+            diagnostics_.error(entry.place, label_,
+                               ": write its place as rect: [x1, y1, x2, y2] or at: [x, y], not as '{}'.",
+                               entry.name);
         } else if (std::find(itemKeys.begin(), itemKeys.end(), entry.name) != itemKeys.end()) {
             readKey(entry);
         } else if (attributes_.find(entry.name)) {
@@ -128,9 +126,8 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
                 if (!placeWords.count(name))
                     names.push_back(name);
             const bool cell = entry.name == "code" || entry.name == "cell";
-            diagnostics_.error(entry.place, label_ + ": unknown attribute " + Quoted(entry.name) + "." +
-                                                Suggestion(cell ? "data" : entry.name, names) +
-                                                " Correct or remove it.");
+            diagnostics_.error(entry.place, label_, ": unknown attribute '{}'.{} Correct or remove it.",
+                               entry.name, Suggestion(cell ? "data" : entry.name, names));
         }
     }
     attributes_.apply(own);
@@ -164,7 +161,7 @@ void ItemReader::readKey(const Entry& entry)
 void ItemReader::readTexts(const Source& source, const Place& place)
 {
     if (schema_.text == ItemText::None) {
-        diagnostics_.error(place, label_ + ": a " + schema_.name + " has no text of its own. Remove 'text'.");
+        diagnostics_.error(place, label_, ": a {} has no text of its own. Remove 'text'.", schema_.name);
         return;
     }
     const auto texts = Texts(source, what("text"), diagnostics_);
@@ -172,8 +169,9 @@ void ItemReader::readTexts(const Source& source, const Place& place)
         const auto euc = ToEuc((*texts)[language], SIZE_PTRNTEXT, what("text"), place, diagnostics_);
         item_.texts.at(language) = euc.value_or("");
         if (schema_.text == ItemText::BitmapName && euc && !euc->empty() && !project_.bitmaps.count(*euc))
-            diagnostics_.error(place, label_ + ": no file " + Quoted((*texts)[language]) +
-                                          " in 'bitmaps'. Put it there or correct the name.");
+            diagnostics_.error(place, label_,
+                               ": no file '{}' in 'bitmaps'. Put it there or correct the name.",
+                               (*texts)[language]);
     }
 }
 
@@ -189,9 +187,9 @@ void ItemReader::readAction(const Source& source)
         std::vector<std::string> names;
         for (const ActionSchema& known : Actions())
             names.push_back(known.name);
-        diagnostics_.error(source.place(),
-                           label_ + ": no action " + Quoted(name) + "." + Suggestion(name, names) +
-                               " Write an action such as close, message or open-application.");
+        diagnostics_.error(source.place(), label_,
+                           ": no action '{}'.{} Write an action such as close, message or open-application.",
+                           name, Suggestion(name, names));
     }
 }
 
@@ -200,8 +198,8 @@ bool ItemReader::checkAction() const
     const ActionSchema* action = FindAction(item_.record.ID_Type);
     if (!action || !action->opens || !item_.name.empty())
         return true;
-    diagnostics_.error(item_.place, label_ + ": the action " + Quoted(action->name) +
-                                        " opens a pattern. Name it with 'pattern'.");
+    diagnostics_.error(item_.place, label_, ": the action '{}' opens a pattern. Name it with 'pattern'.",
+                       action->name);
     return false;
 }
 
@@ -246,7 +244,7 @@ std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entr
     }
     if (type == entries.end()) {
         if (source.isMap())
-            context.diagnostics.error(source.place(), label + " has no 'type'. Write one of: " + list + ".");
+            context.diagnostics.error(source.place(), label, " has no 'type'. Write one of: {}.", list);
         return std::nullopt;
     }
     const std::string name = type->value.text();
@@ -255,8 +253,8 @@ std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entr
     if (!schema && number)
         schema = &unknownType;
     if (!schema) {
-        context.diagnostics.error(type->place, label + ": no type " + Quoted(name) + "." +
-                                                   Suggestion(name, names) + " Write one of: " + list + ".");
+        context.diagnostics.error(type->place, label, ": no type '{}'.{} Write one of: {}.", name,
+                                  Suggestion(name, names), list);
         return std::nullopt;
     }
     label += " (" + std::string(schema->name) + ")";

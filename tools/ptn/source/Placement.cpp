@@ -42,8 +42,7 @@ bool Placement::finish(PatternItem& item, const ItemClass& schema, const Resourc
     if (!rect_) {
         const std::optional<SIZE> natural = facts.naturalSize();
         if (!size_ && !natural) {
-            diagnostics.error(item.place,
-                              label + " has 'at' but no 'size'. A " + schema.name + " needs both.");
+            diagnostics.error(item.place, label, " has 'at' but no 'size'. A {} needs both.", schema.name);
             return false;
         }
         const int width = size_ ? (*size_)[0] : natural->cx;
@@ -55,16 +54,15 @@ bool Placement::finish(PatternItem& item, const ItemClass& schema, const Resourc
     }
     for (const int value : *rect_) {
         if (value < COORDINATE_MIN || value > COORDINATE_MAX) {
-            diagnostics.error(item.place, label + " reaches " + std::to_string(value) +
-                                              ". Coordinates go from -32768 to 32767.");
+            diagnostics.error(item.place, label, " reaches {}. Coordinates go from -32768 to 32767.", value);
             return false;
         }
     }
     std::copy(rect_->begin(), rect_->end(), parm + PARM_X1);
     if (parm[PARM_X1] > parm[PARM_X2] || parm[PARM_Y1] > parm[PARM_Y2]) {
-        diagnostics.error(item.place,
-                          label + " has its corners the wrong way round. Write the upper left one first" +
-                              schema.cornerHelp);
+        diagnostics.error(item.place, label,
+                          " has its corners the wrong way round. Write the upper left one first{}",
+                          schema.cornerHelp);
         return false;
     }
     if (!facts.fits()) {

@@ -41,17 +41,15 @@ std::map<std::string, Entry> ReadSections(const fs::path& folder, Diagnostics& d
             continue;
         for (const Entry& entry : Entries(*source, "the file", diagnostics)) {
             if (std::find(sectionNames.begin(), sectionNames.end(), entry.name) == sectionNames.end()) {
-                diagnostics.error(entry.place, "unknown section " + Quoted(entry.name) + "." +
-                                                   Suggestion(entry.name, sectionNames) +
-                                                   " Screens go into the folder 'screens'.");
+                ReportUnknown(entry, "unknown section", sectionNames, "Screens go into the folder 'screens'.",
+                              diagnostics);
                 continue;
             }
             const auto added = sections.emplace(entry.name, entry);
             if (!added.second) {
                 const Place& first = added.first->second.place;
-                diagnostics.error(entry.place, "section " + Quoted(entry.name) + " is already in " +
-                                                   first.file + ":" + std::to_string(first.line) +
-                                                   ". Join the two.");
+                diagnostics.error(entry.place, fmt::format("section '{}' is already in {}:{}. Join the two.",
+                                                           entry.name, first.file, first.line));
             }
         }
     }
@@ -93,8 +91,10 @@ std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Pla
     for (const fs::path& file : files) {
         const std::optional<std::string> source = ReadBytes(file);
         if (!source) {
-            diagnostics.error(place, "'registry': " + Quoted(file.string()) +
-                                         " can not be read. Name the source file that knows the patterns.");
+            diagnostics.error(
+                place,
+                fmt::format("'registry': '{}' can not be read. Name the source file that knows the patterns.",
+                            file.string()));
             return std::nullopt;
         }
         std::istringstream lines(*source);

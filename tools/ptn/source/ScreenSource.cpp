@@ -59,10 +59,9 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
     std::map<std::string, Entry> parts;
     for (const Entry& entry : Entries(source, "the screen", diagnostics_)) {
         if (std::find(screenKeys.begin(), screenKeys.end(), entry.name) == screenKeys.end())
-            diagnostics_.error(
-                entry.place,
-                "unknown " + Quoted(entry.name) + "." + Suggestion(entry.name, screenKeys) +
-                    " A screen has name, title, logo, background, window, styles, groups, items.");
+            ReportUnknown(entry, "unknown", screenKeys,
+                          "A screen has name, title, logo, background, window, styles, groups, items.",
+                          diagnostics_);
         parts.emplace(entry.name, entry);
     }
     const auto part = [&](const char* name) { return parts[name].value; };
@@ -96,7 +95,7 @@ void ScreenReader::readName(const Source& source, const Place& place)
     // The program takes a pattern's name up to the first dot, and profile keys up to these two.
     if (euc && euc->find_first_of(".,;") != std::string::npos)
         diagnostics_.error(place,
-                           "the name " + Quoted(*name) + " has '.', ',' or ';' in it. Write it without.");
+                           fmt::format("the name '{}' has '.', ',' or ';' in it. Write it without.", *name));
     pattern_.name = euc.value_or("");
 }
 
@@ -121,8 +120,9 @@ template <std::size_t N> void ScreenReader::readBitmap(char (&field)[N], const E
         return;
     CopyText(field, euc->c_str());
     if (!euc->empty() && !project_.bitmaps.count(*euc))
-        diagnostics_.error(entry.place, Quoted(entry.name) + ": no file " + Quoted(*name) +
-                                            " in 'bitmaps'. Put it there or correct the name.");
+        diagnostics_.error(entry.place,
+                           fmt::format("'{}': no file '{}' in 'bitmaps'. Put it there or correct the name.",
+                                       entry.name, *name));
 }
 
 void ScreenReader::readWindow(const Source& source)
@@ -150,8 +150,7 @@ void ScreenReader::readWindow(const Source& source)
         } else {
             std::vector<std::string> names = window_.names();
             names.insert(names.end(), {"size", "at", "parm", "parm2"});
-            diagnostics_.error(entry.place, label + ": unknown attribute " + Quoted(entry.name) + "." +
-                                                Suggestion(entry.name, names) + " Correct or remove it.");
+            ReportUnknown(entry, label + ": unknown attribute", names, "Correct or remove it.", diagnostics_);
         }
     }
     window_.apply(own);
@@ -159,10 +158,9 @@ void ScreenReader::readWindow(const Source& source)
         ReadParm(unnamed, label, pattern_.header.Parm1, diagnostics_);
     for (const int side : {HEDR_WIDTH, HEDR_HEIGHT})
         if (pattern_.header.Parm1[side] < 1 || pattern_.header.Parm1[side] > COORDINATE_MAX)
-            diagnostics_.error(source.place(), label + " has a side of " +
-                                                   std::to_string(pattern_.header.Parm1[side]) +
-                                                   " pixels. Write a 'size' from 1 to " +
-                                                   std::to_string(COORDINATE_MAX) + ".");
+            diagnostics_.error(source.place(), label,
+                               " has a side of {} pixels. Write a 'size' from 1 to {}.",
+                               pattern_.header.Parm1[side], COORDINATE_MAX);
 }
 
 void ScreenReader::readParm2(const Source& source)
@@ -199,8 +197,9 @@ std::set<std::string> CheckNames(const std::vector<Pattern>& patterns, Diagnosti
         names.insert(pattern.name);
         const auto added = places.emplace(pattern.name, pattern.place);
         if (!added.second)
-            diagnostics.error(pattern.place, "this name is also that of " + added.first->second.file +
-                                                 ". Give one of them another.");
+            diagnostics.error(pattern.place,
+                              fmt::format("this name is also that of {}. Give one of them another.",
+                                          added.first->second.file));
     }
     return names;
 }
@@ -212,9 +211,9 @@ void CheckOpened(const std::vector<Pattern>& patterns, const std::set<std::strin
         for (const PatternItem& item : pattern.items) {
             const ActionSchema* action = FindAction(item.record.ID_Type);
             if (action && action->opens && !item.exact && !names.count(item.name))
-                diagnostics.error(item.place,
-                                  "no screen is named " + Quoted(EucToUtf8(item.name)) +
-                                      ", which this item opens. Correct 'pattern' or add the screen.");
+                diagnostics.error(item.place, fmt::format("no screen is named '{}', which this item opens. "
+                                                          "Correct 'pattern' or add the screen.",
+                                                          EucToUtf8(item.name)));
         }
     }
 }

@@ -72,10 +72,8 @@ void ReadCell(const std::string& name, const Source& source, CellState& state, D
         else if (part.name == "hidden")
             bit(part, STATE_HIDDEN);
         else
-            diagnostics.error(part.place, what + ": unknown " + Quoted(part.name) + "." +
-                                              Suggestion(part.name, {"value", "text", "color", "blink",
-                                                                     "disabled", "hidden"}) +
-                                              " Write value, text, color, blink, disabled or hidden.");
+            ReportUnknown(part, what + ": unknown", {"value", "text", "color", "blink", "disabled", "hidden"},
+                          "Write value, text, color, blink, disabled or hidden.", diagnostics);
     }
 }
 
@@ -88,9 +86,9 @@ void ReadCells(const Entry& entry, const CodeTable& codes, ScreenState& state, D
     const std::vector<Source> values =
         entry.value.isList() ? entry.value.members() : std::vector<Source>{entry.value};
     if (values.size() > static_cast<std::size_t>(cell->count - cell->offset)) {
-        diagnostics.error(entry.place, "cell " + Quoted(entry.name) + ": " + std::to_string(values.size()) +
-                                           " values go beyond its code. Write at most " +
-                                           std::to_string(cell->count - cell->offset) + ".");
+        diagnostics.error(entry.place,
+                          fmt::format("cell '{}': {} values go beyond its code. Write at most {}.",
+                                      entry.name, values.size(), cell->count - cell->offset));
         return;
     }
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -120,9 +118,8 @@ ScreenState ReadState(const std::string& file, const CodeTable& codes, Diagnosti
             for (const Entry& entry : Entries(part.value, "'cells'", diagnostics))
                 ReadCells(entry, codes, state, diagnostics);
         } else {
-            diagnostics.error(part.place, "unknown " + Quoted(part.name) + "." +
-                                              Suggestion(part.name, {"clock", "cells"}) +
-                                              " A state has 'clock' and 'cells'.");
+            ReportUnknown(part, "unknown", {"clock", "cells"}, "A state has 'clock' and 'cells'.",
+                          diagnostics);
         }
     }
     return state;

@@ -153,7 +153,7 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
     } catch (const YAML::Exception& problem) {
         // Without a position the mark's line is -1.
         diagnostics.error({file, problem.mark.line + 1},
-                          "not valid YAML: " + problem.msg + ". " + YamlRemedy(problem.msg, text));
+                          fmt::format("not valid YAML: {}. {}", problem.msg, YamlRemedy(problem.msg, text)));
         return std::nullopt;
     }
 }
@@ -177,12 +177,18 @@ std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostic
         }
         const std::string name = key.text();
         if (!names.insert(name).second) {
-            diagnostics.error(key.place(), what + " has " + Quoted(name) + " twice. Remove one of them.");
+            diagnostics.error(key.place(), what, " has '{}' twice. Remove one of them.", name);
             continue;
         }
         entries.push_back({name, key.place(), source.child(pair.second, key.place())});
     }
     return entries;
+}
+
+void ReportUnknown(const Entry& entry, const Subject& what, const std::vector<std::string>& known,
+                   const std::string& remedy, Diagnostics& diagnostics)
+{
+    diagnostics.error(entry.place, what, " '{}'.{} {}", entry.name, Suggestion(entry.name, known), remedy);
 }
 
 std::optional<int> ParseInteger(const std::string& text)
@@ -206,9 +212,8 @@ std::optional<int> Integer(const Source& source, int minimum, int maximum, const
     const std::optional<int> value = source.isText() ? ParseInteger(source.text()) : std::nullopt;
     if (!value || *value < minimum || *value > maximum) {
         const std::string found = source.isText() ? Quoted(source.text()) : "this";
-        diagnostics.error(source.place(), what + " can not be " + found + ". Write a whole number from " +
-                                              std::to_string(minimum) + " to " + std::to_string(maximum) +
-                                              ".");
+        diagnostics.error(source.place(), what, " can not be {}. Write a whole number from {} to {}.", found,
+                          minimum, maximum);
         return std::nullopt;
     }
     return value;
@@ -235,9 +240,8 @@ std::optional<std::vector<int>> Integers(const Source& source, std::size_t count
         if (const std::optional<int> value = member.isText() ? ParseInteger(member.text()) : std::nullopt)
             values.push_back(*value);
     if (values.size() != count || source.members().size() != count) {
-        diagnostics.error(source.place(), what + " must be a list of " + std::to_string(count) +
-                                              " whole numbers, such as [" +
-                                              (count == 4 ? "8, 8, 80, 32" : "8, 8") + "].");
+        diagnostics.error(source.place(), what, " must be a list of {} whole numbers, such as [{}].", count,
+                          count == 4 ? "8, 8, 80, 32" : "8, 8");
         return std::nullopt;
     }
     return values;
@@ -260,9 +264,9 @@ std::optional<std::vector<std::string>> Texts(const Source& source, const Subjec
             if (member.isText() || member.isEmpty())
                 texts.push_back(member.text());
         if (texts.size() != source.members().size() || texts.empty() || texts.size() > 3) {
-            diagnostics.error(source.place(),
-                              what + " must be one text, or a list of two or three in the order of "
-                                     "the languages.");
+            diagnostics.error(
+                source.place(),
+                what + " must be one text, or a list of two or three in the order of the languages.");
             return std::nullopt;
         }
     } else {

@@ -79,6 +79,13 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
 /// @param what  how messages call the node, such as "'colors'"
 std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostics& diagnostics);
 
+/// Reports an entry whose name means nothing there.
+/// @param what    what the message says before the name, such as "'colors': unknown"
+/// @param known   the names that mean something, for a suggestion
+/// @param remedy  the sentence that tells what to do about it
+void ReportUnknown(const Entry& entry, const Subject& what, const std::vector<std::string>& known,
+                   const std::string& remedy, Diagnostics& diagnostics);
+
 /// A whole number within a range, decimal or with 0x hexadecimal.
 std::optional<int> Integer(const Source& source, int minimum, int maximum, const Subject& what,
                            Diagnostics& diagnostics);
