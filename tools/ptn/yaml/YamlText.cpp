@@ -1,6 +1,7 @@
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <cstdio>
+#include <yaml-cpp/yaml.h>
 
 namespace ptn
 {
@@ -8,6 +9,7 @@ namespace ptn
 namespace
 {
 
+// Stricter than YAML, whose own rule lets through what is hard to see, such as a lone carriage return.
 bool IsPlain(const std::string& text)
 {
     static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
@@ -36,20 +38,9 @@ std::string YamlScalar(const std::string& utf8)
 {
     if (IsPlain(utf8))
         return utf8;
-    std::string quoted = "\"";
-    for (const char byte : utf8) {
-        if (byte == '"' || byte == '\\') {
-            quoted += '\\';
-            quoted += byte;
-        } else if ((byte >= 0 && byte < ' ') || byte == 0x7F) {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\x%02X", static_cast<unsigned>(byte));
-            quoted += escape;
-        } else {
-            quoted += byte;
-        }
-    }
-    return quoted + "\"";
+    YAML::Emitter quoted;
+    quoted << YAML::DoubleQuoted << utf8;
+    return quoted.c_str();
 }
 
 std::string YamlList(const std::vector<std::string>& values)
