@@ -25,8 +25,6 @@ struct Exception {
 constexpr Exception exceptions[] = {
     {"tessary.h: \"gtk/gtk.h\" is of the toolkit",
      "applications name the toolkit's types without including it"},
-    {"tools/ptn/source/ProjectSource, tools/ptn/source/Sections: a circle",
-     "a project is read by the table of sections, whose rows belong to the project"},
 };
 
 /// A made-up tree of sources.

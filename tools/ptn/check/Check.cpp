@@ -4,6 +4,7 @@
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/source/Placement.h"
+#include "tools/ptn/source/ReadProject.h"
 #include "tools/ptn/source/ScreenSource.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "tools/ptn/common/Files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <iterator>
@@ -18,6 +19,18 @@ std::optional<std::string> ReadBytes(const fs::path& file)
     if (!in)
         return std::nullopt;
     return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+std::vector<std::string> YamlFiles(const fs::path& folder)
+{
+    std::vector<std::string> files;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing))
+        if (entry.path().extension() == ".yaml" && entry.path().filename().string()[0] != '.' &&
+            !entry.is_directory())
+            files.push_back(entry.path().string());
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 void WriteBytes(const fs::path& file, const std::string& bytes)

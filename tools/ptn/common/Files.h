@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ptn
 {
@@ -16,6 +17,9 @@ using FileMap = std::map<std::string, std::string>;
 
 /// A regular file's bytes; none when it is missing, can not be read or is not a regular file.
 std::optional<std::string> ReadBytes(const std::filesystem::path& file);
+
+/// The *.yaml files of a folder in the order of their names; none when there is no such folder.
+std::vector<std::string> YamlFiles(const std::filesystem::path& folder);
 
 /// Reports a file or folder that could not be written.
 void ReportUnwritten(const std::filesystem::filesystem_error& problem, Diagnostics& diagnostics);

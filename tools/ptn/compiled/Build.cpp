@@ -1,6 +1,7 @@
 #include "tools/ptn/compiled/Build.h"
 
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/source/ReadProject.h"
 #include "tools/ptn/source/ScreenSource.h"
 #include "tools/ptn/source/Sections.h"
 

@@ -34,16 +34,9 @@ struct ProjectSource {
     FileMap bitmaps;                               ///< by EUC-JP name
 };
 
-/// Reads the folder: its *.yaml files, whose sections may be spread over the files as one likes, and the
-/// files in "bitmaps".
-ProjectSource ReadProject(const std::filesystem::path& folder, Diagnostics& diagnostics);
-
 /// The texts in quotes of a C++ source file, or of all those of a folder, in EUC-JP: the patterns that a
 /// program knows by name are among them. None, with an error reported, when it can not be read.
 std::optional<std::set<std::string>> QuotedTexts(const std::filesystem::path& path, const Place& place,
                                                  Diagnostics& diagnostics);
-
-/// The *.yaml files of a folder in the order of their names; none when there is no such folder.
-std::vector<std::string> YamlFiles(const std::filesystem::path& folder);
 
 } // namespace ptn

@@ -5,6 +5,7 @@
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "tools/ptn/common/EucName.h"
+#include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/Names.h"
 #include "tools/ptn/source/Exact.h"
 #include "tools/ptn/source/ItemList.h"
