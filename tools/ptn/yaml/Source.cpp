@@ -107,6 +107,8 @@ Source Source::with(std::shared_ptr<const Arguments> arguments) const
 
 Source& Source::operator=(const Source& other)
 {
+    if (this == &other)
+        return *this;
     file_ = other.file_;
     node_.reset(other.node_);
     line_ = other.line_;
