@@ -28,6 +28,7 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
     Compiled read;
     if (IsCompiled(folder)) {
         read = ReadCompiled(folder, diagnostics);
+        read.project.profile.checkEdition(diagnostics);
     } else {
         read.project = ReadProject(folder, diagnostics);
         ScreenSet screens = ReadScreens(folder, read.project, diagnostics);

@@ -1,4 +1,5 @@
-// "ptn help": commands, and the reference of items and windows.
+// "ptn help": commands, the reference of items and windows, and the table of editions.
+#include "config/Edition.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/commands/Command.h"
@@ -7,6 +8,7 @@
 #include <iomanip>
 #include <iostream>
 #include <limits>
+#include <sstream>
 #include <string>
 
 namespace ptn
@@ -150,13 +152,47 @@ bool PrintAttributes(const std::string& type, std::ostream& out)
     return true;
 }
 
+/// Writes a text in lines that end before a column, all of them but the first one indented.
+void PrintWrapped(const std::string& text, std::size_t indent, std::ostream& out)
+{
+    constexpr std::size_t WIDTH = 100;
+    std::istringstream words(text);
+    std::size_t column = indent;
+    for (std::string word; words >> word; column += word.size() + 1) {
+        if (column > indent && column + word.size() > WIDTH) {
+            out << "\n" << std::string(indent, ' ');
+            column = indent;
+        }
+        out << (column > indent ? " " : "") << word;
+    }
+    out << "\n";
+}
+
+void PrintEditions(std::ostream& out)
+{
+    constexpr int INDENT = 20;
+    out << "Editions: what an operator sees and does. A project without 'edition' in project.yaml is of\n"
+           "edition 1, and stays as it is. An edition has all that those before it have. 'ptn check' warns\n"
+           "of what is marked (*) where a screen of an earlier edition uses it.\n";
+    for (int edition = 2; edition <= LATEST_EDITION; ++edition) {
+        out << "\nedition: " << edition << "\n";
+        for (const EditionRow& row : EditionRows()) {
+            if (row.edition != edition)
+                continue;
+            const std::string name = row.name + std::string(row.surprising ? " (*)" : "");
+            out << "  " << std::left << std::setw(INDENT - 2) << name;
+            PrintWrapped(row.text, INDENT, out);
+        }
+    }
+}
+
 class HelpCommand : public Command
 {
   public:
     const char* name() const override { return "help"; }
     const char* summary() const override
     {
-        return "Explain commands, and the attributes of items and windows";
+        return "Explain commands, the attributes of items and windows, and editions";
     }
     void addOptions(CLI::App& line) override;
     int run() override;
@@ -170,7 +206,7 @@ class HelpCommand : public Command
 void HelpCommand::addOptions(CLI::App& line)
 {
     program_ = line.get_parent();
-    line.add_option("TOPIC", topic_, "A command, or attributes");
+    line.add_option("TOPIC", topic_, "A command, attributes, or editions");
     line.add_option("TYPE", type_, "Of attributes: item type, or window");
 }
 
@@ -183,6 +219,10 @@ int HelpCommand::run()
     }
     if (const CLI::App* command = FindCommand(*program_, topic_)) {
         std::cout << command->help(program_->get_name());
+        return 0;
+    }
+    if (topic_ == "editions") {
+        PrintEditions(std::cout);
         return 0;
     }
     const std::string type = topic_ == "attributes" ? type_ : topic_;

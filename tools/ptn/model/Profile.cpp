@@ -1,6 +1,7 @@
 #include "tools/ptn/model/Profile.h"
 
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "config/ProfileText.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
@@ -22,6 +23,8 @@ constexpr int FONTS_PER_LANGUAGE = CONT_FONT;
 const std::string DIR_MARK = "@DIR@/";
 const std::string WINDOW_SECTION = "WINDOW";
 const std::string FONT_KEY = "FONTNAME";
+const std::string PROGRAM_SECTION = "TESSARY";
+const std::string EDITION_KEY = "EDITION";
 
 bool IsName(const std::string& name)
 {
@@ -48,6 +51,15 @@ std::string RememberedWindows(const std::string& profile)
     return kept.empty() ? "" : SectionBegin(WINDOW_SECTION) + "\n" + kept;
 }
 
+// Nothing but the plain number: what a panel would make of anything else is a guess.
+std::optional<int> KnownEdition(const std::string& text)
+{
+    for (int edition = 1; edition <= LATEST_EDITION; ++edition)
+        if (text == std::to_string(edition))
+            return edition;
+    return std::nullopt;
+}
+
 } // namespace
 
 void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
@@ -64,11 +76,17 @@ void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
         for (const Entry& entry : Entries(part.value, "profile section " + Quoted(part.name), diagnostics))
             readKey(part.name, entry, diagnostics);
     }
+    checkEdition(diagnostics);
 }
 
 void ProfileSource::readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics)
 {
     const Subject what = "profile key " + Quoted(entry.name);
+    if (edition_ && section == edition_->section && entry.name == edition_->name) {
+        diagnostics.error(entry.place, what, " is what 'edition' is in {}:{}. Remove this one.",
+                          edition_->place.file, edition_->place.line);
+        return;
+    }
     if (!IsName(entry.name)) {
         diagnostics.error(entry.place, what + " is no key. Use letters, digits and '_' only.");
         return;
@@ -107,6 +125,33 @@ const ProfileSource::Key* ProfileSource::find(const std::string& section, const 
     return place == keys_.end() ? nullptr : &*place;
 }
 
+void ProfileSource::readEdition(const Source& section, Diagnostics& diagnostics)
+{
+    edition_ = Key{PROGRAM_SECTION, EDITION_KEY, Utf8ToEuc(section.text()), section.place()};
+    checkEdition(diagnostics);
+}
+
+const ProfileSource::Key* ProfileSource::editionKey() const
+{
+    return edition_ ? &*edition_ : find(PROGRAM_SECTION, EDITION_KEY);
+}
+
+void ProfileSource::checkEdition(Diagnostics& diagnostics) const
+{
+    const Key* key = editionKey();
+    if (key && !KnownEdition(key->value))
+        diagnostics.error(key->place,
+                          fmt::format("there is no edition '{}'. Write a number from 1 to {}; 'ptn help "
+                                      "editions' tells what they are.",
+                                      EucToUtf8(key->value), LATEST_EDITION));
+}
+
+int ProfileSource::edition() const
+{
+    const Key* key = editionKey();
+    return key ? KnownEdition(key->value).value_or(1) : 1;
+}
+
 void ProfileSource::checkPatterns(const std::set<std::string>& patterns, Diagnostics& diagnostics) const
 {
     for (const char* name : {"PTRNSTART", "PTRNSTOP"})
@@ -123,8 +168,14 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
                                  Diagnostics& diagnostics) const
 {
     std::vector<Key> keys = keys_;
-    if (!find("TESSARY", "PROJECT"))
-        keys.insert(keys.begin(), {"TESSARY", "PROJECT", DIR_MARK + project, {}});
+    if (!find(PROGRAM_SECTION, "PROJECT"))
+        keys.insert(keys.begin(), {PROGRAM_SECTION, "PROJECT", DIR_MARK + project, {}});
+    if (edition_) {
+        const auto isProject = [](const Key& key) {
+            return key.section == PROGRAM_SECTION && key.name == "PROJECT";
+        };
+        keys.insert(std::next(std::find_if(keys.begin(), keys.end(), isProject)), *edition_);
+    }
     for (int language = 0; language < 3; ++language)
         for (int font = 0; font < CONT_FONT; ++font)
             if (const std::string& name = resources.fontNames(font).at(language); !name.empty())
@@ -176,10 +227,12 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
             std::string value = key.value;
             if (value.compare(0, folder.size() + 1, folder + "/") == 0)
                 value = DIR_MARK + value.substr(folder.size() + 1);
-            const bool own = section.name == "TESSARY" && key.name == "PROJECT" && keys_.empty() &&
+            const bool own = section.name == PROGRAM_SECTION && key.name == "PROJECT" && keys_.empty() &&
                              value == DIR_MARK + project;
             if (font >= 0 && font < 3 * FONTS_PER_LANGUAGE)
                 fonts[font] = key.value;
+            else if (section.name == PROGRAM_SECTION && key.name == EDITION_KEY && KnownEdition(value))
+                edition_ = Key{section.name, key.name, value, {file, key.line}};
             else if (!own)
                 keys_.push_back({section.name, key.name, value, {file, key.line}});
         }
@@ -190,6 +243,11 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
 void ProfileSource::keepFont(int number, const std::string& name)
 {
     keys_.push_back({"FONT", FONT_KEY + std::to_string(number), name, {}});
+}
+
+std::string ProfileSource::editionYaml() const
+{
+    return edition_ ? fmt::format("edition: {}\n\n", edition_->value) : "";
 }
 
 std::string ProfileSource::yaml() const

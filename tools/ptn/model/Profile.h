@@ -22,6 +22,15 @@ class ProfileSource
     /// of one key. "@DIR@/" at the start of a value stands for the folder that the profile lies in.
     void read(const Source& section, Diagnostics& diagnostics);
 
+    /// Puts in the section "edition" of the sources, which is a key of the profile.
+    void readEdition(const Source& section, Diagnostics& diagnostics);
+
+    /// Reports an edition that this framework does not know, wherever the profile has it from.
+    void checkEdition(Diagnostics& diagnostics) const;
+
+    /// The project's edition; 1 where the profile names none, or none that there is.
+    int edition() const;
+
     /// Checks that the patterns which the program opens by itself exist.
     /// @param patterns  names of the project's patterns in EUC-JP
     void checkPatterns(const std::set<std::string>& patterns, Diagnostics& diagnostics) const;
@@ -43,7 +52,8 @@ class ProfileSource
                                     const std::string& project, const std::string& file);
     /// Keeps a font name as a plain key.
     void keepFont(int number, const std::string& name);
-    /// The section "profile".
+    /// The sections "edition", empty where the profile names none, and "profile".
+    std::string editionYaml() const;
     std::string yaml() const;
 
     /// The value of a key in EUC-JP, empty when it is missing, and where it stands.
@@ -59,9 +69,11 @@ class ProfileSource
 
     void readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics);
     const Key* find(const std::string& section, const std::string& name) const;
+    const Key* editionKey() const;
 
     std::vector<std::string> sections_;
     std::vector<Key> keys_;
+    std::optional<Key> edition_; ///< where it stands on its own
 };
 
 } // namespace ptn

@@ -2,6 +2,7 @@
 
 #include "base/EucText.h"
 #include "comndata/ComnData.h"
+#include "config/Edition.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "draw/DrawCntl.h"
@@ -74,6 +75,7 @@ Stage::Stage(const RenderJob& job, Diagnostics& diagnostics)
             return;
     }
     compiled = ReadCompiled(IsCompiled(job.project) ? job.project : project, diagnostics);
+    SetEdition(compiled.project.profile.edition());
     WriteBytes(profile, ReadBytes(compiled.profile).value_or(""));
     CopyText(ProfName, profile.c_str());
     CopyText(ProjPath, project.c_str());

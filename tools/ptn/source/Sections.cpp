@@ -29,6 +29,21 @@ class ProgramSection : public Section
     }
 };
 
+// A key of the profile with a name of its own, since it decides what the screens do.
+class EditionSection : public Section
+{
+  public:
+    EditionSection() : Section("edition", nullptr, ProjectFile::None) {}
+    void read(P& to, const SectionSource& from) const override
+    {
+        to.profile.readEdition(from.value(), from.diagnostics);
+    }
+    void emit(const P& of, FileMap& sources) const override
+    {
+        sources["project.yaml"] += of.profile.editionYaml();
+    }
+};
+
 class CodeSection : public Section
 {
   public:
@@ -239,9 +254,9 @@ template <class... Row> Rows RowsOf()
 // Made when it is needed first, which may be a registration before main.
 Rows& Table()
 {
-    static Rows rows =
-        RowsOf<ProgramSection, CodeSection, ColorSection, FontSection, MarkSection, StyleSection,
-               GroupSection, ProfileSection, MessageSection, LimitSection, FlagSection, RegistrySection>();
+    static Rows rows = RowsOf<ProgramSection, EditionSection, CodeSection, ColorSection, FontSection,
+                              MarkSection, StyleSection, GroupSection, ProfileSection, MessageSection,
+                              LimitSection, FlagSection, RegistrySection>();
     return rows;
 }
 
