@@ -10,57 +10,57 @@ struct CellRange {
 };
 
 // Signals that the application generates.
-constexpr int kCounterCell = 111;
-constexpr int kCounterCopyCell = 1549;
-constexpr int kColorStepCells[] = {438, 437, 110};
+constexpr int COUNTER_CELL = 111;
+constexpr int COUNTER_COPY_CELL = 1549;
+constexpr int COLOR_STEP_CELLS[] = {438, 437, 110};
 
 // Shapes.
-constexpr CellRange kBlinkMarks = {454, 14};
+constexpr CellRange BLINK_MARKS = {454, 14};
 
 // Texts and buttons. Each radio group sets the colour of one text.
-constexpr int kPopupButtonCell = 104;
-constexpr CellRange kColorMessages = {105, 4}; ///< the button that sets all colours, and the radio groups
-constexpr CellRange kColorRadios = {106, 3};
-constexpr CellRange kColorTexts = {101, 3};
-constexpr int kSampleValueCell = 1547;
+constexpr int POPUP_BUTTON_CELL = 104;
+constexpr CellRange COLOR_MESSAGES = {105, 4}; ///< the button that sets all colours, and the radio groups
+constexpr CellRange COLOR_RADIOS = {106, 3};
+constexpr CellRange COLOR_TEXTS = {101, 3};
+constexpr int SAMPLE_VALUE_CELL = 1547;
 
 /// A check box and the cell whose items it changes.
 struct CheckedCell {
     int check;
     int cell;
 };
-constexpr CheckedCell kColorChecks[] = {{114, 436}, {115, 435}, {116, kCounterCopyCell}};
-constexpr CheckedCell kBlinkChecks[] = {{1551, 436}, {1552, 435}, {1553, kCounterCopyCell}};
+constexpr CheckedCell COLOR_CHECKS[] = {{114, 436}, {115, 435}, {116, COUNTER_COPY_CELL}};
+constexpr CheckedCell BLINK_CHECKS[] = {{1551, 436}, {1552, 435}, {1553, COUNTER_COPY_CELL}};
 
 // Buttons that open the child windows (1) to (3), here and on the mouse screen.
-constexpr CellRange kChildButtons = {482, 3};
+constexpr CellRange CHILD_BUTTONS = {482, 3};
 
 // Graphs.
-constexpr int kTrendOverlayCell = 112;
-constexpr int kTrendFrameCell = 113;
+constexpr int TREND_OVERLAY_CELL = 112;
+constexpr int TREND_FRAME_CELL = 113;
 
 // Mouse.
-constexpr CellRange kMouseAreas = {468, 4};
-constexpr CellRange kLeftLamps = {472, 5};
-constexpr CellRange kRightLamps = {477, 5};
+constexpr CellRange MOUSE_AREAS = {468, 4};
+constexpr CellRange LEFT_LAMPS = {472, 5};
+constexpr CellRange RIGHT_LAMPS = {477, 5};
 
 // Wiring table: header fields.
-constexpr int kSystemNoCell = 1550;
-constexpr int kDeliveryCell = 485;
-constexpr int kWorkNoCell = 1548;
-constexpr int kBoardNoCell = 100;
-constexpr int kCommentCell = 109;
+constexpr int SYSTEM_NO_CELL = 1550;
+constexpr int DELIVERY_CELL = 485;
+constexpr int WORK_NO_CELL = 1548;
+constexpr int BOARD_NO_CELL = 100;
+constexpr int COMMENT_CELL = 109;
 
-// Wiring table: the shown part and its controls. Column k of line i is kTableCell + kTableStride * k + i.
-constexpr int kTableCell = 117;
-constexpr int kTableStride = 20;
-constexpr int kTableLines = 15;
-constexpr int kTableColumns = 16;
-constexpr CellRange kTableCells = {kTableCell, kTableStride* kTableColumns};
-constexpr int kTableLineNoCell = 439; ///< of line 0
-constexpr int kTableFrameCell = 432;
-constexpr int kTableHScrollCell = 433;
-constexpr int kTableVScrollCell = 1571;
-constexpr int kTablePrintCell = 434;
-constexpr int kTableSaveCell = 1554;
-constexpr CellRange kTableHeadings = {1555, 16};
+// Wiring table: the shown part and its controls. Column k of line i is TABLE_CELL + TABLE_STRIDE * k + i.
+constexpr int TABLE_CELL = 117;
+constexpr int TABLE_STRIDE = 20;
+constexpr int TABLE_LINES = 15;
+constexpr int TABLE_COLUMNS = 16;
+constexpr CellRange TABLE_CELLS = {TABLE_CELL, TABLE_STRIDE* TABLE_COLUMNS};
+constexpr int TABLE_LINE_NO_CELL = 439; ///< of line 0
+constexpr int TABLE_FRAME_CELL = 432;
+constexpr int TABLE_H_SCROLL_CELL = 433;
+constexpr int TABLE_V_SCROLL_CELL = 1571;
+constexpr int TABLE_PRINT_CELL = 434;
+constexpr int TABLE_SAVE_CELL = 1554;
+constexpr CellRange TABLE_HEADINGS = {1555, 16};

@@ -5,10 +5,10 @@
 namespace
 {
 
-constexpr int kSlot = 1; ///< child slot of everything that the test screens open
+constexpr int SLOT = 1; ///< child slot of everything that the test screens open
 
-constexpr const char* kChildNames[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
-static_assert(sizeof kChildNames / sizeof kChildNames[0] == kChildButtons.count);
+constexpr const char* CHILD_NAMES[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
+static_assert(sizeof CHILD_NAMES / sizeof CHILD_NAMES[0] == CHILD_BUTTONS.count);
 
 } // namespace
 
@@ -32,18 +32,18 @@ RECT OnScreen(const CPtrnDisp& wnd, const RECT& rect)
 
 bool OpenChildOf(CPtrnDisp& wnd, int button)
 {
-    if (!kChildButtons.holds(button))
+    if (!CHILD_BUTTONS.holds(button))
         return false;
-    wnd.PtrnDispChild(kSlot, kChildNames[button - kChildButtons.first], nullptr, 0);
+    wnd.PtrnDispChild(SLOT, CHILD_NAMES[button - CHILD_BUTTONS.first], nullptr, 0);
     return true;
 }
 
 void OpenPopupMenu(CPtrnDisp& wnd, const RECT& beside)
 {
-    wnd.PtrnDispPopup(kSlot, "ポップアップメニュー", OnScreen(wnd, beside), nullptr, 0);
+    wnd.PtrnDispPopup(SLOT, "ポップアップメニュー", OnScreen(wnd, beside), nullptr, 0);
 }
 
 void CloseOpened(CPtrnDisp& wnd)
 {
-    wnd.PtrnCloseWnd(kSlot, nullptr, 0);
+    wnd.PtrnCloseWnd(SLOT, nullptr, 0);
 }

@@ -12,5 +12,5 @@ class CPtrnTest1 : public CPtrnDisp
     void PtrnMesgFunc(int no) override;
 
   private:
-    int BlinkTimr[kBlinkMarks.count] = {}; ///< ticks left to blink, per mark; 0 still
+    int BlinkTimr[BLINK_MARKS.count] = {}; ///< ticks left to blink, per mark; 0 still
 };

@@ -6,39 +6,39 @@
 namespace
 {
 
-static_assert(kColorTexts.count == kColorRadios.count);
+static_assert(COLOR_TEXTS.count == COLOR_RADIOS.count);
 
 void SetTextColors()
 {
-    for (int i = 0; i < kColorTexts.count; i++)
-        Set_Color(kColorTexts.first + i, Get_iData(kColorRadios.first + i, nullptr, 0), nullptr, 0);
+    for (int i = 0; i < COLOR_TEXTS.count; i++)
+        Set_Color(COLOR_TEXTS.first + i, Get_iData(COLOR_RADIOS.first + i, nullptr, 0), nullptr, 0);
 }
 
 } // namespace
 
 void CPtrnTest2::PtrnInitFunc()
 {
-    for (int i = 0; i < kColorTexts.count; i++) {
-        Set_iData(kColorRadios.first + i, 1, nullptr, 0);
-        Set_Color(kColorTexts.first + i, 0, nullptr, 0);
+    for (int i = 0; i < COLOR_TEXTS.count; i++) {
+        Set_iData(COLOR_RADIOS.first + i, 1, nullptr, 0);
+        Set_Color(COLOR_TEXTS.first + i, 0, nullptr, 0);
     }
-    Set_iData(kSampleValueCell, 0, nullptr, 0);
+    Set_iData(SAMPLE_VALUE_CELL, 0, nullptr, 0);
 }
 
 void CPtrnTest2::PtrnMesgFunc(int no)
 {
     CloseOpened(*this);
-    if (kColorMessages.holds(no))
+    if (COLOR_MESSAGES.holds(no))
         SetTextColors();
-    else if (no == kPopupButtonCell)
-        OpenPopupMenu(*this, ItemRect(*this, kPopupButtonCell, PTRN_BUTN));
+    else if (no == POPUP_BUTTON_CELL)
+        OpenPopupMenu(*this, ItemRect(*this, POPUP_BUTTON_CELL, PTRN_BUTN));
     else
         OpenChildOf(*this, no);
 
-    for (const CheckedCell& row : kColorChecks)
+    for (const CheckedCell& row : COLOR_CHECKS)
         if (row.check == no)
             Set_Color(row.cell, Get_iData(no, nullptr, 0), nullptr, 0);
-    for (const CheckedCell& row : kBlinkChecks)
+    for (const CheckedCell& row : BLINK_CHECKS)
         if (row.check == no)
             Set_Flikr(row.cell, Get_iData(no, nullptr, 0) ? 1 : 0, nullptr, 0);
 }

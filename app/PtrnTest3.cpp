@@ -10,8 +10,8 @@ using namespace tessary;
 namespace
 {
 
-constexpr char kTableName[] = "テスト  （表）";
-constexpr int kTableSlot = 1;
+constexpr char TABLE_NAME[] = "テスト  （表）";
+constexpr int TABLE_SLOT = 1;
 
 /// Where key input goes on from a header field. The fields are two columns: system number and delivery, work
 /// and board number, comment.
@@ -24,18 +24,18 @@ struct Move {
     int left;
     int right;
 };
-constexpr int kStay = -1;
-constexpr Move kMoves[] = {
-    {kSystemNoCell, kDeliveryCell, kCommentCell, kStay, kWorkNoCell, kStay, kDeliveryCell},
-    {kDeliveryCell, kWorkNoCell, kSystemNoCell, kStay, kBoardNoCell, kSystemNoCell, kStay},
-    {kWorkNoCell, kBoardNoCell, kDeliveryCell, kSystemNoCell, kCommentCell, kStay, kBoardNoCell},
-    {kBoardNoCell, kCommentCell, kWorkNoCell, kDeliveryCell, kCommentCell, kWorkNoCell, kStay},
-    {kCommentCell, kSystemNoCell, kBoardNoCell, kWorkNoCell, kStay, kStay, kStay},
+constexpr int STAY = -1;
+constexpr Move MOVES[] = {
+    {SYSTEM_NO_CELL, DELIVERY_CELL, COMMENT_CELL, STAY, WORK_NO_CELL, STAY, DELIVERY_CELL},
+    {DELIVERY_CELL, WORK_NO_CELL, SYSTEM_NO_CELL, STAY, BOARD_NO_CELL, SYSTEM_NO_CELL, STAY},
+    {WORK_NO_CELL, BOARD_NO_CELL, DELIVERY_CELL, SYSTEM_NO_CELL, COMMENT_CELL, STAY, BOARD_NO_CELL},
+    {BOARD_NO_CELL, COMMENT_CELL, WORK_NO_CELL, DELIVERY_CELL, COMMENT_CELL, WORK_NO_CELL, STAY},
+    {COMMENT_CELL, SYSTEM_NO_CELL, BOARD_NO_CELL, WORK_NO_CELL, STAY, STAY, STAY},
 };
 
 const Move* FindMove(int field)
 {
-    for (const Move& move : kMoves)
+    for (const Move& move : MOVES)
         if (move.from == field)
             return &move;
     return nullptr;
@@ -57,7 +57,7 @@ int Target(const Move& move, unsigned int key, int state)
     case KEYVAL_RIGHT:
         return move.right;
     default:
-        return kStay;
+        return STAY;
     }
 }
 
@@ -73,20 +73,20 @@ template <std::size_t N> void TakeField(char (&field)[N], int cell)
 
 void ShowHeader()
 {
-    ShowField(kSystemNoCell, HaisenHedr.systemno);
-    ShowField(kDeliveryCell, HaisenHedr.nousaki);
-    ShowField(kWorkNoCell, HaisenHedr.sakuban);
-    ShowField(kBoardNoCell, HaisenHedr.banno);
-    ShowField(kCommentCell, HaisenHedr.comment);
+    ShowField(SYSTEM_NO_CELL, HaisenHedr.systemno);
+    ShowField(DELIVERY_CELL, HaisenHedr.nousaki);
+    ShowField(WORK_NO_CELL, HaisenHedr.sakuban);
+    ShowField(BOARD_NO_CELL, HaisenHedr.banno);
+    ShowField(COMMENT_CELL, HaisenHedr.comment);
 }
 
 void TakeHeader()
 {
-    TakeField(HaisenHedr.systemno, kSystemNoCell);
-    TakeField(HaisenHedr.nousaki, kDeliveryCell);
-    TakeField(HaisenHedr.sakuban, kWorkNoCell);
-    TakeField(HaisenHedr.banno, kBoardNoCell);
-    TakeField(HaisenHedr.comment, kCommentCell);
+    TakeField(HaisenHedr.systemno, SYSTEM_NO_CELL);
+    TakeField(HaisenHedr.nousaki, DELIVERY_CELL);
+    TakeField(HaisenHedr.sakuban, WORK_NO_CELL);
+    TakeField(HaisenHedr.banno, BOARD_NO_CELL);
+    TakeField(HaisenHedr.comment, COMMENT_CELL);
 }
 
 /// The screen whose table is loaded. When the screen is replaced by a new one of its kind, the new one loads
@@ -115,20 +115,20 @@ void CPtrnTest3::InitHaisenhyo()
     ShowHeader();
 
     PTRNHEDR table{};
-    PtrnReadHedr(kTableName, &table);
-    PtrnSetScroll(kTableVScrollCell, HaisenHedr.datacount, 0, nullptr, 0);
-    PtrnSetScroll(kTableHScrollCell, table.Parm1[HEDR_WIDTH], 0, nullptr, 0);
+    PtrnReadHedr(TABLE_NAME, &table);
+    PtrnSetScroll(TABLE_V_SCROLL_CELL, HaisenHedr.datacount, 0, nullptr, 0);
+    PtrnSetScroll(TABLE_H_SCROLL_CELL, table.Parm1[HEDR_WIDTH], 0, nullptr, 0);
 
-    const RECT frame = ItemRect(*this, kTableFrameCell, PTRN_RECT);
+    const RECT frame = ItemRect(*this, TABLE_FRAME_CELL, PTRN_RECT);
     if (!IsEmptyRect(frame))
-        PtrnDispChild(kTableSlot, kTableName, OnScreen(*this, frame), nullptr, 0);
+        PtrnDispChild(TABLE_SLOT, TABLE_NAME, OnScreen(*this, frame), nullptr, 0);
 }
 
 void CPtrnTest3::PtrnMesgFunc(int no)
 {
-    if (no == kTableSaveCell) {
+    if (no == TABLE_SAVE_CELL) {
         SaveHaisenhyo();
-    } else if (no == kTablePrintCell) {
+    } else if (no == TABLE_PRINT_CELL) {
         PtrnSetCursor(CURSOR_BUSY, nullptr, 0);
         PrintHaisenhyo();
         PtrnSetCursor(CURSOR_ARROW, nullptr, 0);
@@ -152,5 +152,5 @@ void CPtrnTest3::PtrnKeyFunc(int key, int state, PTRNDATA* item)
     if (!move)
         return;
     const int target = Target(*move, static_cast<unsigned int>(key), state);
-    KeyInputStart(target == kStay ? move->from : target, nullptr, 0);
+    KeyInputStart(target == STAY ? move->from : target, nullptr, 0);
 }

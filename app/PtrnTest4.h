@@ -8,8 +8,8 @@
 class CPtrnTest4 : public CPtrnDisp
 {
   public:
-    static constexpr int kSeries = 4;
-    static constexpr int kSamples = 100; ///< across the frame
+    static constexpr int SERIES = 4;
+    static constexpr int SAMPLES = 100; ///< across the frame
 
     void PtrnInitFunc() override;
     void PtrnDispFunc(CDraw* draw, int update) override;
@@ -18,7 +18,7 @@ class CPtrnTest4 : public CPtrnDisp
     RECT Frame{};  ///< empty without the frame item
     int Count = 0; ///< samples taken so far in this sweep
     int Timr = 0;  ///< ticks since the last sample
-    int Samples[kSeries][kSamples] = {};
+    int Samples[SERIES][SAMPLES] = {};
     std::minstd_rand Random;
 
     void TakeSamples();

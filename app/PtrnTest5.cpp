@@ -12,13 +12,13 @@ struct Gesture {
     int button;
     int state;
 };
-constexpr Gesture kGestures[] = {
+constexpr Gesture GESTURES[] = {
     {MOUSE_NONE, MODIFIER_NONE},
     {MOUSE_NONE, MODIFIER_SHIFT},
     {MOUSE_LEFT, MODIFIER_SHIFT},
     {MOUSE_RIGHT, MODIFIER_CONTROL},
 };
-static_assert(sizeof kGestures / sizeof kGestures[0] == kMouseAreas.count);
+static_assert(sizeof GESTURES / sizeof GESTURES[0] == MOUSE_AREAS.count);
 
 } // namespace
 
@@ -26,14 +26,14 @@ static_assert(sizeof kGestures / sizeof kGestures[0] == kMouseAreas.count);
 // all lamps is cleared from the first one on, small ones with high numbers keep what they have.
 void CPtrnTest5::PtrnInitFunc()
 {
-    Clear_AllData(kLeftLamps.first, nullptr, 0);
-    Clear_AllData(kRightLamps.first, nullptr, 0);
+    Clear_AllData(LEFT_LAMPS.first, nullptr, 0);
+    Clear_AllData(RIGHT_LAMPS.first, nullptr, 0);
 }
 
 void CPtrnTest5::PtrnMesgFunc(int no)
 {
     CloseOpened(*this);
-    if (kLeftLamps.holds(no))
+    if (LEFT_LAMPS.holds(no))
         EOR_wData(no, 1, nullptr, 0);
     else
         OpenChildOf(*this, no);
@@ -42,7 +42,7 @@ void CPtrnTest5::PtrnMesgFunc(int no)
 void CPtrnTest5::PtrnRbtnFunc(int no)
 {
     CloseOpened(*this);
-    if (kRightLamps.holds(no))
+    if (RIGHT_LAMPS.holds(no))
         EOR_wData(no, 1, nullptr, 0);
 }
 
@@ -55,10 +55,10 @@ int CPtrnTest5::PtrnMouseFunc(POINT pt, int button, int state)
         OpenPopupMenu(*this, SetRect(pt.x, pt.y, pt.x, pt.y));
 
     int overArea = 0;
-    for (int i = 0; i < kMouseAreas.count; i++) {
-        const int no = kMouseAreas.first + i;
+    for (int i = 0; i < MOUSE_AREAS.count; i++) {
+        const int no = MOUSE_AREAS.first + i;
         const bool under = PtrnTestData(pt, no, PTRN_RECT) == 1;
-        const bool lit = under && button == kGestures[i].button && state == kGestures[i].state;
+        const bool lit = under && button == GESTURES[i].button && state == GESTURES[i].state;
         Set_Color(no, lit ? 1 : 0, nullptr, 0);
         overArea |= under;
     }

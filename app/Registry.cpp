@@ -24,7 +24,7 @@ template <class Window> CPtrnDisp* Make()
 }
 
 // clang-format off
-constexpr Screen kScreens[] = {
+constexpr Screen SCREENS[] = {
     {"テスト  ［メニュー選択］", Make<CPtrnDisp>},
     {"システム終了", Make<CPtrnDisp>},
     {"テスト  （図形）", Make<CPtrnTest1>},
@@ -44,7 +44,7 @@ constexpr Screen kScreens[] = {
 
 CPtrnDisp* GetPtrnWnd(const char* name)
 {
-    for (const Screen& screen : kScreens)
+    for (const Screen& screen : SCREENS)
         if (std::strcmp(screen.name, name) == 0)
             return screen.make();
     return nullptr;

@@ -30,13 +30,13 @@ void UserTimr()
     CountUp(timr, 99);
     if (timr % 10 == 0) {
         CountUp(data, 99);
-        Set_iData(kCounterCell, data, nullptr, 0);
-        Set_iData(kCounterCopyCell, data, nullptr, 0);
-        Set_Color(kCounterCell, data < 50 ? 0 : 1, nullptr, 0);
+        Set_iData(COUNTER_CELL, data, nullptr, 0);
+        Set_iData(COUNTER_COPY_CELL, data, nullptr, 0);
+        Set_Color(COUNTER_CELL, data < 50 ? 0 : 1, nullptr, 0);
     }
     if (timr % 50 == 0) {
         CountUp(colr, 3);
-        for (const int no : kColorStepCells)
+        for (const int no : COLOR_STEP_CELLS)
             Set_wData(no, static_cast<WORD>(colr), nullptr, 0);
     }
 }

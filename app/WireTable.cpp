@@ -14,7 +14,7 @@ std::vector<std::int32_t> HaisenIndx;
 namespace
 {
 
-constexpr char kFileName[] = "Haisenhyo";
+constexpr char FILE_NAME[] = "Haisenhyo";
 
 /// Where a column's text lies in its record. The length is a number and has none.
 struct Field {
@@ -27,20 +27,20 @@ struct Field {
     {                                                                                                        \
         offsetof(HAISENDATA, name), sizeof HAISENDATA::name                                                  \
     }
-constexpr Field kFields[] = {
+constexpr Field FIELDS[] = {
     FIELD(senban), FIELD(senkei), FIELD(sensyu), FIELD(kyoku),  FIELD(kairo),  FIELD(haisen),
     FIELD(zahyo1), FIELD(tansi1), FIELD(size1),  FIELD(syori1), FIELD(zahyo2), FIELD(tansi2),
     FIELD(size2),  FIELD(syori2), {0, 0},        FIELD(sheet),
 };
 #undef FIELD
-static_assert(sizeof kFields / sizeof kFields[0] == CONT_WIRECOLUMN);
+static_assert(sizeof FIELDS / sizeof FIELDS[0] == CONT_WIRECOLUMN);
 
 /// Whole records that the file has room for.
 int RecordsInFile()
 {
     constexpr int header = sizeof(HAISENHEDR);
     constexpr int record = sizeof(HAISENDATA);
-    return std::max(FileSize(ProjPath, kFileName) - header, 0) / record;
+    return std::max(FileSize(ProjPath, FILE_NAME) - header, 0) / record;
 }
 
 /// Reads at most `count` records; ends at the first one that can not be read.
@@ -59,7 +59,7 @@ void ReadRecords(CFileRead& reader, int count)
 void LoadHaisenhyo()
 {
     FreeHaisenhyo();
-    CFileRead reader(ProjPath, kFileName, nullptr, 0);
+    CFileRead reader(ProjPath, FILE_NAME, nullptr, 0);
     reader.ReadBlock(&HaisenHedr, sizeof HaisenHedr, 0, nullptr, 0);
 
     const std::int32_t claimed = HaisenHedr.datacount;
@@ -67,7 +67,7 @@ void LoadHaisenhyo()
     HaisenHedr.datacount = static_cast<std::int32_t>(HaisenData.size());
     if (claimed != HaisenHedr.datacount) {
         char text[100];
-        std::snprintf(text, sizeof text, "%s: %d records announced, %d read", kFileName, claimed,
+        std::snprintf(text, sizeof text, "%s: %d records announced, %d read", FILE_NAME, claimed,
                       HaisenHedr.datacount);
         LogfileWrite("HAISENHYO", text, __FILE__, __LINE__);
     }
@@ -78,7 +78,7 @@ void LoadHaisenhyo()
 
 void SaveHaisenhyo()
 {
-    CFileWrite writer(ProjPath, kFileName, nullptr, 0);
+    CFileWrite writer(ProjPath, FILE_NAME, nullptr, 0);
     if (writer.WriteBlock(&HaisenHedr, sizeof HaisenHedr, 0, nullptr, 0) != 1)
         return;
     for (const HAISENDATA& wire : HaisenData)
@@ -106,14 +106,14 @@ std::string WireText(const HAISENDATA& wire, int column)
         std::snprintf(text, sizeof text, "%10d", wire.length);
         return text;
     }
-    const Field& field = kFields[column];
+    const Field& field = FIELDS[column];
     const char* text = reinterpret_cast<const char*>(&wire) + field.offset;
     return std::string(text, BoundedLength(text, field.size));
 }
 
 void SetWireText(HAISENDATA& wire, int column, const char* text)
 {
-    SetFieldText(reinterpret_cast<char*>(&wire) + kFields[column].offset, kFields[column].size, text);
+    SetFieldText(reinterpret_cast<char*>(&wire) + FIELDS[column].offset, FIELDS[column].size, text);
 }
 
 void SetFieldText(char* field, std::size_t size, const char* text)

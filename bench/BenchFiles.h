@@ -19,9 +19,9 @@
 class BenchFiles
 {
   public:
-    static constexpr int width = 1280;
-    static constexpr int height = 1024;
-    static constexpr int firstCell = DTNO_SYSTEM; ///< of the code "ITEM"
+    static constexpr int WIDTH = 1280;
+    static constexpr int HEIGHT = 1024;
+    static constexpr int FIRST_CELL = DTNO_SYSTEM; ///< of the code "ITEM"
 
     /// Writes a project with that many cells of the code "ITEM".
     /// @param start  the screen that a program which is started with this profile shows first
@@ -34,7 +34,7 @@ class BenchFiles
                                "\n[PTRN]\nPTRNSTART=" + start +
                                "\n[FONT]\nLANGUAGE=0\n"
                                "FONTNAME0=-*-fixed-medium-r-normal--14-*-*-*-c-*-*-*\n");
-        write("PtrnCode", codeRow("SYSTEM", firstCell - 1, 1) + codeRow("ITEM", cells, firstCell));
+        write("PtrnCode", codeRow("SYSTEM", FIRST_CELL - 1, 1) + codeRow("ITEM", cells, FIRST_CELL));
         write("PtrnColr", colors());
         write("PtrnMark", std::string(CONT_MARK * SIZE_MARK, '\x3C'));
         write("Bitmap/lamp.ppm", "P6\n16 16\n255\n" + std::string(16 * 16 * 3, '\x7F'));
@@ -53,10 +53,10 @@ class BenchFiles
 
     /// Writes the screen `name`: items of all types in turn, side by side, with a title bar and a clock.
     /// @param bound  how many of the items are bound to a cell of their own, evenly spread
-    void screen(const char* name, int count, int bound, SIZE size = {width, height}) const
+    void screen(const char* name, int count, int bound, SIZE size = {WIDTH, HEIGHT}) const
     {
         HEDRFILE header = bareHeader(name, size);
-        header.Parm1[tessary::HEDR_TITLE_HEIGHT] = titleHeight;
+        header.Parm1[tessary::HEDR_TITLE_HEIGHT] = TITLE_HEIGHT;
         header.Parm1[tessary::HEDR_TITLE_BACK] = 20;
         header.Parm1[tessary::HEDR_CLOCK] = 3;
 
@@ -93,12 +93,12 @@ class BenchFiles
             item.record.Parm[tessary::FIELD_DECIMALS] = 1;
             items.push_back(item);
         }
-        writeScreen(name, bareHeader(name, {width, height}), items);
+        writeScreen(name, bareHeader(name, {WIDTH, HEIGHT}), items);
     }
 
   private:
-    static constexpr int titleHeight = 24;
-    static constexpr int bodyColor = 30;
+    static constexpr int TITLE_HEIGHT = 24;
+    static constexpr int BODY_COLOR = 30;
 
     struct Item {
         PTRNFILE record;
@@ -152,7 +152,7 @@ class BenchFiles
         HEDRFILE header{};
         header.Parm1[tessary::HEDR_WIDTH] = size.cx;
         header.Parm1[tessary::HEDR_HEIGHT] = size.cy;
-        header.Parm1[tessary::HEDR_BODY_COLOR] = bodyColor;
+        header.Parm1[tessary::HEDR_BODY_COLOR] = BODY_COLOR;
         std::snprintf(header.PtrnName1, sizeof header.PtrnName1, "%s", name);
         return header;
     }
@@ -168,7 +168,7 @@ class BenchFiles
                     parm.kind == tessary::ParmKind::Color  ? parm.index + variant
                     : parm.kind == tessary::ParmKind::Mark ? CONT_MARK + variant
                                                            : parm.initial;
-        record.Parm[tessary::PARM_CLEAR] = bodyColor;
+        record.Parm[tessary::PARM_CLEAR] = BODY_COLOR;
         return record;
     }
 
@@ -179,9 +179,9 @@ class BenchFiles
         while (columns * columns < count)
             columns++;
         const int pitchX = size.cx / columns;
-        const int pitchY = (size.cy - titleHeight) / columns;
+        const int pitchY = (size.cy - TITLE_HEIGHT) / columns;
         record.Parm[tessary::PARM_X1] = index % columns * pitchX;
-        record.Parm[tessary::PARM_Y1] = titleHeight + index / columns * pitchY;
+        record.Parm[tessary::PARM_Y1] = TITLE_HEIGHT + index / columns * pitchY;
         record.Parm[tessary::PARM_X2] = record.Parm[tessary::PARM_X1] + pitchX - 2;
         record.Parm[tessary::PARM_Y2] = record.Parm[tessary::PARM_Y1] + pitchY - 2;
     }

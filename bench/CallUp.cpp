@@ -19,9 +19,9 @@ using namespace tessary;
 namespace
 {
 
-constexpr int bound = 100;
-constexpr int items = 1000 + bound;
-constexpr double tick = 0.1; ///< seconds
+constexpr int BOUND = 100;
+constexpr int ITEMS = 1000 + BOUND;
+constexpr double TICK = 0.1; ///< seconds
 
 using Clock = std::chrono::steady_clock;
 
@@ -42,13 +42,13 @@ double Measure(const std::function<void()>& run)
 
 GdkPixmap* NewPixmap()
 {
-    return gdk_pixmap_new(gdk_get_default_root_window(), BenchProject::width, BenchProject::height, -1);
+    return gdk_pixmap_new(gdk_get_default_root_window(), BenchProject::WIDTH, BenchProject::HEIGHT, -1);
 }
 
 void Load(const char* name)
 {
     const CPtrnData pattern(name);
-    if (pattern.PtrnCont != items) {
+    if (pattern.PtrnCont != ITEMS) {
         std::fprintf(stderr, "the screen \"%s\" was not loaded\n", name);
         std::exit(1);
     }
@@ -69,8 +69,8 @@ void PaintBare()
     GdkPixmap* const pixmap = NewPixmap();
     GdkGC* const gc = gdk_gc_new(pixmap);
     gdk_gc_set_foreground(gc, &DrawColr[30]);
-    gdk_draw_rectangle(pixmap, gc, TRUE, 0, 0, BenchProject::width, BenchProject::height);
-    for (int i = 0; i < items; i++) {
+    gdk_draw_rectangle(pixmap, gc, TRUE, 0, 0, BenchProject::WIDTH, BenchProject::HEIGHT);
+    for (int i = 0; i < ITEMS; i++) {
         const int x = i % 34 * 37;
         const int y = i / 34 * 30;
         gdk_gc_set_foreground(gc, &DrawColr[i % CONT_COLR]);
@@ -85,15 +85,15 @@ void PaintBare()
 
 void Print(const char* what, double time, double bare)
 {
-    std::printf("%-42s %8.2f %9.3f %9.1f\n", what, time * 1e3, time / tick, time / bare);
+    std::printf("%-42s %8.2f %9.3f %9.1f\n", what, time * 1e3, time / TICK, time / bare);
 }
 
 } // namespace
 
 int main()
 {
-    const BenchProject project(bound);
-    project.screen("mixed", items, bound);
+    const BenchProject project(BOUND);
+    project.screen("mixed", ITEMS, BOUND);
     CPtrnData pattern("mixed");
 
     const double bare = Measure(PaintBare);
@@ -102,7 +102,7 @@ int main()
     int paints = 0;
     const double open = Measure([&] { paints = std::max(paints, BenchWindow("mixed").paints()); });
 
-    std::printf("A screen of %d items, %d of them bound, all types mixed\n", items, bound);
+    std::printf("A screen of %d items, %d of them bound, all types mixed\n", ITEMS, BOUND);
     std::printf("%-42s %8s %9s %9s\n", "", "ms", "to a tick", "to bare");
     Print("bare boxes and texts", bare, bare);
     Print("load from the file", load, bare);
@@ -110,7 +110,7 @@ int main()
     Print("load and paint", load + paint, bare);
     Print("open a window, close it again", open, bare);
     std::printf("full paints of the window while it opens: %d\n", paints);
-    const bool missed = open >= tick || load + paint >= tick;
+    const bool missed = open >= TICK || load + paint >= TICK;
     std::printf("%s\n", missed ? "MISSED: a call-up must fit into a tick" : "within a tick");
     return missed ? 1 : 0;
 }

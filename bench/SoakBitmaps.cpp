@@ -20,8 +20,8 @@ namespace
 /// Each has come once after the first thousand.
 RECT Box(int round)
 {
-    const int left = round * 37 % BenchProject::width - 20;
-    const int top = round * 53 % BenchProject::height - 20;
+    const int left = round * 37 % BenchProject::WIDTH - 20;
+    const int top = round * 53 % BenchProject::HEIGHT - 20;
     return SetRect(left, top, left + 3 * (round % 31), top + 3 * (round % 29));
 }
 

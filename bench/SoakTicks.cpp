@@ -21,9 +21,9 @@ using namespace tessary;
 namespace
 {
 
-constexpr int dayOfTicks = 864000;
-constexpr int items = 100;
-constexpr SIZE size = {640, 512};
+constexpr int DAY_OF_TICKS = 864000;
+constexpr int ITEMS = 100;
+constexpr SIZE SIZE = {640, 512};
 
 /// The state of an item: its four colours in turn, now and then locked, hidden or frozen.
 WORD State(int step)
@@ -36,8 +36,8 @@ void ChangeCells()
 {
     static int tick = 0;
     tick++;
-    for (int i = tick % 10; i < items; i += 10) {
-        const int no = BenchProject::firstCell + i;
+    for (int i = tick % 10; i < ITEMS; i += 10) {
+        const int no = BenchProject::FIRST_CELL + i;
         const int step = tick / 10 + i;
         Set_wData(no, State(step), nullptr, 0);
         Set_fData(no, static_cast<float>(step % 101), nullptr, 0);
@@ -69,14 +69,14 @@ void UserTimr()
 
 int main(int argc, char** argv)
 {
-    const int ticks = std::max(argc > 1 ? std::atoi(argv[1]) : dayOfTicks, 2000);
-    const BenchProject project(items);
-    project.screen("busy", items, items, size);
+    const int ticks = std::max(argc > 1 ? std::atoi(argv[1]) : DAY_OF_TICKS, 2000);
+    const BenchProject project(ITEMS);
+    project.screen("busy", ITEMS, ITEMS, SIZE);
     PtrnDispTopWnd("busy", nullptr, 0);
     while (!AppliWnd->Pixmap)
         g_main_context_iteration(nullptr, TRUE);
 
-    std::printf("Ticks of a screen of %d items, a tenth of which change at each\n", items);
+    std::printf("Ticks of a screen of %d items, a tenth of which change at each\n", ITEMS);
     PrintHoldingsHead("ticks");
     Holdings thousand;
     const auto start = std::chrono::steady_clock::now();

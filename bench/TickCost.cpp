@@ -21,16 +21,16 @@ using namespace tessary;
 namespace
 {
 
-constexpr int largest = 10000;
-constexpr double limit = 1e-3; ///< seconds a tick of the largest screen
+constexpr int LARGEST = 10000;
+constexpr double LIMIT = 1e-3; ///< seconds a tick of the largest screen
 /// The cost of an item may grow this much from the smallest screen to the largest one, which no longer fits
 /// the fastest caches.
-constexpr double growth = 4.0;
+constexpr double GROWTH = 4.0;
 /// Requests a tick of a whole window, which renews the pointer and copies the back buffer, whatever it shows.
-constexpr unsigned long windowLimit = 20;
+constexpr unsigned long WINDOW_LIMIT = 20;
 
 /// Times that a tick with one changed item may cost when what lies below and above it is drawn too.
-constexpr double layersLimit = 2.0;
+constexpr double LAYERS_LIMIT = 2.0;
 
 template <typename Number> Number Median(std::vector<Number> numbers)
 {
@@ -49,7 +49,7 @@ void ForgetCaches()
 void FillCells(int count)
 {
     for (int i = 0; i < count; i++) {
-        const int no = BenchProject::firstCell + i;
+        const int no = BenchProject::FIRST_CELL + i;
         Set_fData(no, static_cast<float>(i), nullptr, 0);
         Set_sData(no, ("圧力" + std::to_string(i)).c_str(), nullptr, 0);
     }
@@ -64,7 +64,7 @@ double BareComparison(int count)
         char text[22];
     };
     std::vector<Copy> copies(static_cast<std::size_t>(count));
-    const COMNDATA* const cells = ComnData + BenchProject::firstCell;
+    const COMNDATA* const cells = ComnData + BenchProject::FIRST_CELL;
     for (int i = 0; i < count; i++) {
         Copy& copy = copies[static_cast<std::size_t>(i)];
         copy.word = cells[i].wData;
@@ -98,8 +98,8 @@ class TickScreen
 {
   public:
     explicit TickScreen(const char* name)
-        : pattern_(name), pixmap_(gdk_pixmap_new(gdk_get_default_root_window(), BenchProject::width,
-                                                 BenchProject::height, -1)),
+        : pattern_(name), pixmap_(gdk_pixmap_new(gdk_get_default_root_window(), BenchProject::WIDTH,
+                                                 BenchProject::HEIGHT, -1)),
           draw_(new CPaintDraw(pixmap_))
     {
         pattern_.DispTitle(draw_.get());
@@ -154,7 +154,7 @@ class TickScreen
             const double start = ProcessorTime();
             for (int i = 0; i < ticks; i++) {
                 changed_ = (changed_ + 7919) % items();
-                const int no = BenchProject::firstCell + changed_;
+                const int no = BenchProject::FIRST_CELL + changed_;
                 Set_iData(no, Get_iData(no, nullptr, 0) + 1, nullptr, 0);
                 tick();
             }
@@ -209,15 +209,15 @@ unsigned long WindowRequests(const char* name)
 
 int main()
 {
-    const BenchProject project(largest);
-    FillCells(largest);
+    const BenchProject project(LARGEST);
+    FillCells(LARGEST);
     bool missed = false;
     unsigned long windowRequests = 0;
     double smallest = 0;
     Cost cost{};
     std::printf("A tick in which nothing changes, %d types of items mixed, all bound\n", CONT_PTRN);
     std::printf("  items   warm us   ns/item   to 100   cold us   to 1 ms   requests\n");
-    for (const int count : {100, 1000, largest}) {
+    for (const int count : {100, 1000, LARGEST}) {
         project.screen("static", count, count);
         TickScreen screen("static");
         if (screen.items() != count) {
@@ -229,17 +229,17 @@ int main()
         if (smallest == 0)
             smallest = each;
         std::printf("%7d %9.2f %9.2f %8.2f %9.1f %9.3f %10lu\n", count, cost.warm * 1e6, each * 1e9,
-                    each / smallest, cost.cold * 1e6, cost.cold / limit, cost.requests);
+                    each / smallest, cost.cold * 1e6, cost.cold / LIMIT, cost.requests);
         const unsigned long inWindow = WindowRequests("static");
         windowRequests = std::max(windowRequests, inWindow);
-        missed = missed || cost.requests != 0 || each > growth * smallest || inWindow > windowLimit;
+        missed = missed || cost.requests != 0 || each > GROWTH * smallest || inWindow > WINDOW_LIMIT;
     }
-    missed = missed || cost.warm >= limit || cost.cold >= limit;
+    missed = missed || cost.warm >= LIMIT || cost.cold >= LIMIT;
 
-    missed = missed || CompareEditions("static") > layersLimit;
+    missed = missed || CompareEditions("static") > LAYERS_LIMIT;
 
-    const double bare = BareComparison(largest);
-    std::printf("%d items cost %.1f times a bare comparison of as many cells (%.2f us)\n", largest,
+    const double bare = BareComparison(LARGEST);
+    std::printf("%d items cost %.1f times a bare comparison of as many cells (%.2f us)\n", LARGEST,
                 cost.warm / bare, bare * 1e6);
     std::printf("requests of a window's whole tick: at most %lu, whatever it shows\n", windowRequests);
     std::printf("%s\n",

@@ -23,7 +23,7 @@ std::vector<double> numbers;
 std::vector<std::unique_ptr<char[]>> ownTexts;
 
 // A text may fill the reading buffer and need one byte more; a longer one is cut when it is written.
-constexpr std::size_t maxText = SIZE_SDATA;
+constexpr std::size_t MAX_TEXT = SIZE_SDATA;
 
 std::unique_ptr<char[]>& OwnText(int no)
 {
@@ -72,7 +72,7 @@ void tessary::StoreText(int no, const char* text)
     // The copy is made before the old text goes, which may be the one that is given.
     std::unique_ptr<char[]> copy;
     if (text && *text) {
-        const std::size_t length = EucCut(text, maxText);
+        const std::size_t length = EucCut(text, MAX_TEXT);
         copy = std::make_unique<char[]>(length + 1);
         CopyText(copy.get(), length + 1, text);
     }

@@ -17,13 +17,13 @@ int current = 1;
 
 const std::vector<EditionRow>& EditionRows()
 {
-    static const std::vector<EditionRow> rows = {
+    static const std::vector<EditionRow> ROWS = {
 #define TESSARY_CORRECTION(row, edition, name, surprising, text)                                             \
     {Correction::row, edition, name, surprising, text},
 #include "config/Editions.def"
 #undef TESSARY_CORRECTION
     };
-    return rows;
+    return ROWS;
 }
 
 const EditionRow& RowOf(Correction row)

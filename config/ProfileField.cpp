@@ -13,8 +13,8 @@ using namespace tessary;
 namespace
 {
 
-constexpr const char* decimalDigits = "0123456789";
-constexpr const char* hexadecimalDigits = "0123456789ABCDEFabcdef";
+constexpr const char* DECIMAL_DIGITS = "0123456789";
+constexpr const char* HEXADECIMAL_DIGITS = "0123456789ABCDEFabcdef";
 
 bool HoldsOnly(const char* text, const char* allowed)
 {
@@ -68,10 +68,10 @@ void CheckBuffer(int kind, char (&field)[SIZE_FIELD])
         field[SIZE_FIELDTEXT] = '\0';
         break;
     case FIELD_INTEGER:
-        accepted = HoldsOnly(field, decimalDigits);
+        accepted = HoldsOnly(field, DECIMAL_DIGITS);
         break;
     case FIELD_HEXA:
-        accepted = HoldsOnly(field, hexadecimalDigits);
+        accepted = HoldsOnly(field, HEXADECIMAL_DIGITS);
         break;
     case FIELD_FLOAT:
         accepted = IsDecimalNumber(field);

@@ -13,8 +13,8 @@ gint MessageButnNo;
 namespace
 {
 
-constexpr std::size_t textLimit = 1000; // bytes; more than that does not fit a screen
-constexpr int border = 10;
+constexpr std::size_t TEXT_LIMIT = 1000; // bytes; more than that does not fit a screen
+constexpr int BORDER = 10;
 
 struct Button {
     const char* label;
@@ -41,7 +41,7 @@ std::vector<Button> ButtonsOf(int type)
 
 std::string ToolkitText(const char* text)
 {
-    return text ? EucToUtf8(std::string(text, EucCut(text, textLimit))) : "";
+    return text ? EucToUtf8(std::string(text, EucCut(text, TEXT_LIMIT))) : "";
 }
 
 void Pack(GtkWidget* box, GtkWidget* child)
@@ -57,7 +57,7 @@ GtkWidget* NewWindow(const char* title)
     gtk_window_set_modal(GTK_WINDOW(window), TRUE);
     gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
     gtk_window_set_title(GTK_WINDOW(window), ToolkitText(title).c_str());
-    gtk_container_set_border_width(GTK_CONTAINER(window), border);
+    gtk_container_set_border_width(GTK_CONTAINER(window), BORDER);
     gtk_widget_realize(window);
     gdk_window_set_decorations(gtk_widget_get_window(window), GDK_DECOR_TITLE);
     g_signal_connect(window, "destroy", G_CALLBACK(Message_Destroy), nullptr);
@@ -79,7 +79,7 @@ void Wrap(GtkLabel* label, int width)
 GtkWidget* NewLabel(const char* text)
 {
     GtkWidget* label = gtk_label_new(ToolkitText(text).c_str());
-    const int room = gdk_screen_width() - 4 * border;
+    const int room = gdk_screen_width() - 4 * BORDER;
     GtkRequisition wanted;
     gtk_widget_size_request(label, &wanted);
     if (wanted.width > room)

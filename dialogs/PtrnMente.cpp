@@ -22,34 +22,34 @@ std::int32_t LineNo2;
 namespace
 {
 
-constexpr int kLines = 10; ///< of each list
+constexpr int LINES = 10; ///< of each list
 
 // First cell of each column.
-constexpr int kCodeCell = DTNO_MENTE;
-constexpr int kOffsetCell = DTNO_MENTE + 10;
-constexpr int kFlagCell = DTNO_MENTE + 20;
-constexpr int kWordCell = DTNO_MENTE + 30;
-constexpr int kValueCell = DTNO_MENTE + 40;
-constexpr int kTextCell = DTNO_MENTE + 50;
-constexpr int kCodeBar = DTNO_MENTE + 60;
-constexpr int kDataBar = DTNO_MENTE + 61;
-constexpr int kDataColumns[] = {kOffsetCell, kFlagCell, kWordCell, kValueCell, kTextCell};
+constexpr int CODE_CELL = DTNO_MENTE;
+constexpr int OFFSET_CELL = DTNO_MENTE + 10;
+constexpr int FLAG_CELL = DTNO_MENTE + 20;
+constexpr int WORD_CELL = DTNO_MENTE + 30;
+constexpr int VALUE_CELL = DTNO_MENTE + 40;
+constexpr int TEXT_CELL = DTNO_MENTE + 50;
+constexpr int CODE_BAR = DTNO_MENTE + 60;
+constexpr int DATA_BAR = DTNO_MENTE + 61;
+constexpr int DATA_COLUMNS[] = {OFFSET_CELL, FLAG_CELL, WORD_CELL, VALUE_CELL, TEXT_CELL};
 
 bool IsInColumn(int no, int column)
 {
-    return no >= column && no < column + kLines;
+    return no >= column && no < column + LINES;
 }
 
 /// The line of a list that a cell belongs to.
 int LineOf(int no)
 {
-    return no % kLines;
+    return no % LINES;
 }
 
 /// Place `line` lines behind `first`, whatever `first` is.
 int LineAt(int first, int line)
 {
-    return first > std::numeric_limits<int>::max() - 2 * kLines ? first : first + line;
+    return first > std::numeric_limits<int>::max() - 2 * LINES ? first : first + line;
 }
 
 /// Row 0 is the framework's own and not listed.
@@ -81,11 +81,11 @@ int NumberInLine(int line)
 
 void ShowNumber(int line, int offset, int no)
 {
-    Set_iData(kOffsetCell + line, offset, nullptr, 0);
-    Set_iData(kFlagCell + line, PtrnFlag[no], nullptr, 0);
-    Set_iData(kWordCell + line, Get_wData(no, nullptr, 0), nullptr, 0);
-    Set_fData(kValueCell + line, Get_fData(no, nullptr, 0), nullptr, 0);
-    Set_sData(kTextCell + line, Get_sData(no, nullptr, 0), nullptr, 0);
+    Set_iData(OFFSET_CELL + line, offset, nullptr, 0);
+    Set_iData(FLAG_CELL + line, PtrnFlag[no], nullptr, 0);
+    Set_iData(WORD_CELL + line, Get_wData(no, nullptr, 0), nullptr, 0);
+    Set_fData(VALUE_CELL + line, Get_fData(no, nullptr, 0), nullptr, 0);
+    Set_sData(TEXT_CELL + line, Get_sData(no, nullptr, 0), nullptr, 0);
 }
 
 void ChangeFlag(int cell)
@@ -112,7 +112,7 @@ void CPtrnMente::PtrnTimrFunc()
 // Disabling an item blanks the text that it has now; a longer one that was there before would stay.
 void CPtrnMente::PtrnDispFunc(CDraw* draw, int)
 {
-    for (int line = 0; line < kLines; line++) {
+    for (int line = 0; line < LINES; line++) {
         const bool shown = NumberInLine(line) >= 0;
         if (!shown && !IsWiped[line])
             WipeLine(draw, line);
@@ -122,7 +122,7 @@ void CPtrnMente::PtrnDispFunc(CDraw* draw, int)
 
 void CPtrnMente::WipeLine(CDraw* draw, int line)
 {
-    for (const int column : kDataColumns) {
+    for (const int column : DATA_COLUMNS) {
         PTRNDATA field;
         if (!PtrnReadData(column + line, PTRN_CHAR, &field) &&
             !PtrnReadData(column + line, PTRN_NUMR, &field))
@@ -137,16 +137,16 @@ void CPtrnMente::WipeLine(CDraw* draw, int line)
 
 void CPtrnMente::PtrnMesgFunc(int no)
 {
-    if (IsInColumn(no, kCodeCell)) {
+    if (IsInColumn(no, CODE_CELL)) {
         const int row = LineAt(LineNo1, LineOf(no) + 1);
         if (IsListed(row))
             SlctDispData(row);
-    } else if (IsInColumn(no, kFlagCell)) {
+    } else if (IsInColumn(no, FLAG_CELL)) {
         ChangeFlag(no);
-    } else if (no == kCodeBar) {
-        SetDispData1(Get_iData(kCodeBar, nullptr, 0));
-    } else if (no == kDataBar) {
-        SetDispData2(Get_iData(kDataBar, nullptr, 0));
+    } else if (no == CODE_BAR) {
+        SetDispData1(Get_iData(CODE_BAR, nullptr, 0));
+    } else if (no == DATA_BAR) {
+        SetDispData2(Get_iData(DATA_BAR, nullptr, 0));
     }
 }
 
@@ -165,11 +165,11 @@ void CPtrnMente::PtrnKeyFunc(int key, int, PTRNDATA* item)
     if (no < 0)
         return;
     // A change by hand is recorded like any other access to a number whose log flag is set.
-    if (IsInColumn(cell, kWordCell))
+    if (IsInColumn(cell, WORD_CELL))
         Set_wData(no, static_cast<WORD>(Get_iData(cell, nullptr, 0)), __FILE__, __LINE__);
-    else if (IsInColumn(cell, kValueCell))
+    else if (IsInColumn(cell, VALUE_CELL))
         Set_fData(no, Get_fData(cell, nullptr, 0), __FILE__, __LINE__);
-    else if (IsInColumn(cell, kTextCell))
+    else if (IsInColumn(cell, TEXT_CELL))
         Set_sData(no, Get_sData(cell, nullptr, 0), __FILE__, __LINE__);
 }
 
@@ -187,14 +187,14 @@ void CPtrnMente::SlctDispData(int row)
 void CPtrnMente::SetDispData1(int first)
 {
     LineNo1 = first;
-    PtrnSetScroll(kCodeBar, PtrnRecd - 1, first, nullptr, 0);
-    Clear_AllData(kCodeCell, kLines, nullptr, 0);
-    for (int line = 0; line < kLines; line++) {
+    PtrnSetScroll(CODE_BAR, PtrnRecd - 1, first, nullptr, 0);
+    Clear_AllData(CODE_CELL, LINES, nullptr, 0);
+    for (int line = 0; line < LINES; line++) {
         const int row = LineAt(first, line + 1);
         if (!IsListed(row))
             continue;
-        Set_sData(kCodeCell + line, CodeOf(PtrnCode[row]).c_str(), nullptr, 0);
-        Set_wData(kCodeCell + line, row == SlctCode ? 1 : 0, nullptr, 0);
+        Set_sData(CODE_CELL + line, CodeOf(PtrnCode[row]).c_str(), nullptr, 0);
+        Set_wData(CODE_CELL + line, row == SlctCode ? 1 : 0, nullptr, 0);
     }
 }
 
@@ -203,18 +203,18 @@ void CPtrnMente::SetDispData2(int first)
     const PTRNCODE* code = SelectedCode();
     if (code)
         LineNo2 = first;
-    PtrnSetScroll(kDataBar, code ? code->DataCount : 0, code ? first : 0, nullptr, 0);
+    PtrnSetScroll(DATA_BAR, code ? code->DataCount : 0, code ? first : 0, nullptr, 0);
 
-    for (const int column : kDataColumns)
-        Clear_AllData(column, kLines, nullptr, 0);
-    for (int line = 0; line < kLines; line++) {
+    for (const int column : DATA_COLUMNS)
+        Clear_AllData(column, LINES, nullptr, 0);
+    for (int line = 0; line < LINES; line++) {
         const int offset = LineAt(first, line);
         const int no = NumberAt(offset);
         if (no >= 0) {
             ShowNumber(line, offset, no);
             continue;
         }
-        for (const int column : kDataColumns)
+        for (const int column : DATA_COLUMNS)
             Set_Disable(column + line, 1, 0, nullptr, 0);
     }
     // What is being typed stays on top of a value that changes.

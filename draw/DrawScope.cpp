@@ -13,7 +13,7 @@ namespace
 {
 
 /// An area of more boxes becomes the one around it: finding out where it is would cost more than to copy it.
-constexpr int mostParts = 1000;
+constexpr int MOST_PARTS = 1000;
 
 /// What a recorded drawable carries with it.
 struct Recorded {
@@ -21,15 +21,15 @@ struct Recorded {
     DrawState state{nullptr, nullptr, false, &area};
 };
 
-constexpr char recordKey[] = "tessary-drawn";
+constexpr char RECORD_KEY[] = "tessary-drawn";
 
 /// Nothing has to be looked up before there was a state.
 bool anyState = false;
 
 GQuark StateKey()
 {
-    static const GQuark key = g_quark_from_static_string("tessary-state");
-    return key;
+    static const GQuark KEY = g_quark_from_static_string("tessary-state");
+    return KEY;
 }
 
 void SetState(GdkGC* gc, const DrawState* state)
@@ -40,7 +40,7 @@ void SetState(GdkGC* gc, const DrawState* state)
 
 Recorded* RecordOf(GdkDrawable* drawable)
 {
-    return static_cast<Recorded*>(g_object_get_data(G_OBJECT(drawable), recordKey));
+    return static_cast<Recorded*>(g_object_get_data(G_OBJECT(drawable), RECORD_KEY));
 }
 
 unsigned long Sent()
@@ -73,7 +73,7 @@ void DrawnArea::add(const Box& box)
     if (!region_)
         region_ = gdk_region_new();
     gdk_region_union_with_rect(region_, &added);
-    if (++parts_ < mostParts)
+    if (++parts_ < MOST_PARTS)
         return;
     GdkRectangle around{};
     gdk_region_get_clipbox(region_, &around);
@@ -122,7 +122,7 @@ bool DrawState::admits(const Box& box) const
 DrawnArea* RecordDrawings(GdkDrawable* drawable)
 {
     auto* recorded = new Recorded;
-    g_object_set_data_full(G_OBJECT(drawable), recordKey, recorded,
+    g_object_set_data_full(G_OBJECT(drawable), RECORD_KEY, recorded,
                            [](gpointer data) { delete static_cast<Recorded*>(data); });
     return &recorded->area;
 }

@@ -20,16 +20,16 @@ namespace
 {
 
 /// Most pixels of a bitmap file; a larger one counts as damaged.
-constexpr std::int64_t largestImage = 100'000'000;
+constexpr std::int64_t LARGEST_IMAGE = 100'000'000;
 
 /// Most names of missing bitmaps that are remembered.
-constexpr std::size_t mostMissing = 1000;
+constexpr std::size_t MOST_MISSING = 1000;
 
 std::set<std::string> missing; ///< bitmaps that the log has named
 
 /// Images that are kept, and bytes of all their pixels together.
-constexpr std::size_t mostKept = 16;
-constexpr std::size_t mostKeptBytes = 64 * 1024 * 1024;
+constexpr std::size_t MOST_KEPT = 16;
+constexpr std::size_t MOST_KEPT_BYTES = 64 * 1024 * 1024;
 
 /// What tells a file from the one that was there before.
 using FileMark = std::tuple<dev_t, ino_t, off_t, time_t, long>;
@@ -65,11 +65,11 @@ PixbufPtr Shared(const PixbufPtr& image)
 void Keep(Kept loaded)
 {
     std::size_t bytes = BytesOf(loaded.image);
-    if (bytes > mostKeptBytes)
+    if (bytes > MOST_KEPT_BYTES)
         return;
     for (const Kept& one : kept)
         bytes += BytesOf(one.image);
-    while (!kept.empty() && (kept.size() >= mostKept || bytes > mostKeptBytes)) {
+    while (!kept.empty() && (kept.size() >= MOST_KEPT || bytes > MOST_KEPT_BYTES)) {
         bytes -= BytesOf(kept.front().image);
         kept.erase(kept.begin());
     }
@@ -83,7 +83,7 @@ PixbufPtr FileImage(const std::string& path)
     int width = 0;
     int height = 0;
     if (!MarkOf(path) || !gdk_pixbuf_get_file_info(path.c_str(), &width, &height) ||
-        std::int64_t{width} * height > largestImage)
+        std::int64_t{width} * height > LARGEST_IMAGE)
         return nullptr;
     return PixbufPtr(gdk_pixbuf_new_from_file(path.c_str(), nullptr));
 }
@@ -114,7 +114,7 @@ void BitmapExit()
 
 void ReportMissing(const char* name)
 {
-    if (missing.size() >= mostMissing || !missing.insert(name).second)
+    if (missing.size() >= MOST_MISSING || !missing.insert(name).second)
         return;
     char text[SIZE_LOGMESG2 + 2];
     std::snprintf(text, sizeof text, "ビットマップの読込みに失敗 [%s]", name);

@@ -31,7 +31,7 @@ char builtin1[] = "  c #FFFFFF";
 char builtin2[] = ". c #C0C0C0";
 char builtin3[] = "X c #000000";
 
-char** const buttons[] = {
+char** const BUTTONS[] = {
     XPM_Printer,     XPM_SpinButn, XPM_LeftArrow1, XPM_LeftArrow2, XPM_RightArrow1,
     XPM_RightArrow2, XPM_UpArrow1, XPM_UpArrow2,   XPM_DownArrow1, XPM_DownArrow2,
 };
@@ -42,7 +42,7 @@ struct CursorBits {
     char* data;
     char* mask;
 };
-constexpr CursorBits cursors[] = {
+constexpr CursorBits CURSORS[] = {
     {XPM_Cursor1, XPM_Cursor1_data, XPM_Cursor1_mask}, {XPM_Cursor2, XPM_Cursor2_data, XPM_Cursor2_mask},
     {XPM_Cursor3, XPM_Cursor3_data, XPM_Cursor3_mask}, {XPM_Cursor4, XPM_Cursor4_data, XPM_Cursor4_mask},
     {XPM_Cursor5, XPM_Cursor5_data, XPM_Cursor5_mask}, {XPM_Cursor6, XPM_Cursor6_data, XPM_Cursor6_mask},
@@ -116,13 +116,13 @@ void XPM_DataInit()
                        XPM_UpArrow2, XPM_DownArrow1, XPM_DownArrow1})
         OverrideColors(xpm, 3, arrow);
 
-    for (const CursorBits& cursor : cursors)
+    for (const CursorBits& cursor : CURSORS)
         MakeCursor(cursor.xpm, cursor.data, cursor.mask);
 }
 
 void tessary::XPM_DataExit()
 {
-    for (char** xpm : buttons) {
+    for (char** xpm : BUTTONS) {
         xpm[1] = builtin1;
         xpm[2] = builtin2;
         xpm[3] = builtin3;
@@ -130,7 +130,7 @@ void tessary::XPM_DataExit()
     printer = {};
     spinButn = {};
     arrow = {};
-    for (const CursorBits& cursor : cursors) {
+    for (const CursorBits& cursor : CURSORS) {
         std::fill_n(cursor.data, SIZE_CURSOR, '\0');
         std::fill_n(cursor.mask, SIZE_CURSOR, '\0');
     }

@@ -10,8 +10,8 @@ const int daytabl[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 namespace
 {
 
-constexpr int firstYear = 2000; // a leap year
-constexpr int fourYears = 4 * 365 + 1;
+constexpr int FIRST_YEAR = 2000; // a leap year
+constexpr int FOUR_YEARS = 4 * 365 + 1;
 
 constexpr bool IsLeap(int year)
 {
@@ -66,7 +66,7 @@ int Get_DayCount(const int* ym)
 
 int CalcDate(int year, int month, int day)
 {
-    const std::int64_t years = std::max<std::int64_t>(0, std::int64_t{year} - firstYear);
+    const std::int64_t years = std::max<std::int64_t>(0, std::int64_t{year} - FIRST_YEAR);
     std::int64_t days = years * 365 + (years + 3) / 4;
     for (int earlier = 1; earlier < month && earlier <= 12; earlier++)
         days += Get_DayCount(year, earlier);
@@ -81,9 +81,9 @@ int CalcDate(const int* ymd)
 void CalcDate(int* ymd, int dayNumber)
 {
     // Whole four-year periods at once, so that the largest day number takes no more steps than today's.
-    const int periods = dayNumber > 0 ? (dayNumber - 1) / fourYears : 0;
-    int rest = dayNumber - periods * fourYears;
-    int year = firstYear + periods * 4;
+    const int periods = dayNumber > 0 ? (dayNumber - 1) / FOUR_YEARS : 0;
+    int rest = dayNumber - periods * FOUR_YEARS;
+    int year = FIRST_YEAR + periods * 4;
     while (YearLength(year) < rest)
         rest -= YearLength(year++);
     int month = 1;

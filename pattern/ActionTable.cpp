@@ -10,7 +10,7 @@ namespace tessary
 namespace
 {
 
-constexpr ActionSchema actions[] = {
+constexpr ActionSchema ACTIONS[] = {
     {ACTION_NONE, "none", false, "nothing"},
     {ACTION_MESSAGE_SELF, "message", false, "sends the data number to this window's screen class"},
     {ACTION_MESSAGE_CHILD1, "message-child", false, "sends it to the child window"},
@@ -33,15 +33,15 @@ constexpr ActionSchema actions[] = {
 
 template <typename Matches> const ActionSchema* Find(Matches matches)
 {
-    const auto found = std::find_if(std::begin(actions), std::end(actions), matches);
-    return found == std::end(actions) ? nullptr : found;
+    const auto found = std::find_if(std::begin(ACTIONS), std::end(ACTIONS), matches);
+    return found == std::end(ACTIONS) ? nullptr : found;
 }
 
 } // namespace
 
 SchemaTable<ActionSchema> Actions()
 {
-    return actions;
+    return ACTIONS;
 }
 
 const ActionSchema* FindAction(const char* name)

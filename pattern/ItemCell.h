@@ -17,8 +17,8 @@ namespace tessary
 /// The cell of an item; outside the store that which every number reads there.
 inline const COMNDATA& CellOf(const PTRNDATA& item)
 {
-    static constexpr COMNDATA noCell{};
-    return CheckComnData(item.DataNo, nullptr, 0) ? ComnData[item.DataNo] : noCell;
+    static constexpr COMNDATA NO_CELL{};
+    return CheckComnData(item.DataNo, nullptr, 0) ? ComnData[item.DataNo] : NO_CELL;
 }
 
 /// A cell may hold one byte more than the cached copy, which then is what Get_sData makes of it.

@@ -9,21 +9,21 @@
 // In the order in which the types are drawn within a pass: boxes and shapes, lines, images, scroll controls,
 // buttons, and text on top.
 #define ITEM_CLASSES(ITEM)                                                                                   \
-    ITEM(groupBox)                                                                                           \
-    ITEM(rectangle)                                                                                          \
-    ITEM(circle)                                                                                             \
-    ITEM(barGraph)                                                                                           \
-    ITEM(line)                                                                                               \
-    ITEM(bitmap)                                                                                             \
-    ITEM(mark)                                                                                               \
-    ITEM(scrollBar)                                                                                          \
-    ITEM(spinButton)                                                                                         \
-    ITEM(pushButton)                                                                                         \
-    ITEM(radioButton)                                                                                        \
-    ITEM(checkBox)                                                                                           \
-    ITEM(fixedText)                                                                                          \
-    ITEM(variableText)                                                                                       \
-    ITEM(numericField)
+    ITEM(GROUP_BOX)                                                                                          \
+    ITEM(RECTANGLE)                                                                                          \
+    ITEM(CIRCLE)                                                                                             \
+    ITEM(BAR_GRAPH)                                                                                          \
+    ITEM(LINE)                                                                                               \
+    ITEM(BITMAP)                                                                                             \
+    ITEM(MARK)                                                                                               \
+    ITEM(SCROLL_BAR)                                                                                         \
+    ITEM(SPIN_BUTTON)                                                                                        \
+    ITEM(PUSH_BUTTON)                                                                                        \
+    ITEM(RADIO_BUTTON)                                                                                       \
+    ITEM(CHECK_BOX)                                                                                          \
+    ITEM(FIXED_TEXT)                                                                                         \
+    ITEM(VARIABLE_TEXT)                                                                                      \
+    ITEM(NUMERIC_FIELD)
 
 namespace tessary
 {
@@ -39,9 +39,9 @@ namespace
 {
 
 #define POINT_AT_ITEM(name) &items::name,
-constexpr const ItemClass* inDrawingOrder[] = {ITEM_CLASSES(POINT_AT_ITEM)};
+constexpr const ItemClass* IN_DRAWING_ORDER[] = {ITEM_CLASSES(POINT_AT_ITEM)};
 #undef POINT_AT_ITEM
-static_assert(std::size(inDrawingOrder) == CONT_PTRN);
+static_assert(std::size(IN_DRAWING_ORDER) == CONT_PTRN);
 
 /// By type number less one.
 struct Ranked {
@@ -50,7 +50,7 @@ struct Ranked {
 
     Ranked()
     {
-        for (const ItemClass* row : inDrawingOrder) {
+        for (const ItemClass* row : IN_DRAWING_ORDER) {
             ranks[row->type - 1] = static_cast<int>(classes.size());
             classes.emplace_back(*row);
         }
@@ -61,8 +61,8 @@ struct Ranked {
 
 const Ranked& Table()
 {
-    static const Ranked table;
-    return table;
+    static const Ranked TABLE;
+    return TABLE;
 }
 
 bool IsType(int type)

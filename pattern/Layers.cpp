@@ -8,29 +8,29 @@ namespace tessary
 namespace
 {
 
-constexpr int gridSize = 32; ///< columns and rows
+constexpr int GRID_SIZE = 32; ///< columns and rows
 
 /// An item of more cells is looked at for every area instead of being entered in each.
-constexpr int mostCells = 128;
+constexpr int MOST_CELLS = 128;
 
 /// A box is compared with this many of the largest ones, so that many boxes cost no more than each of them.
-constexpr std::size_t mostCompared = 64;
+constexpr std::size_t MOST_COMPARED = 64;
 
 int CellSize(int size)
 {
-    return std::max(1, (size + gridSize - 1) / gridSize);
+    return std::max(1, (size + GRID_SIZE - 1) / GRID_SIZE);
 }
 
 int CellAt(int position, int size)
 {
-    return std::clamp(position / size, 0, gridSize - 1);
+    return std::clamp(position / size, 0, GRID_SIZE - 1);
 }
 
 } // namespace
 
 Layers::Layers(int items, SIZE size)
     : cell_{CellSize(size.cx), CellSize(size.cy)}, areas_(At(items)), numbers_(At(items)),
-      ranks_(At(items), -1), entered_(At(items)), grid_(At(gridSize * gridSize))
+      ranks_(At(items), -1), entered_(At(items)), grid_(At(GRID_SIZE * GRID_SIZE))
 {
 }
 
@@ -63,16 +63,16 @@ void Layers::enter(int item, const Cells& cells)
 {
     const Cells before = entered_[At(item)];
     entered_[At(item)] = cells;
-    if (before.pixels() > mostCells)
+    if (before.pixels() > MOST_CELLS)
         return;
-    if (cells.pixels() > mostCells) {
+    if (cells.pixels() > MOST_CELLS) {
         large_.push_back(item);
         return;
     }
     for (int row = cells.top; row < cells.bottom; ++row)
         for (int column = cells.left; column < cells.right; ++column)
             if (!Contains(before, {column, row, column + 1, row + 1}))
-                grid_[At(row * gridSize + column)].push_back(item);
+                grid_[At(row * GRID_SIZE + column)].push_back(item);
 }
 
 std::vector<int> Layers::meeting(const Box& area) const
@@ -89,7 +89,7 @@ std::vector<int> Layers::meeting(const Box& area) const
     const Cells cells = cellsOf(area);
     for (int row = cells.top; row < cells.bottom; ++row)
         for (int column = cells.left; column < cells.right; ++column)
-            consider(grid_[At(row * gridSize + column)]);
+            consider(grid_[At(row * GRID_SIZE + column)]);
     std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
     for (int& place : found)
@@ -103,7 +103,7 @@ std::vector<Box> WithoutCovered(std::vector<Box> boxes)
                      [](const Box& one, const Box& other) { return one.pixels() > other.pixels(); });
     std::vector<Box> kept;
     for (const Box& box : boxes) {
-        const auto end = kept.begin() + static_cast<std::ptrdiff_t>(std::min(kept.size(), mostCompared));
+        const auto end = kept.begin() + static_cast<std::ptrdiff_t>(std::min(kept.size(), MOST_COMPARED));
         const auto covers = [&box](const Box& larger) { return Contains(larger, box); };
         if (!box.empty() && std::none_of(kept.begin(), end, covers))
             kept.push_back(box);

@@ -15,18 +15,18 @@ namespace
 {
 
 /// Longest text of a field, whatever a damaged file asks for.
-constexpr int longest = TEXT_BUFFER - 1;
+constexpr int LONGEST = TEXT_BUFFER - 1;
 
 std::size_t RoomOf(const PTRNDATA* item)
 {
-    return static_cast<std::size_t>(std::abs(std::clamp<int>(item->Parm[FIELD_WIDTH], -longest, longest)));
+    return static_cast<std::size_t>(std::abs(std::clamp<int>(item->Parm[FIELD_WIDTH], -LONGEST, LONGEST)));
 }
 
 /// printf with a number of decimals, which have their places also where there are 300 digits before them.
 std::string Decimal(double value, int decimals)
 {
     char text[TEXT_BUFFER + 400];
-    std::snprintf(text, sizeof text, "%.*f", std::min(decimals, longest), value);
+    std::snprintf(text, sizeof text, "%.*f", std::min(decimals, LONGEST), value);
     return text;
 }
 

@@ -18,7 +18,7 @@ char text[256];
 
 /// Widths and decimals of a damaged file could ask for gigabytes of blanks; no text is longer than the
 /// buffer.
-constexpr int longest = static_cast<int>(sizeof text) - 1;
+constexpr int LONGEST = static_cast<int>(sizeof text) - 1;
 
 bool IsDigit(char character)
 {
@@ -51,8 +51,8 @@ const char* ConvertNumrData(const PTRNDATA* item)
         std::snprintf(text, sizeof text, "%s", tessary::NumberText(item).c_str());
         return text;
     }
-    const int width = std::clamp<int>(item->Parm[FIELD_WIDTH], -longest, longest);
-    const int decimals = std::min<int>(item->Parm[FIELD_DECIMALS], longest);
+    const int width = std::clamp<int>(item->Parm[FIELD_WIDTH], -LONGEST, LONGEST);
+    const int decimals = std::min<int>(item->Parm[FIELD_DECIMALS], LONGEST);
     const bool zeros = item->Parm[FIELD_ZEROFILL] != 0;
 
     if (item->Parm[FIELD_HEX]) {

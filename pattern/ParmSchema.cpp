@@ -11,26 +11,26 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice passNames[] = {{"back", 0}, {"front", 1}};
-constexpr ParmChoice placementNames[] = {{"origin", 0}, {"framed", 1}, {"plain", 2}};
-constexpr ParmChoice clockNames[] = {{"none", 0},         {"date", 1},       {"minutes", 2},
-                                     {"seconds", 3},      {"kanji-date", 4}, {"kanji-minutes", 5},
-                                     {"kanji-seconds", 6}};
+constexpr ParmChoice PASS_NAMES[] = {{"back", 0}, {"front", 1}};
+constexpr ParmChoice PLACEMENT_NAMES[] = {{"origin", 0}, {"framed", 1}, {"plain", 2}};
+constexpr ParmChoice CLOCK_NAMES[] = {{"none", 0},         {"date", 1},       {"minutes", 2},
+                                      {"seconds", 3},      {"kanji-date", 4}, {"kanji-minutes", 5},
+                                      {"kanji-seconds", 6}};
 
-constexpr ParmSchema commonParms[] = {
+constexpr ParmSchema COMMON_PARMS[] = {
     parm("x1", PARM_X1).coordinate().help("left edge; of texts the start"),
     parm("y1", PARM_Y1).coordinate().help("upper edge; of texts the top of the line"),
     parm("x2", PARM_X2).coordinate().help("right edge"),
     parm("y2", PARM_Y2).coordinate().help("lower edge"),
-    parm("pass", PARM_PASS).choice(passNames).help("drawn before or after all items of the other pass"),
+    parm("pass", PARM_PASS).choice(PASS_NAMES).help("drawn before or after all items of the other pass"),
     parm("clear", PARM_CLEAR)
         .color()
         .help("what the item is painted over with when it is hidden or disabled"),
 };
 
-constexpr ParmSchema headerParms[] = {
+constexpr ParmSchema HEADER_PARMS[] = {
     parm("placement", HEDR_KIND)
-        .choice(placementNames)
+        .choice(PLACEMENT_NAMES)
         .help("at the display's origin, or placed with or without frame"),
     parm("width", HEDR_WIDTH).pixels(1, COORDINATE_MAX).initial(1024).help("of the pattern"),
     parm("height", HEDR_HEIGHT).pixels(1, COORDINATE_MAX).initial(768).help("of the pattern"),
@@ -49,7 +49,7 @@ constexpr ParmSchema headerParms[] = {
     parm("hardcopy-button", HEDR_HARDCOPY).flag().help("whether the title bar has a hard-copy button"),
     parm("logo-left", HEDR_LOGO_LEFT).flag().help("left click on the logo opens the version window"),
     parm("logo-right", HEDR_LOGO_RIGHT).flag().help("right click on the logo opens the maintenance window"),
-    parm("clock", HEDR_CLOCK).choice(clockNames).help("date and time in the title bar"),
+    parm("clock", HEDR_CLOCK).choice(CLOCK_NAMES).help("date and time in the title bar"),
     parm("clock-font", HEDR_CLOCK_FONT).font().help("the clock's font"),
     parm("body-color", HEDR_BODY_COLOR).color().help("below the title bar"),
     parm("body-shaded", HEDR_BODY_SHADED).flag().help("darkens the body downwards, almost to black"),
@@ -75,12 +75,12 @@ template <typename Matches> const ParmSchema* Find(SchemaTable<ParmSchema> parms
 
 SchemaTable<ParmSchema> CommonParms()
 {
-    return commonParms;
+    return COMMON_PARMS;
 }
 
 SchemaTable<ParmSchema> HeaderParms()
 {
-    return headerParms;
+    return HEADER_PARMS;
 }
 
 const ParmSchema* FindParm(SchemaTable<ParmSchema> parms, const char* name)

@@ -24,7 +24,7 @@ namespace
 
 /// Longest file that counts as a pattern. Room for a hundred thousand items, and a bound to the memory
 /// that a damaged file can ask for.
-constexpr int longestFile = 16 * 1024 * 1024;
+constexpr int LONGEST_FILE = 16 * 1024 * 1024;
 
 /// The open file, and what was found wrong with it. What its header claims is believed only as far as
 /// the file goes.
@@ -36,7 +36,7 @@ class PatternFile
     /// @return false when there is nothing to load
     bool readHeader(HEDRFILE* header)
     {
-        if (size_ < 0 || size_ > longestFile) {
+        if (size_ < 0 || size_ > LONGEST_FILE) {
             LogText("PTRNDATA", __FILE__, __LINE__, "File Size Error [%s / %d]", name_.c_str(), size_);
             return false;
         }

@@ -28,7 +28,7 @@ namespace
 constexpr int CLOCK_JAPANESE = 4;
 
 /// Formats 1..6; those without the time leave the last arguments unused.
-constexpr const char* clockFormats[] = {
+constexpr const char* CLOCK_FORMATS[] = {
     "%04d/%02d/%02d (%s)",
     "%04d/%02d/%02d (%s) %02d:%02d",
     "%04d/%02d/%02d (%s) %02d:%02d:%02d",
@@ -42,7 +42,7 @@ bool HasClock(const PTRNHEDR& header)
 {
     const int format = header.Parm1[HEDR_CLOCK];
     return header.Parm1[HEDR_TITLE_HEIGHT] && format >= 1 &&
-           format <= static_cast<int>(std::size(clockFormats));
+           format <= static_cast<int>(std::size(CLOCK_FORMATS));
 }
 
 /// Fills a box; nothing when a header that does not fit its own pattern leaves none.
@@ -172,8 +172,8 @@ void CPtrnData::DrawClock(CDraw* draw)
     const auto& names = parm[HEDR_CLOCK] < CLOCK_JAPANESE ? Week1 : Week2;
     const char* const name = weekday >= 0 && weekday < 7 ? names[weekday] : "";
     char text[128];
-    std::snprintf(text, sizeof text, clockFormats[parm[HEDR_CLOCK] - 1], year, month, day, name, hour, minute,
-                  second);
+    std::snprintf(text, sizeof text, CLOCK_FORMATS[parm[HEDR_CLOCK] - 1], year, month, day, name, hour,
+                  minute, second);
 
     // The box behind the text erases the one drawn before, which is as long.
     const int font = parm[HEDR_CLOCK_FONT];

@@ -30,7 +30,7 @@ int Platform;
 namespace
 {
 
-constexpr int kLogTicks = 10; ///< ticks from one look at the log's timer to the next
+constexpr int LOG_TICKS = 10; ///< ticks from one look at the log's timer to the next
 
 int ticks; ///< since the last look
 
@@ -101,7 +101,7 @@ void TessaryTimr()
     for (const int value : clock)
         Set_iData(no++, value, nullptr, 0);
 
-    if (++ticks >= kLogTicks) {
+    if (++ticks >= LOG_TICKS) {
         ticks = 0;
         LogfileTimr();
     }

@@ -15,9 +15,9 @@ namespace tessary
 namespace
 {
 
-constexpr int kMostPixels = 32 * 1024 * 1024;
+constexpr int MOST_PIXELS = 32 * 1024 * 1024;
 /// Smaller ones are not refused by any server that shows their window.
-constexpr int kDoubtfulPixels = 4 * 1024 * 1024;
+constexpr int DOUBTFUL_PIXELS = 4 * 1024 * 1024;
 
 /// @return null when the server refuses it
 GdkPixmap* TryPixmap(GdkWindow* window, SIZE size)
@@ -37,7 +37,7 @@ GdkPixmap* TryPixmap(GdkWindow* window, SIZE size)
 
 GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
 {
-    if (size.cx * size.cy <= kDoubtfulPixels)
+    if (size.cx * size.cy <= DOUBTFUL_PIXELS)
         return gdk_pixmap_new(window, size.cx, size.cy, -1);
     if (GdkPixmap* pixmap = TryPixmap(window, size))
         return pixmap;
@@ -50,7 +50,7 @@ GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
 SIZE BoundedBuffer(int width, int height)
 {
     const int cx = std::clamp(width, 1, COORDINATE_MAX);
-    return {cx, std::clamp(height, 1, std::min(COORDINATE_MAX, kMostPixels / cx))};
+    return {cx, std::clamp(height, 1, std::min(COORDINATE_MAX, MOST_PIXELS / cx))};
 }
 
 std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)

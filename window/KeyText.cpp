@@ -14,7 +14,7 @@ namespace
 {
 
 /// Room is left for one two-byte character past the field and the terminator.
-constexpr int kLongestField = KEYTEXT_SIZE - 3;
+constexpr int LONGEST_FIELD = KEYTEXT_SIZE - 3;
 
 bool HalfAt(const char* text, int index)
 {
@@ -49,7 +49,7 @@ void ShiftLeft(char* text, int width, int cursor)
 
 int KeyFieldWidth(const PTRNDATA& item)
 {
-    return std::clamp(item.Parm[FIELD_WIDTH], 0, kLongestField);
+    return std::clamp(item.Parm[FIELD_WIDTH], 0, LONGEST_FIELD);
 }
 
 bool PrintableKey(unsigned char byte)

@@ -18,7 +18,7 @@ namespace
 {
 
 /// The CSV file of a dump.
-constexpr const char* tableName = "wires.csv";
+constexpr const char* TABLE_NAME = "wires.csv";
 
 /// A text field of a record.
 struct TextField {
@@ -27,7 +27,7 @@ struct TextField {
     std::size_t size;
 };
 
-constexpr TextField headerFields[] = {
+constexpr TextField HEADER_FIELDS[] = {
     {"system", offsetof(HAISENHEDR, systemno), sizeof HAISENHEDR::systemno},
     {"delivery", offsetof(HAISENHEDR, nousaki), sizeof HAISENHEDR::nousaki},
     {"work", offsetof(HAISENHEDR, sakuban), sizeof HAISENHEDR::sakuban},
@@ -35,7 +35,7 @@ constexpr TextField headerFields[] = {
     {"comment", offsetof(HAISENHEDR, comment), sizeof HAISENHEDR::comment},
 };
 
-constexpr TextField wireFields[] = {
+constexpr TextField WIRE_FIELDS[] = {
     {"wire", offsetof(HAISENDATA, senban), sizeof HAISENDATA::senban},
     {"gauge", offsetof(HAISENDATA, senkei), sizeof HAISENDATA::senkei},
     {"kind", offsetof(HAISENDATA, sensyu), sizeof HAISENDATA::sensyu},
@@ -58,11 +58,11 @@ struct NumberField {
     const char* name;
     std::int32_t HAISENDATA::*member;
 };
-constexpr NumberField numberFields[] = {{"line", &HAISENDATA::gyoban}, {"length", &HAISENDATA::length}};
+constexpr NumberField NUMBER_FIELDS[] = {{"line", &HAISENDATA::gyoban}, {"length", &HAISENDATA::length}};
 
 const TextField* FindText(const std::string& name)
 {
-    for (const TextField& field : wireFields)
+    for (const TextField& field : WIRE_FIELDS)
         if (name == field.name)
             return &field;
     return nullptr;
@@ -70,7 +70,7 @@ const TextField* FindText(const std::string& name)
 
 const NumberField* FindNumber(const std::string& name)
 {
-    for (const NumberField& field : numberFields)
+    for (const NumberField& field : NUMBER_FIELDS)
         if (name == field.name)
             return &field;
     return nullptr;
@@ -79,9 +79,9 @@ const NumberField* FindNumber(const std::string& name)
 std::vector<std::string> ColumnNames()
 {
     std::vector<std::string> names;
-    for (const NumberField& field : numberFields)
+    for (const NumberField& field : NUMBER_FIELDS)
         names.push_back(field.name);
-    for (const TextField& field : wireFields)
+    for (const TextField& field : WIRE_FIELDS)
         names.push_back(field.name);
     return names;
 }
@@ -139,13 +139,13 @@ void Wiring::read(const Source& section, const std::filesystem::path& folder, Di
         return;
     HAISENHEDR header{};
     std::vector<std::string> names = {"table"};
-    for (const TextField& field : headerFields)
+    for (const TextField& field : HEADER_FIELDS)
         names.push_back(field.name);
     Entry table;
     for (const Entry& entry : Entries(section, "'wiring'", diagnostics)) {
-        const auto field = std::find_if(std::begin(headerFields), std::end(headerFields),
+        const auto field = std::find_if(std::begin(HEADER_FIELDS), std::end(HEADER_FIELDS),
                                         [&](const TextField& one) { return entry.name == one.name; });
-        if (field != std::end(headerFields)) {
+        if (field != std::end(HEADER_FIELDS)) {
             const Subject what = "'wiring': " + Quoted(entry.name);
             if (const auto text = Text(entry.value, what, diagnostics))
                 SetText(header, *field, *text, what, entry.place, diagnostics);
@@ -229,7 +229,7 @@ void Wiring::emit(FileMap& sources) const
     if (!bytes_)
         return;
     sources["tables.yaml"] += yaml();
-    sources[tableName] = csv();
+    sources[TABLE_NAME] = csv();
 }
 
 std::string Wiring::yaml() const
@@ -237,9 +237,9 @@ std::string Wiring::yaml() const
     HAISENHEDR header;
     std::memcpy(&header, bytes_->data(), sizeof header);
     std::string text = "wiring:\n";
-    for (const TextField& field : headerFields)
+    for (const TextField& field : HEADER_FIELDS)
         text += std::string("  ") + field.name + ": " + YamlScalar(GetText(header, field)) + "\n";
-    return text + "  table: " + YamlScalar(tableName) + "\n";
+    return text + "  table: " + YamlScalar(TABLE_NAME) + "\n";
 }
 
 std::string Wiring::csv() const
@@ -253,16 +253,16 @@ std::string Wiring::csv() const
         HAISENDATA wire;
         std::memcpy(&wire, bytes_->data() + at, sizeof wire);
         std::string line;
-        for (const NumberField& field : numberFields)
+        for (const NumberField& field : NUMBER_FIELDS)
             line += (line.empty() ? "" : ",") + std::to_string(wire.*field.member);
-        for (const TextField& field : wireFields)
+        for (const TextField& field : WIRE_FIELDS)
             line += "," + CsvField(GetText(wire, field));
         text += line + "\n";
     }
     return text;
 }
 
-const SectionRegistration<Wiring> registration("wiring", "Haisenhyo", ProjectFile::Seed);
+const SectionRegistration<Wiring> REGISTRATION("wiring", "Haisenhyo", ProjectFile::Seed);
 
 } // namespace
 

@@ -33,26 +33,26 @@ void DrawField(int field, const std::string& text)
     const int x = FieldLeft(field);
     const int y = FieldTop(field);
     const int length = static_cast<int>(text.size());
-    Fill(fieldColor, x, y, fieldWidth, fieldHeight);
+    Fill(FIELD_COLOR, x, y, FIELD_WIDTH, FIELD_HEIGHT);
     XRectangle ink;
     XRectangle line;
     XmbTextExtents(font, text.c_str(), length, &ink, &line);
-    Fill(fieldColor, x, y, line.width, fieldHeight);
-    XSetForeground(display, gc, Pixel(textColor));
-    XmbDrawString(display, buffer, font, gc, x, y + (fieldHeight - ink.height) / 2 - ink.y, text.c_str(),
+    Fill(FIELD_COLOR, x, y, line.width, FIELD_HEIGHT);
+    XSetForeground(display, gc, Pixel(TEXT_COLOR));
+    XmbDrawString(display, buffer, font, gc, x, y + (FIELD_HEIGHT - ink.height) / 2 - ink.y, text.c_str(),
                   length);
 }
 
 void Show()
 {
-    XCopyArea(display, buffer, window, gc, 0, 0, screenWidth, screenHeight, 0, 0);
+    XCopyArea(display, buffer, window, gc, 0, 0, SCREEN_WIDTH, SCREEN_HEIGHT, 0, 0);
     XFlush(display);
 }
 
 void Tick()
 {
     const int tick = NextTick();
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         DrawField(field, " " + FieldText(tick, field));
     Show();
 }
@@ -71,13 +71,13 @@ bool LoadFont()
 
 void Open()
 {
-    window = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, screenWidth, screenHeight, 0, 0,
-                                 Pixel(bodyColor));
-    buffer = XCreatePixmap(display, window, screenWidth, screenHeight,
+    window = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, SCREEN_WIDTH, SCREEN_HEIGHT, 0, 0,
+                                 Pixel(BODY_COLOR));
+    buffer = XCreatePixmap(display, window, SCREEN_WIDTH, SCREEN_HEIGHT,
                            static_cast<unsigned>(DefaultDepth(display, DefaultScreen(display))));
     gc = XCreateGC(display, buffer, 0, nullptr);
     XSetGraphicsExposures(display, gc, False);
-    Fill(bodyColor, 0, 0, screenWidth, screenHeight);
+    Fill(BODY_COLOR, 0, 0, SCREEN_WIDTH, SCREEN_HEIGHT);
     XSelectInput(display, window, ExposureMask);
     XMapWindow(display, window);
     XEvent event;
@@ -87,7 +87,7 @@ void Open()
 /// @param next  advanced by a tick
 void WaitForTick(timespec& next)
 {
-    next.tv_nsec += tickMilliseconds * 1000000L;
+    next.tv_nsec += TICK_MILLISECONDS * 1000000L;
     if (next.tv_nsec >= 1000000000L) {
         next.tv_nsec -= 1000000000L;
         next.tv_sec++;

@@ -28,8 +28,8 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-constexpr char framework[] = "tessary";
-constexpr int warmTicks = 20;
+constexpr char FRAMEWORK[] = "tessary";
+constexpr int WARM_TICKS = 20;
 
 /// What the framework may take, as a part of what the other one takes; 0 no limit.
 struct Limits {
@@ -38,7 +38,7 @@ struct Limits {
     double memory;
     double start;
 };
-constexpr Limits limits[] = {
+constexpr Limits LIMITS[] = {
     {"bare", 0, 0, 0},
     {"fltk", 1.0, 0, 1.3},
     {"gtk3", 0.5, 1.0 / 3, 1.0},
@@ -94,7 +94,7 @@ class Watcher
     {
         if (!display_)
             Fail("no X server at $DISPLAY");
-        if (DisplayWidth(display_, 0) < screenWidth || DisplayHeight(display_, 0) < screenHeight)
+        if (DisplayWidth(display_, 0) < SCREEN_WIDTH || DisplayHeight(display_, 0) < SCREEN_HEIGHT)
             Fail("the display has to have 1280 x 1024 pixels");
     }
     ~Watcher() { XCloseDisplay(display_); }
@@ -115,10 +115,10 @@ class Watcher
     std::vector<unsigned long> pixels(int field) const
     {
         XImage* const image = XGetImage(display_, DefaultRootWindow(display_), FieldLeft(field),
-                                        FieldTop(field), fieldWidth, fieldHeight, AllPlanes, ZPixmap);
+                                        FieldTop(field), FIELD_WIDTH, FIELD_HEIGHT, AllPlanes, ZPixmap);
         std::vector<unsigned long> colors;
-        for (int i = 0; i < fieldWidth * fieldHeight; i++)
-            colors.push_back(XGetPixel(image, i % fieldWidth, i / fieldWidth));
+        for (int i = 0; i < FIELD_WIDTH * FIELD_HEIGHT; i++)
+            colors.push_back(XGetPixel(image, i % FIELD_WIDTH, i / FIELD_WIDTH));
         XDestroyImage(image);
         return colors;
     }
@@ -126,9 +126,9 @@ class Watcher
     /// Whether the first and the last field show a text.
     bool painted() const
     {
-        for (const int field : {0, fieldCount - 1}) {
+        for (const int field : {0, FIELD_COUNT - 1}) {
             const auto colors = pixels(field);
-            if (std::count(colors.begin(), colors.end(), colors.front()) == fieldWidth * fieldHeight)
+            if (std::count(colors.begin(), colors.end(), colors.front()) == FIELD_WIDTH * FIELD_HEIGHT)
                 return false;
         }
         return true;
@@ -207,10 +207,10 @@ double WaitPainted(const Watcher& screen, bool painted)
 void RequireChanges(const Watcher& screen, const Program& program, const std::string& name)
 {
     std::vector<std::vector<unsigned long>> before;
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         before.push_back(screen.pixels(field));
     program.waitTicks(3);
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         if (screen.pixels(field) == before[static_cast<std::size_t>(field)])
             Fail(name + " has not drawn field " + std::to_string(field) + " anew");
 }
@@ -223,7 +223,7 @@ Cost Measure(const Watcher& screen, const std::string& name, const std::string& 
     WaitPainted(screen, true);
     Cost cost{};
     cost.start = Seconds(start);
-    program.waitTicks(warmTicks);
+    program.waitTicks(WARM_TICKS);
     const double client = ProcessorTime(program.pid());
     const double server = ProcessorTime(screen.server());
     program.waitTicks(ticks);
@@ -243,9 +243,9 @@ template <typename Value> double Median(const std::vector<Cost>& costs, Value va
     return values[values.size() / 2];
 }
 
-constexpr auto processor = [](const Cost& cost) { return cost.processor(); };
-constexpr auto memory = [](const Cost& cost) { return cost.resident; };
-constexpr auto start = [](const Cost& cost) { return cost.start; };
+constexpr auto PROCESSOR = [](const Cost& cost) { return cost.processor(); };
+constexpr auto MEMORY = [](const Cost& cost) { return cost.resident; };
+constexpr auto START = [](const Cost& cost) { return cost.start; };
 
 void PrintCosts(const Costs& costs)
 {
@@ -255,14 +255,14 @@ void PrintCosts(const Costs& costs)
         std::printf("%-10s %12.0f %12.0f %12.0f %14.0f %12.1f\n", name.c_str(),
                     Median(rounds, [](const Cost& cost) { return cost.client; }) * 1e6,
                     Median(rounds, [](const Cost& cost) { return cost.server; }) * 1e6,
-                    Median(rounds, processor) * 1e6, Median(rounds, memory), Median(rounds, start) * 1e3);
+                    Median(rounds, PROCESSOR) * 1e6, Median(rounds, MEMORY), Median(rounds, START) * 1e3);
 }
 
 /// Median over the rounds of what the framework takes, as a part of what the other one takes.
 template <typename Value> double Part(const Costs& costs, const std::string& other, Value value)
 {
     std::vector<double> parts;
-    const auto& own = costs.at(framework);
+    const auto& own = costs.at(FRAMEWORK);
     const auto& others = costs.at(other);
     for (std::size_t round = 0; round < own.size(); round++)
         parts.push_back(value(own[round]) / value(others[round]));
@@ -287,15 +287,15 @@ bool PrintPart(double part, double limit)
 bool PrintParts(const Costs& costs)
 {
     bool kept = true;
-    std::printf("\nwhat %s takes as a part of it, and the limit\n", framework);
+    std::printf("\nwhat %s takes as a part of it, and the limit\n", FRAMEWORK);
     std::printf("%-10s %17s %17s %17s\n", "", "processor time", "resident memory", "start");
-    for (const Limits& limit : limits) {
+    for (const Limits& limit : LIMITS) {
         if (!costs.count(limit.name))
             continue;
         std::printf("%-10s", limit.name);
-        kept = PrintPart(Part(costs, limit.name, processor), limit.processor) && kept;
-        kept = PrintPart(Part(costs, limit.name, memory), limit.memory) && kept;
-        kept = PrintPart(Part(costs, limit.name, start), limit.start) && kept;
+        kept = PrintPart(Part(costs, limit.name, PROCESSOR), limit.processor) && kept;
+        kept = PrintPart(Part(costs, limit.name, MEMORY), limit.memory) && kept;
+        kept = PrintPart(Part(costs, limit.name, START), limit.start) && kept;
         std::printf("\n");
     }
     return kept;
@@ -306,15 +306,15 @@ Costs Compare(int rounds, int ticks)
 {
     const Watcher screen;
     std::vector<POINT> places;
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         places.push_back({FieldLeft(field), FieldTop(field)});
-    const BenchFiles files(fieldCount, "fields");
-    files.fields("fields", places, fieldChars);
+    const BenchFiles files(FIELD_COUNT, "fields");
+    files.fields("fields", places, FIELD_CHARS);
     const std::string panel = files.folder() + "/panel"; // its profile lies beside it
 
     Costs costs;
     for (int round = 0; round < rounds; round++)
-        for (const char* name : {"bare", framework, "fltk", "gtk3", "qt"})
+        for (const char* name : {"bare", FRAMEWORK, "fltk", "gtk3", "qt"})
             if (std::filesystem::exists(ProgramFile(name)))
                 costs[name].push_back(Measure(screen, name, panel, ticks));
     return costs;
@@ -328,8 +328,8 @@ try {
     const int ticks = std::max(argc > 2 ? std::atoi(argv[2]) : 100, 1);
     setenv("NO_AT_BRIDGE", "1", 1); // GTK 3 would look for a bus that is not there
     const Costs costs = Compare(rounds, ticks);
-    std::printf("%d numbers that change every %d ms; median of %d rounds of %d ticks\n", fieldCount,
-                tickMilliseconds, rounds, ticks);
+    std::printf("%d numbers that change every %d ms; median of %d rounds of %d ticks\n", FIELD_COUNT,
+                TICK_MILLISECONDS, rounds, ticks);
     PrintCosts(costs);
     const bool kept = PrintParts(costs);
     std::printf("%s\n", kept ? "within the limits" : "MISSED: see the limits that are exceeded");

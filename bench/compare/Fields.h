@@ -6,36 +6,36 @@
 #include <string>
 #include <unistd.h>
 
-constexpr int screenWidth = 1280;
-constexpr int screenHeight = 1024;
-constexpr int columns = 20;
-constexpr int fieldCount = 500;
+constexpr int SCREEN_WIDTH = 1280;
+constexpr int SCREEN_HEIGHT = 1024;
+constexpr int COLUMNS = 20;
+constexpr int FIELD_COUNT = 500;
 /// A field has room for eight characters of a font whose line is 14 pixels high.
-constexpr int fieldChars = 8;
-constexpr int fieldWidth = 56;
-constexpr int fieldHeight = 14;
+constexpr int FIELD_CHARS = 8;
+constexpr int FIELD_WIDTH = 56;
+constexpr int FIELD_HEIGHT = 14;
 /// Scalable fonts of this size have such a line.
-constexpr int fontPixels = 12;
-constexpr char fontName[] = "DejaVu Sans Mono";
-constexpr int tickMilliseconds = 100;
+constexpr int FONT_PIXELS = 12;
+constexpr char FONT_NAME[] = "DejaVu Sans Mono";
+constexpr int TICK_MILLISECONDS = 100;
 
 struct Rgb {
     unsigned char red;
     unsigned char green;
     unsigned char blue;
 };
-constexpr Rgb textColor = {10, 122, 245};
-constexpr Rgb fieldColor = {20, 245, 235};
-constexpr Rgb bodyColor = {76, 25, 179};
+constexpr Rgb TEXT_COLOR = {10, 122, 245};
+constexpr Rgb FIELD_COLOR = {20, 245, 235};
+constexpr Rgb BODY_COLOR = {76, 25, 179};
 
 constexpr int FieldLeft(int field)
 {
-    return 4 + field % columns * 64;
+    return 4 + field % COLUMNS * 64;
 }
 
 constexpr int FieldTop(int field)
 {
-    return 12 + field / columns * 40;
+    return 12 + field / COLUMNS * 40;
 }
 
 /// Always five digits, the point and one decimal.

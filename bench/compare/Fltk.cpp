@@ -16,11 +16,11 @@ Fl_Color Color(Rgb color)
 
 Fl_Box* NewField(int field)
 {
-    auto* box = new Fl_Box(FL_FLAT_BOX, FieldLeft(field), FieldTop(field), fieldWidth, fieldHeight, "");
-    box->color(Color(fieldColor));
-    box->labelcolor(Color(textColor));
+    auto* box = new Fl_Box(FL_FLAT_BOX, FieldLeft(field), FieldTop(field), FIELD_WIDTH, FIELD_HEIGHT, "");
+    box->color(Color(FIELD_COLOR));
+    box->labelcolor(Color(TEXT_COLOR));
     box->labelfont(FL_COURIER);
-    box->labelsize(fontPixels);
+    box->labelsize(FONT_PIXELS);
     box->align(FL_ALIGN_RIGHT | FL_ALIGN_INSIDE);
     box->copy_label(FieldText(0, field).c_str());
     return box;
@@ -28,10 +28,10 @@ Fl_Box* NewField(int field)
 
 void Tick(void* data)
 {
-    Fl::repeat_timeout(tickMilliseconds / 1000.0, Tick, data);
+    Fl::repeat_timeout(TICK_MILLISECONDS / 1000.0, Tick, data);
     const auto& boxes = *static_cast<std::vector<Fl_Box*>*>(data);
     const int tick = NextTick();
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         boxes[static_cast<std::size_t>(field)]->copy_label(FieldText(tick, field).c_str());
 }
 
@@ -39,15 +39,15 @@ void Tick(void* data)
 
 int main()
 {
-    const std::string font = std::string(" ") + fontName; // the first character tells the style
+    const std::string font = std::string(" ") + FONT_NAME; // the first character tells the style
     Fl::set_font(FL_COURIER, font.c_str());
-    Fl_Double_Window window(0, 0, screenWidth, screenHeight);
-    window.color(Color(bodyColor));
+    Fl_Double_Window window(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT);
+    window.color(Color(BODY_COLOR));
     std::vector<Fl_Box*> boxes;
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         boxes.push_back(NewField(field));
     window.end();
     window.show();
-    Fl::add_timeout(tickMilliseconds / 1000.0, Tick, &boxes);
+    Fl::add_timeout(TICK_MILLISECONDS / 1000.0, Tick, &boxes);
     return Fl::run();
 }

@@ -18,16 +18,16 @@ QLabel* NewField(QWidget* window, int field)
 {
     auto* label = new QLabel(QString::fromStdString(FieldText(0, field)), window);
     QPalette palette;
-    palette.setColor(QPalette::Window, Color(fieldColor));
-    palette.setColor(QPalette::WindowText, Color(textColor));
+    palette.setColor(QPalette::Window, Color(FIELD_COLOR));
+    palette.setColor(QPalette::WindowText, Color(TEXT_COLOR));
     label->setPalette(palette);
     label->setAutoFillBackground(true);
-    QFont font(fontName);
-    font.setPixelSize(fontPixels);
+    QFont font(FONT_NAME);
+    font.setPixelSize(FONT_PIXELS);
     label->setFont(font);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignRight);
-    label->setGeometry(FieldLeft(field), FieldTop(field), fieldWidth, fieldHeight);
+    label->setGeometry(FieldLeft(field), FieldTop(field), FIELD_WIDTH, FIELD_HEIGHT);
     return label;
 }
 
@@ -37,12 +37,12 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QWidget window;
-    window.setGeometry(0, 0, screenWidth, screenHeight);
+    window.setGeometry(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT);
     QPalette palette;
-    palette.setColor(QPalette::Window, Color(bodyColor));
+    palette.setColor(QPalette::Window, Color(BODY_COLOR));
     window.setPalette(palette);
     std::vector<QLabel*> labels;
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         labels.push_back(NewField(&window, field));
     window.show();
 
@@ -50,9 +50,9 @@ int main(int argc, char** argv)
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, [&labels] {
         const int tick = NextTick();
-        for (int field = 0; field < fieldCount; field++)
+        for (int field = 0; field < FIELD_COUNT; field++)
             labels[static_cast<std::size_t>(field)]->setText(QString::fromStdString(FieldText(tick, field)));
     });
-    timer.start(tickMilliseconds);
+    timer.start(TICK_MILLISECONDS);
     return QApplication::exec();
 }

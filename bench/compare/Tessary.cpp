@@ -17,6 +17,6 @@ void UserExit() {}
 void UserTimr()
 {
     const int tick = NextTick();
-    for (int field = 0; field < fieldCount; field++)
+    for (int field = 0; field < FIELD_COUNT; field++)
         Set_fData(DTNO_SYSTEM + field, FieldValue(tick, field), nullptr, 0);
 }

@@ -14,13 +14,13 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice directionNames[] = {{"vertical", 0}, {"horizontal", 1}};
+constexpr ParmChoice DIRECTION_NAMES[] = {{"vertical", 0}, {"horizontal", 1}};
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("bar", BARG_BAR4).color().perState().help("the bar or needle"),
     parm("back", BARG_BACK4).color().perState().help("behind the bar"),
     parm("frame", BARG_FRAME_COLOR).color().help("the frame"),
-    parm("direction", BARG_HORIZONTAL).choice(directionNames).help("grows upwards or to the right"),
+    parm("direction", BARG_HORIZONTAL).choice(DIRECTION_NAMES).help("grows upwards or to the right"),
     parm("needle", BARG_NEEDLE_WIDTH).thickness().help("thickness of a needle drawn instead of a bar"),
     parm("frame-width", BARG_FRAME_WIDTH).thickness().initial(1).help("thickness of the frame"),
     parm("minimum", BARG_MINIMUM).number().help("value of an empty bar; both 0: from the limit table"),
@@ -160,16 +160,16 @@ void Check(const ItemDraft& draft, const ItemRemark& remark)
 namespace items
 {
 
-extern constexpr ItemClass barGraph = item(PTRN_BARG)
-                                          .named("bar-graph")
-                                          .helped("bar or needle that follows a value")
-                                          .schema(parms)
-                                          .drawnBy(Draw)
-                                          .erasedBy(EraseRect)
-                                          .hitBy(HitRect)
-                                          .opaqueWhen(AlwaysOpaque)
-                                          .fitsWhen(Fits)
-                                          .checkedBy(Check);
+extern constexpr ItemClass BAR_GRAPH = item(PTRN_BARG)
+                                           .named("bar-graph")
+                                           .helped("bar or needle that follows a value")
+                                           .schema(PARMS)
+                                           .drawnBy(Draw)
+                                           .erasedBy(EraseRect)
+                                           .hitBy(HitRect)
+                                           .opaqueWhen(AlwaysOpaque)
+                                           .fitsWhen(Fits)
+                                           .checkedBy(Check);
 
 } // namespace items
 

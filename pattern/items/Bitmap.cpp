@@ -8,7 +8,7 @@ namespace tessary
 namespace
 {
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("key-color", BMAP_KEY_COLOR)
         .color()
         .enabledBy(BMAP_KEYED)
@@ -31,11 +31,11 @@ bool IsOpaque(const ItemDraft& draft)
 namespace items
 {
 
-extern constexpr ItemClass bitmap = item(PTRN_BMAP)
+extern constexpr ItemClass BITMAP = item(PTRN_BMAP)
                                         .named("bitmap")
                                         .helped("picture from the bitmap folder")
                                         .shows(ItemText::BitmapName)
-                                        .schema(parms)
+                                        .schema(PARMS)
                                         .drawnBy(Draw)
                                         .erasedBy(EraseRect)
                                         .hitBy(HitRect)

@@ -9,7 +9,7 @@ namespace tessary
 namespace
 {
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("face", GBOX_FACE4).color().perState().help("the area"),
     parm("top", GBOX_TOP4).color().perState().help("upper edge"),
     parm("bottom", GBOX_BOTTOM4).color().perState().help("lower edge"),
@@ -34,16 +34,16 @@ void Draw(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
 namespace items
 {
 
-extern constexpr ItemClass groupBox = item(PTRN_GBOX)
-                                          .named("group-box")
-                                          .helped("area with four edges")
-                                          .schema(parms)
-                                          .drawnBy(Draw)
-                                          .erasedBy(EraseRect)
-                                          .hitBy(HitRect)
-                                          .pressedBy(PressShape)
-                                          .opaqueWhen(AlwaysOpaque)
-                                          .framesOthers();
+extern constexpr ItemClass GROUP_BOX = item(PTRN_GBOX)
+                                           .named("group-box")
+                                           .helped("area with four edges")
+                                           .schema(PARMS)
+                                           .drawnBy(Draw)
+                                           .erasedBy(EraseRect)
+                                           .hitBy(HitRect)
+                                           .pressedBy(PressShape)
+                                           .opaqueWhen(AlwaysOpaque)
+                                           .framesOthers();
 
 } // namespace items
 

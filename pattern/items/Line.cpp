@@ -9,13 +9,15 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice growNames[] = {{"both", 0}, {"inside", 1}, {"outside", 2}};
-constexpr ParmChoice dashNames[] = {{"solid", 0}, {"long", 1}, {"short", 2}};
+constexpr ParmChoice GROW_NAMES[] = {{"both", 0}, {"inside", 1}, {"outside", 2}};
+constexpr ParmChoice DASH_NAMES[] = {{"solid", 0}, {"long", 1}, {"short", 2}};
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("color", LINE_COLOR4).color().perState().help("the line"),
-    parm("grow", LINE_FOMT).choice(growNames).help("where a thick line grows: inside is left of or above it"),
-    parm("dash", LINE_TYPE).choice(dashNames).fatal().help("solid, or dashes of 12 or of 4 pixels"),
+    parm("grow", LINE_FOMT)
+        .choice(GROW_NAMES)
+        .help("where a thick line grows: inside is left of or above it"),
+    parm("dash", LINE_TYPE).choice(DASH_NAMES).fatal().help("solid, or dashes of 12 or of 4 pixels"),
     parm("width", LINE_WIDTH).thickness(1).initial(1).help("thickness"),
 };
 
@@ -45,10 +47,10 @@ int Hit(POINT point, const PTRNDATA* item)
 namespace items
 {
 
-extern constexpr ItemClass line = item(PTRN_LINE)
+extern constexpr ItemClass LINE = item(PTRN_LINE)
                                       .named("line")
                                       .helped("straight line, from the upper left to the lower right")
-                                      .schema(parms)
+                                      .schema(PARMS)
                                       .drawnBy(Draw)
                                       .erasedBy(Erase)
                                       .hitBy(Hit)

@@ -10,7 +10,7 @@ namespace tessary
 namespace
 {
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("color", MARK_COLOR4).color().perState().help("the mark"),
     parm("back", MARK_BACK4).color().perState().enabledBy(MARK_BACKED).help("behind the mark, or none"),
     parm("backed", MARK_BACKED).flag().help("whether the background is painted; set by back"),
@@ -66,10 +66,10 @@ bool IsOpaque(const ItemDraft& draft)
 namespace items
 {
 
-extern constexpr ItemClass mark = item(PTRN_MARK)
+extern constexpr ItemClass MARK = item(PTRN_MARK)
                                       .named("mark")
                                       .helped("icon in two colours")
-                                      .schema(parms)
+                                      .schema(PARMS)
                                       .drawnBy(Draw)
                                       .erasedBy(EraseRect)
                                       .blinksBy(Blink, MARK_FLICKER)

@@ -12,7 +12,7 @@ namespace tessary
 namespace
 {
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("light", BUTN_LIGHT).color().help("upper and left edge"),
     parm("dark", BUTN_DARK).color().help("lower and right edge"),
     parm("face", BUTN_FACE).color().help("the area"),
@@ -57,19 +57,19 @@ int CaptionWidth(const ItemDraft& draft)
 namespace items
 {
 
-extern constexpr ItemClass pushButton = item(PTRN_BUTN)
-                                            .named("button")
-                                            .helped("push button")
-                                            .shows(ItemText::Caption)
-                                            .schema(parms)
-                                            .fontAt(BUTN_FONT)
-                                            .drawnBy(Draw)
-                                            .erasedBy(EraseRect)
-                                            .hitBy(HitRect)
-                                            .pressedBy(PressControl)
-                                            .operatedBy(Operate)
-                                            .captionNeeds(CaptionWidth)
-                                            .opaqueWhen(AlwaysOpaque);
+extern constexpr ItemClass PUSH_BUTTON = item(PTRN_BUTN)
+                                             .named("button")
+                                             .helped("push button")
+                                             .shows(ItemText::Caption)
+                                             .schema(PARMS)
+                                             .fontAt(BUTN_FONT)
+                                             .drawnBy(Draw)
+                                             .erasedBy(EraseRect)
+                                             .hitBy(HitRect)
+                                             .pressedBy(PressControl)
+                                             .operatedBy(Operate)
+                                             .captionNeeds(CaptionWidth)
+                                             .opaqueWhen(AlwaysOpaque);
 
 } // namespace items
 

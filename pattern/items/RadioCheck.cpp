@@ -21,31 +21,31 @@ constexpr int MARK_CHECK_OFF = CONT_MARK + 2;
 constexpr int MARK_CHECK_ON = CONT_MARK + 3;
 
 // What radio buttons and check boxes share.
-constexpr ParmSchema color = parm("color", CHECK_COLOR).color().help("mark and caption");
-constexpr ParmSchema colorLocked =
+constexpr ParmSchema COLOR = parm("color", CHECK_COLOR).color().help("mark and caption");
+constexpr ParmSchema COLOR_LOCKED =
     parm("color-locked", CHECK_COLOR_LOCKED).color().help("mark and caption while locked");
-constexpr ParmSchema back =
+constexpr ParmSchema BACK =
     parm("back", CHECK_BACK).optionalColor().enabledBy(CHECK_BACKED).help("behind mark and caption, or none");
-constexpr ParmSchema backLocked = parm("back-locked", CHECK_BACK_LOCKED)
-                                      .optionalColor()
-                                      .enabledBy(CHECK_BACKED)
-                                      .help("the same while locked");
-constexpr ParmSchema backed =
+constexpr ParmSchema BACK_LOCKED = parm("back-locked", CHECK_BACK_LOCKED)
+                                       .optionalColor()
+                                       .enabledBy(CHECK_BACKED)
+                                       .help("the same while locked");
+constexpr ParmSchema BACKED =
     parm("backed", CHECK_BACKED).flag().help("whether the background is painted; set by back");
-constexpr ParmSchema font =
+constexpr ParmSchema FONT =
     parm("font", CHECK_FONT).font().help("the caption's font; its height sizes the mark");
 
-constexpr ParmSchema radioParms[] = {
-    color,
-    colorLocked,
-    back,
-    backLocked,
-    backed,
-    font,
+constexpr ParmSchema RADIO_PARMS[] = {
+    COLOR,
+    COLOR_LOCKED,
+    BACK,
+    BACK_LOCKED,
+    BACKED,
+    FONT,
     parm("value", RDIO_VALUE).number().help("the value that this button stands for"),
 };
 
-constexpr ParmSchema checkParms[] = {color, colorLocked, back, backLocked, backed, font};
+constexpr ParmSchema CHECK_PARMS[] = {COLOR, COLOR_LOCKED, BACK, BACK_LOCKED, BACKED, FONT};
 
 RECT MarkArea(const PTRNDATA* item)
 {
@@ -141,20 +141,20 @@ constexpr ItemRow Choice(PtrnType type)
 namespace items
 {
 
-extern constexpr ItemClass radioButton = Choice(PTRN_RDIO)
-                                             .named("radio")
-                                             .helped("one of several choices of a cell")
-                                             .schema(radioParms)
-                                             .drawnBy(DrawRadio)
-                                             .operatedBy(OperateRadio)
-                                             .choiceAt(RDIO_VALUE);
+extern constexpr ItemClass RADIO_BUTTON = Choice(PTRN_RDIO)
+                                              .named("radio")
+                                              .helped("one of several choices of a cell")
+                                              .schema(RADIO_PARMS)
+                                              .drawnBy(DrawRadio)
+                                              .operatedBy(OperateRadio)
+                                              .choiceAt(RDIO_VALUE);
 
-extern constexpr ItemClass checkBox = Choice(PTRN_CHCK)
-                                          .named("check")
-                                          .helped("switches a cell between 0 and 1")
-                                          .schema(checkParms)
-                                          .drawnBy(DrawCheck)
-                                          .operatedBy(OperateCheck);
+extern constexpr ItemClass CHECK_BOX = Choice(PTRN_CHCK)
+                                           .named("check")
+                                           .helped("switches a cell between 0 and 1")
+                                           .schema(CHECK_PARMS)
+                                           .drawnBy(DrawCheck)
+                                           .operatedBy(OperateCheck);
 
 } // namespace items
 

@@ -20,16 +20,16 @@ namespace
 
 constexpr int MAX_ROWS = 1000000;
 
-constexpr ParmChoice directionNames[] = {{"horizontal", 0}, {"vertical", 1}};
+constexpr ParmChoice DIRECTION_NAMES[] = {{"horizontal", 0}, {"vertical", 1}};
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("light", SBAR_LIGHT).color().help("upper and left edges"),
     parm("dark", SBAR_DARK).color().help("lower and right edges"),
     parm("face", SBAR_FRAME).color().help("the bar"),
     parm("thumb", SBAR_THUMB).color().help("the thumb"),
     parm("arrows", SBAR_ARROWS).flag().initial(1).help("whether there are buttons for lines"),
     parm("pages", SBAR_PAGES).flag().help("whether there are buttons for pages"),
-    parm("direction", SBAR_VERTICAL).choice(directionNames).help("which way it scrolls"),
+    parm("direction", SBAR_VERTICAL).choice(DIRECTION_NAMES).help("which way it scrolls"),
     parm("edge", SBAR_WIDTH).thickness().initial(1).help("thickness of the edges"),
     parm("visible", SBAR_VISIBLE).count(0, MAX_ROWS).initial(10).help("entries that are visible at a time"),
     parm("total", SBAR_TOTAL)
@@ -155,17 +155,17 @@ void Check(const ItemDraft& draft, const ItemRemark& remark)
 namespace items
 {
 
-extern constexpr ItemClass scrollBar = item(PTRN_SBAR)
-                                           .named("scroll-bar")
-                                           .helped("edits the index of the first visible entry")
-                                           .schema(parms)
-                                           .drawnBy(Draw)
-                                           .erasedBy(EraseRect)
-                                           .hitBy(HitRect)
-                                           .pressedBy(Press)
-                                           .turnedBy(Wheel)
-                                           .heldBy(PartAt, StepScrollBar)
-                                           .checkedBy(Check);
+extern constexpr ItemClass SCROLL_BAR = item(PTRN_SBAR)
+                                            .named("scroll-bar")
+                                            .helped("edits the index of the first visible entry")
+                                            .schema(PARMS)
+                                            .drawnBy(Draw)
+                                            .erasedBy(EraseRect)
+                                            .hitBy(HitRect)
+                                            .pressedBy(Press)
+                                            .turnedBy(Wheel)
+                                            .heldBy(PartAt, StepScrollBar)
+                                            .checkedBy(Check);
 
 } // namespace items
 

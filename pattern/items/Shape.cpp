@@ -11,13 +11,13 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice growNames[] = {{"both", 0}, {"inside", 1}, {"outside", 2}};
+constexpr ParmChoice GROW_NAMES[] = {{"both", 0}, {"inside", 1}, {"outside", 2}};
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("outline", SHAPE_OUTLINE4).color().perState().help("the outline"),
     parm("fill", SHAPE_FILL4).optionalColor().perState().enabledBy(SHAPE_FILLED).help("the inside, or none"),
     parm("filled", SHAPE_FILLED).flag().help("whether the inside is painted; set by fill"),
-    parm("grow", SHAPE_FOMT).choice(growNames).help("where a thick outline grows"),
+    parm("grow", SHAPE_FOMT).choice(GROW_NAMES).help("where a thick outline grows"),
     parm("width", SHAPE_WIDTH).thickness().initial(1).help("thickness of the outline; 0 for none"),
 };
 
@@ -53,7 +53,7 @@ bool IsFilled(const ItemDraft& draft)
 
 constexpr ItemRow Shape(PtrnType type)
 {
-    return item(type).schema(parms).hitBy(HitRect).pressedBy(PressShape);
+    return item(type).schema(PARMS).hitBy(HitRect).pressedBy(PressShape);
 }
 
 } // namespace
@@ -61,7 +61,7 @@ constexpr ItemRow Shape(PtrnType type)
 namespace items
 {
 
-extern constexpr ItemClass rectangle = Shape(PTRN_RECT)
+extern constexpr ItemClass RECTANGLE = Shape(PTRN_RECT)
                                            .named("rectangle")
                                            .helped("rectangle with outline and inside")
                                            .drawnBy(DrawRectangle)
@@ -69,7 +69,7 @@ extern constexpr ItemClass rectangle = Shape(PTRN_RECT)
                                            .opaqueWhen(IsFilled)
                                            .framesOthers();
 
-extern constexpr ItemClass circle = Shape(PTRN_CRCL)
+extern constexpr ItemClass CIRCLE = Shape(PTRN_CRCL)
                                         .named("circle")
                                         .helped("circle or ellipse in its rectangle")
                                         .drawnBy(DrawCircle)

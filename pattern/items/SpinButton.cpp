@@ -15,7 +15,7 @@ namespace tessary
 namespace
 {
 
-constexpr ParmSchema parms[] = {
+constexpr ParmSchema PARMS[] = {
     parm("minimum", SPIN_MINIMUM).number().help("lower bound; both 0: from the limit table, on clicks only"),
     parm("maximum", SPIN_MAXIMUM).number().initial(100).help("upper bound"),
 };
@@ -99,18 +99,18 @@ void Check(const ItemDraft& draft, const ItemRemark& remark)
 namespace items
 {
 
-extern constexpr ItemClass spinButton = item(PTRN_SPIN)
-                                            .named("spin")
-                                            .helped("steps a value up and down")
-                                            .schema(parms)
-                                            .drawnBy(Draw)
-                                            .erasedBy(EraseRect)
-                                            .hitBy(HitRect)
-                                            .pressedBy(Press)
-                                            .turnedBy(Wheel)
-                                            .heldBy(PartAt, StepSpinButn)
-                                            .opaqueWhen(AlwaysOpaque)
-                                            .checkedBy(Check);
+extern constexpr ItemClass SPIN_BUTTON = item(PTRN_SPIN)
+                                             .named("spin")
+                                             .helped("steps a value up and down")
+                                             .schema(PARMS)
+                                             .drawnBy(Draw)
+                                             .erasedBy(EraseRect)
+                                             .hitBy(HitRect)
+                                             .pressedBy(Press)
+                                             .turnedBy(Wheel)
+                                             .heldBy(PartAt, StepSpinButn)
+                                             .opaqueWhen(AlwaysOpaque)
+                                             .checkedBy(Check);
 
 } // namespace items
 

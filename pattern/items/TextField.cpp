@@ -16,50 +16,50 @@ namespace tessary
 namespace
 {
 
-constexpr ParmChoice navigationNames[] = {
+constexpr ParmChoice NAVIGATION_NAMES[] = {
     {"up", NAV_UP}, {"down", NAV_DOWN}, {"left", NAV_LEFT}, {"right", NAV_RIGHT}};
 
 // What the three text types share.
-constexpr ParmSchema color = parm("color", TEXT_COLOR4).color().perState().help("the text");
-constexpr ParmSchema back =
+constexpr ParmSchema COLOR = parm("color", TEXT_COLOR4).color().perState().help("the text");
+constexpr ParmSchema BACK =
     parm("back", TEXT_BACK4).color().perState().enabledBy(TEXT_BACKED).help("behind the text; blinks in it");
-constexpr ParmSchema backed =
+constexpr ParmSchema BACKED =
     parm("backed", TEXT_BACKED).flag().help("whether the background is painted; set by back");
-constexpr ParmSchema blink = parm("blink", TEXT_FLICKER).flag().help("blinks from the start");
-constexpr ParmSchema font = parm("font", TEXT_FONT).font().help("the text's font");
-constexpr ParmSchema width =
+constexpr ParmSchema BLINK = parm("blink", TEXT_FLICKER).flag().help("blinks from the start");
+constexpr ParmSchema FONT = parm("font", TEXT_FONT).font().help("the text's font");
+constexpr ParmSchema WIDTH =
     parm("width", FIELD_WIDTH).count(1, SIZE_PTRNTEXT).initial(10).help("half-width characters of the field");
-constexpr ParmSchema entry =
+constexpr ParmSchema ENTRY =
     parm("entry", FIELD_KEYENTRY).flag().help("whether a click starts keyboard entry");
-constexpr ParmSchema navigation =
-    parm("navigation", FIELD_NAVIGATION).bits(navigationNames).help("arrow keys that end keyboard entry");
+constexpr ParmSchema NAVIGATION =
+    parm("navigation", FIELD_NAVIGATION).bits(NAVIGATION_NAMES).help("arrow keys that end keyboard entry");
 
-constexpr ParmSchema textParms[] = {
-    color,
-    back,
-    backed,
-    blink,
-    font,
+constexpr ParmSchema TEXT_PARMS[] = {
+    COLOR,
+    BACK,
+    BACKED,
+    BLINK,
+    FONT,
     parm("width", FIELD_WIDTH)
         .count(0, SIZE_PTRNTEXT)
         .help("half-width characters that a click may hit; 0: as long as the text"),
 };
 
-constexpr ParmSchema variableParms[] = {color, back, backed, blink, font, width, entry, navigation};
+constexpr ParmSchema VARIABLE_PARMS[] = {COLOR, BACK, BACKED, BLINK, FONT, WIDTH, ENTRY, NAVIGATION};
 
-constexpr ParmSchema numericParms[] = {
-    color,
-    back,
-    backed,
-    blink,
-    font,
-    width,
+constexpr ParmSchema NUMERIC_PARMS[] = {
+    COLOR,
+    BACK,
+    BACKED,
+    BLINK,
+    FONT,
+    WIDTH,
     parm("decimals", FIELD_DECIMALS).count(0, SIZE_PTRNTEXT).help("digits after the point"),
-    entry,
+    ENTRY,
     parm("zero-fill", FIELD_ZEROFILL).flag().help("leading zeros instead of blanks"),
     parm("grouping", FIELD_GROUPING).flag().help("a comma for every three digits, without decimals only"),
     parm("hex", FIELD_HEX).flag().help("hexadecimal"),
-    navigation,
+    NAVIGATION,
 };
 
 int Background(const PTRNDATA* item)
@@ -219,36 +219,36 @@ constexpr ItemRow TextItem(PtrnType type)
 namespace items
 {
 
-extern constexpr ItemClass fixedText = TextItem(PTRN_FCHR)
-                                           .named("text")
-                                           .helped("text that stays")
-                                           .shows(ItemText::Caption)
-                                           .schema(textParms)
-                                           .drawnBy(DrawFixed)
-                                           .pressedBy(PressLabel)
-                                           .covers(WholeText)
-                                           .measuresTextInto(FIELD_WIDTH)
-                                           .checkedBy(CheckFixed);
+extern constexpr ItemClass FIXED_TEXT = TextItem(PTRN_FCHR)
+                                            .named("text")
+                                            .helped("text that stays")
+                                            .shows(ItemText::Caption)
+                                            .schema(TEXT_PARMS)
+                                            .drawnBy(DrawFixed)
+                                            .pressedBy(PressLabel)
+                                            .covers(WholeText)
+                                            .measuresTextInto(FIELD_WIDTH)
+                                            .checkedBy(CheckFixed);
 
-extern constexpr ItemClass variableText = TextItem(PTRN_CHAR)
-                                              .named("variable-text")
-                                              .helped("text of a cell")
-                                              .schema(variableParms)
-                                              .drawnBy(DrawVariable)
-                                              .pressedBy(PressField)
-                                              .takesEntry()
-                                              .covers(FieldSize)
-                                              .checkedBy(CheckEntry);
+extern constexpr ItemClass VARIABLE_TEXT = TextItem(PTRN_CHAR)
+                                               .named("variable-text")
+                                               .helped("text of a cell")
+                                               .schema(VARIABLE_PARMS)
+                                               .drawnBy(DrawVariable)
+                                               .pressedBy(PressField)
+                                               .takesEntry()
+                                               .covers(FieldSize)
+                                               .checkedBy(CheckEntry);
 
-extern constexpr ItemClass numericField = TextItem(PTRN_NUMR)
-                                              .named("numeric")
-                                              .helped("number of a cell")
-                                              .schema(numericParms)
-                                              .drawnBy(DrawNumeric)
-                                              .pressedBy(PressField)
-                                              .takesEntry()
-                                              .covers(FieldSize)
-                                              .checkedBy(CheckNumeric);
+extern constexpr ItemClass NUMERIC_FIELD = TextItem(PTRN_NUMR)
+                                               .named("numeric")
+                                               .helped("number of a cell")
+                                               .schema(NUMERIC_PARMS)
+                                               .drawnBy(DrawNumeric)
+                                               .pressedBy(PressField)
+                                               .takesEntry()
+                                               .covers(FieldSize)
+                                               .checkedBy(CheckNumeric);
 
 } // namespace items
 

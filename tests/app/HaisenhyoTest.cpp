@@ -14,7 +14,7 @@ namespace
 class WireScreen : public TableScreens
 {
   protected:
-    static constexpr int shift = 1;
+    static constexpr int SHIFT = 1;
 
     /// Where key input goes on after a key in a cell: {first shown line, column, line}; -1 nowhere.
     std::vector<int> move(int first, int column, int line, unsigned int key, int state = 0)
@@ -41,11 +41,11 @@ std::vector<std::string> numbered(char letter, std::initializer_list<int> number
 TEST_F(WireScreen, shows_fifteen_records_with_their_line_numbers)
 {
     openTable(40);
-    for (int line = 0; line < shownLines; line++) {
+    for (int line = 0; line < SHOWN_LINES; line++) {
         EXPECT_EQ(number(439 + line), line + 1);
         for (int column = 0; column < 16; column++) {
             const int no = cell(column, line);
-            if (column == lengthColumn)
+            if (column == LENGTH_COLUMN)
                 EXPECT_EQ(number(no), 10 * (line + 1)) << no;
             else
                 EXPECT_EQ(text(no), static_cast<char>('a' + column) + std::to_string(line + 1)) << no;
@@ -68,23 +68,23 @@ TEST_F(WireScreen, leaves_the_cells_below_the_fifteenth_line_alone)
 TEST_F(WireScreen, pages_with_the_vertical_bar)
 {
     openTable(40);
-    clickAt(barLeft + 10, barTop - 8); // the lower arrow
+    clickAt(BAR_LEFT + 10, BAR_TOP - 8); // the lower arrow
     EXPECT_EQ(number(1571), 1);
     EXPECT_EQ(tableWnd().DispDtno, 1);
     EXPECT_EQ(text(cell(0, 0)), "a2");
     EXPECT_EQ(number(439), 2);
     setNumber(1571, 25);
     tableWnd().PtrnMesgFunc(1571);
-    EXPECT_EQ(text(cell(0, lastLine)), "a40");
-    EXPECT_EQ(number(439 + lastLine), 40);
+    EXPECT_EQ(text(cell(0, LAST_LINE)), "a40");
+    EXPECT_EQ(number(439 + LAST_LINE), 40);
 }
 
 TEST_F(WireScreen, moves_sideways_with_the_horizontal_bar)
 {
     openTable(40);
-    clickAt(barLeft - 8, barTop + 10); // the right arrow
-    EXPECT_EQ(number(433), columnWidth);
-    EXPECT_EQ(tableWnd().Offset.x, columnWidth);
+    clickAt(BAR_LEFT - 8, BAR_TOP + 10); // the right arrow
+    EXPECT_EQ(number(433), COLUMN_WIDTH);
+    EXPECT_EQ(tableWnd().Offset.x, COLUMN_WIDTH);
     EXPECT_EQ(tableWnd().Offset.y, 0);
     setNumber(433, 300);
     tableWnd().PtrnMesgFunc(433);
@@ -108,7 +108,7 @@ TEST_F(WireScreen, ignores_other_messages)
 TEST_F(WireScreen, shows_the_lines_behind_the_last_record_empty)
 {
     openTable(4);
-    for (int line = 4; line < shownLines; line++) {
+    for (int line = 4; line < SHOWN_LINES; line++) {
         EXPECT_EQ(number(439 + line), 0);
         EXPECT_TRUE(hidden(439 + line)) << "so that no number is seen";
         for (int column = 0; column < 16; column++) {
@@ -128,11 +128,12 @@ TEST_F(WireScreen, shows_no_text_in_the_empty_lines)
     tableWnd().DispDataSet(0);
     tick(2);
     const auto ink = [&](int line) {
-        return user.picture(frameLeft, frameTop + headingHeight + line * lineHeight, frameWidth, lineHeight)
+        return user
+            .picture(FRAME_LEFT, FRAME_TOP + HEADING_HEIGHT + line * LINE_HEIGHT, FRAME_WIDTH, LINE_HEIGHT)
             .count(color(TEXT_COLOR4));
     };
     EXPECT_GT(ink(3), 0);
-    for (int line = 4; line < shownLines; line++)
+    for (int line = 4; line < SHOWN_LINES; line++)
         EXPECT_EQ(ink(line), 0) << line;
 }
 
@@ -168,7 +169,7 @@ TEST_F(WireScreen, refuses_key_input_in_empty_lines)
     tick();
     tableWnd().KeyInputStart(cell(0, 4), nullptr, 0);
     EXPECT_EQ(edited(tableWnd()), -1);
-    clickAt(frameLeft + 20, frameTop + headingHeight + 4 * lineHeight + 8);
+    clickAt(FRAME_LEFT + 20, FRAME_TOP + HEADING_HEIGHT + 4 * LINE_HEIGHT + 8);
     EXPECT_EQ(edited(tableWnd()), -1);
 }
 
@@ -196,7 +197,7 @@ TEST_F(WireScreen, each_heading_sorts_by_its_column)
         for (std::size_t i = 0; i < 3; i++) {
             wires[i] = WireBytes();
             wires[i].number = static_cast<int>(i);
-            if (sorted == lengthColumn)
+            if (sorted == LENGTH_COLUMN)
                 wires[i].length = static_cast<int>((i + 2) % 3);
             else
                 wires[i].texts[static_cast<std::size_t>(sorted)] =
@@ -215,10 +216,10 @@ TEST_F(WireScreen, each_heading_sorts_by_its_column)
 TEST_F(WireScreen, a_click_on_a_heading_sorts)
 {
     openTable(20);
-    click(&tableWnd(), columnWidth / 2, headingHeight / 2);
+    click(&tableWnd(), COLUMN_WIDTH / 2, HEADING_HEIGHT / 2);
     EXPECT_EQ(tableWnd().SortCulm, 0);
     EXPECT_EQ(text(cell(0, 1)), "a10");
-    click(&tableWnd(), columnWidth / 2, headingHeight / 2);
+    click(&tableWnd(), COLUMN_WIDTH / 2, HEADING_HEIGHT / 2);
     EXPECT_EQ(text(cell(0, 0)), "a9");
 }
 
@@ -260,11 +261,11 @@ TEST_F(WireScreen, sorts_lengths_as_numbers)
     openTable(12);
     clickHeading(1559);
     std::vector<std::string> expected = numbered('a', {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    expected.resize(shownLines);
+    expected.resize(SHOWN_LINES);
     EXPECT_EQ(column(0), expected) << "90 before 100";
     clickHeading(1557);
     expected = numbered('a', {1, 10, 11, 12, 2, 3, 4, 5, 6, 7, 8, 9});
-    expected.resize(shownLines);
+    expected.resize(SHOWN_LINES);
     EXPECT_EQ(column(0), expected) << "texts by their bytes";
 }
 
@@ -277,21 +278,21 @@ TEST_F(WireScreen, return_and_tab_go_to_the_next_column_and_then_to_the_next_lin
         for (int column = 0; column < 15; column++)
             EXPECT_EQ(move(3, column, 7, key), std::vector<int>({3, column + 1, 7}));
         EXPECT_EQ(move(3, 15, 7, key), std::vector<int>({3, 0, 8}));
-        EXPECT_EQ(move(3, 15, lastLine, key), std::vector<int>({4, 0, lastLine}));
-        EXPECT_EQ(move(24, 15, lastLine, key), std::vector<int>({25, 0, lastLine}));
-        EXPECT_EQ(move(25, 15, lastLine, key), std::vector<int>({25, 15, lastLine})) << "the table's end";
+        EXPECT_EQ(move(3, 15, LAST_LINE, key), std::vector<int>({4, 0, LAST_LINE}));
+        EXPECT_EQ(move(24, 15, LAST_LINE, key), std::vector<int>({25, 0, LAST_LINE}));
+        EXPECT_EQ(move(25, 15, LAST_LINE, key), std::vector<int>({25, 15, LAST_LINE})) << "the table's end";
     }
-    EXPECT_EQ(move(3, 4, 7, KEYVAL_RETURN, shift), std::vector<int>({3, 5, 7})) << "Shift is for Tab alone";
+    EXPECT_EQ(move(3, 4, 7, KEYVAL_RETURN, SHIFT), std::vector<int>({3, 5, 7})) << "Shift is for Tab alone";
 }
 
 TEST_F(WireScreen, shift_and_tab_go_to_the_previous_column_and_then_to_the_previous_line)
 {
     openTable(40);
     for (int column = 15; column > 0; column--)
-        EXPECT_EQ(move(3, column, 7, KEYVAL_TAB, shift), std::vector<int>({3, column - 1, 7}));
-    EXPECT_EQ(move(3, 0, 7, KEYVAL_TAB, shift), std::vector<int>({3, 15, 6}));
-    EXPECT_EQ(move(3, 0, 0, KEYVAL_TAB, shift), std::vector<int>({2, 15, 0}));
-    EXPECT_EQ(move(0, 0, 0, KEYVAL_TAB, shift), std::vector<int>({0, 0, 0})) << "the table's start";
+        EXPECT_EQ(move(3, column, 7, KEYVAL_TAB, SHIFT), std::vector<int>({3, column - 1, 7}));
+    EXPECT_EQ(move(3, 0, 7, KEYVAL_TAB, SHIFT), std::vector<int>({3, 15, 6}));
+    EXPECT_EQ(move(3, 0, 0, KEYVAL_TAB, SHIFT), std::vector<int>({2, 15, 0}));
+    EXPECT_EQ(move(0, 0, 0, KEYVAL_TAB, SHIFT), std::vector<int>({0, 0, 0})) << "the table's start";
 }
 
 TEST_F(WireScreen, left_and_right_stay_in_the_line)
@@ -310,8 +311,8 @@ TEST_F(WireScreen, up_and_down_stay_in_the_column_and_scroll_at_the_edges)
     EXPECT_EQ(move(3, 5, 0, KEYVAL_UP), std::vector<int>({2, 5, 0}));
     EXPECT_EQ(move(0, 5, 0, KEYVAL_UP), std::vector<int>({0, 5, 0}));
     EXPECT_EQ(move(3, 5, 7, KEYVAL_DOWN), std::vector<int>({3, 5, 8}));
-    EXPECT_EQ(move(3, 5, lastLine, KEYVAL_DOWN), std::vector<int>({4, 5, lastLine}));
-    EXPECT_EQ(move(25, 5, lastLine, KEYVAL_DOWN), std::vector<int>({25, 5, lastLine}));
+    EXPECT_EQ(move(3, 5, LAST_LINE, KEYVAL_DOWN), std::vector<int>({4, 5, LAST_LINE}));
+    EXPECT_EQ(move(25, 5, LAST_LINE, KEYVAL_DOWN), std::vector<int>({25, 5, LAST_LINE}));
 }
 
 TEST_F(WireScreen, escape_ends_key_input_and_stores_nothing)
@@ -329,12 +330,12 @@ TEST_F(WireScreen, escape_ends_key_input_and_stores_nothing)
 TEST_F(WireScreen, scrolling_by_key_shows_the_records_and_moves_the_bar)
 {
     openTable(40);
-    move(0, 5, lastLine, KEYVAL_DOWN);
+    move(0, 5, LAST_LINE, KEYVAL_DOWN);
     EXPECT_EQ(number(1571), 1);
-    EXPECT_EQ(text(cell(0, lastLine)), "a16");
+    EXPECT_EQ(text(cell(0, LAST_LINE)), "a16");
     EXPECT_EQ(number(439), 2);
     tableWnd().KeyInputStop(0, 0, nullptr, 0);
-    move(9, 0, 0, KEYVAL_TAB, shift);
+    move(9, 0, 0, KEYVAL_TAB, SHIFT);
     EXPECT_EQ(number(1571), 8);
     EXPECT_EQ(text(cell(0, 0)), "a9");
 }
@@ -343,7 +344,7 @@ TEST_F(WireScreen, keys_typed_by_a_user_walk_through_the_table)
 {
     openTable(40);
     tick();
-    clickAt(frameLeft + 4, frameTop + headingHeight + 8);
+    clickAt(FRAME_LEFT + 4, FRAME_TOP + HEADING_HEIGHT + 8);
     ASSERT_EQ(edited(tableWnd()), cell(0, 0));
     type("X");
     key(XK_Return);
@@ -366,9 +367,9 @@ TEST_F(WireScreen, every_key_but_escape_stores_all_shown_lines)
 {
     openTable(40);
     tableWnd().DispDataSet(20);
-    for (int line = 0; line < shownLines; line++) {
+    for (int line = 0; line < SHOWN_LINES; line++) {
         setText(cell(3, line), "P" + std::to_string(line));
-        setNumber(cell(lengthColumn, line), 1000 + line);
+        setNumber(cell(LENGTH_COLUMN, line), 1000 + line);
     }
     editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     for (int i = 0; i < 40; i++) {
@@ -400,7 +401,7 @@ TEST_F(WireScreen, lengths_that_a_cell_can_not_hold_stay_exact)
     editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     EXPECT_EQ(HaisenData[0].length, 16777217);
     EXPECT_EQ(HaisenData[1].length, 2147483647);
-    setNumber(cell(lengthColumn, 0), 5);
+    setNumber(cell(LENGTH_COLUMN, 0), 5);
     editAfter(tableWnd(), cell(0, 0), KEYVAL_RIGHT);
     EXPECT_EQ(HaisenData[0].length, 5);
 }
@@ -429,12 +430,12 @@ TEST_F(WireScreen, key_input_brings_its_column_into_view)
     };
     EXPECT_EQ(viewAfter(0), 0);
     EXPECT_EQ(viewAfter(4), 0) << "5 columns of 96 are within 500";
-    EXPECT_EQ(viewAfter(5), 6 * columnWidth - frameWidth) << "up to its right edge";
-    EXPECT_EQ(viewAfter(2), 6 * columnWidth - frameWidth) << "in view already";
+    EXPECT_EQ(viewAfter(5), 6 * COLUMN_WIDTH - FRAME_WIDTH) << "up to its right edge";
+    EXPECT_EQ(viewAfter(2), 6 * COLUMN_WIDTH - FRAME_WIDTH) << "in view already";
     EXPECT_EQ(viewAfter(0), 0) << "up to its left edge";
-    EXPECT_EQ(viewAfter(15), tableWidth - frameWidth);
-    EXPECT_EQ(viewAfter(14), tableWidth - frameWidth);
-    EXPECT_EQ(viewAfter(8), 8 * columnWidth);
+    EXPECT_EQ(viewAfter(15), TABLE_WIDTH - FRAME_WIDTH);
+    EXPECT_EQ(viewAfter(14), TABLE_WIDTH - FRAME_WIDTH);
+    EXPECT_EQ(viewAfter(8), 8 * COLUMN_WIDTH);
     EXPECT_EQ(tableWnd().Offset.y, 0);
 }
 
@@ -443,16 +444,17 @@ TEST_F(WireScreen, a_rectangle_behind_the_field_tells_how_wide_its_column_is)
     project.write("Haisenhyo", wireFile({}, numberedWires(3)));
     form().save(project);
     table()
-        .item(PTRN_RECT, 5 * columnWidth - 8, headingHeight, 6 * columnWidth + 8, headingHeight + lineHeight)
-        .code(code, offset(cell(5, 0)))
+        .item(PTRN_RECT, 5 * COLUMN_WIDTH - 8, HEADING_HEIGHT, 6 * COLUMN_WIDTH + 8,
+              HEADING_HEIGHT + LINE_HEIGHT)
+        .code(CODE, offset(cell(5, 0)))
         .save(project);
     start();
     reopen();
     tableWnd().KeyInputStart(cell(5, 0), nullptr, 0);
-    EXPECT_EQ(tableWnd().Offset.x, 6 * columnWidth + 8 - frameWidth);
+    EXPECT_EQ(tableWnd().Offset.x, 6 * COLUMN_WIDTH + 8 - FRAME_WIDTH);
     tableWnd().PtrnSetOffset(0, 900, 0, nullptr, 0);
     tableWnd().KeyInputStart(cell(5, 0), nullptr, 0);
-    EXPECT_EQ(tableWnd().Offset.x, 5 * columnWidth - 8);
+    EXPECT_EQ(tableWnd().Offset.x, 5 * COLUMN_WIDTH - 8);
 }
 
 TEST_F(WireScreen, key_input_may_always_start)
@@ -472,7 +474,7 @@ TEST_F(WireScreen, can_be_opened_without_a_table)
     HaisenHedr = HAISENHEDR{};
     table().save(project);
     start();
-    ASSERT_TRUE(openTop(tableName));
+    ASSERT_TRUE(openTop(TABLE_NAME));
     for (int message = 1555; message <= 1571; message++)
         AppliWnd->PtrnMesgFunc(message);
     tick(2);

@@ -13,18 +13,18 @@ namespace
 class Operator : public SampleProject
 {
   protected:
-    static constexpr const char* shapes = "テスト  （図形）";
-    static constexpr const char* texts = "テスト  （文字列・ボタン）";
-    static constexpr const char* graphs = "テスト  （グラフ）";
-    static constexpr const char* mouse = "テスト  （マウス操作）";
-    static constexpr const char* popup = "ポップアップメニュー";
+    static constexpr const char* SHAPES = "テスト  （図形）";
+    static constexpr const char* TEXTS = "テスト  （文字列・ボタン）";
+    static constexpr const char* GRAPHS = "テスト  （グラフ）";
+    static constexpr const char* MOUSE = "テスト  （マウス操作）";
+    static constexpr const char* POPUP = "ポップアップメニュー";
 
     void SetUp() override
     {
         compile();
         start(); // the patterns are read here too, to know where their items are
         program.emplace("panel", project.root() + "/panel");
-        show(menuName);
+        show(MENU_NAME);
     }
 
     /// Waits for a screen, which is the one that clicks go to from now on.
@@ -116,8 +116,8 @@ class Operator : public SampleProject
 
 TEST_F(Operator, switches_marks_that_blink)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, shapes));
-    showInstead(shapes);
+    clickOn(actionOf(ACTION_OPEN_TOP, SHAPES));
+    showInstead(SHAPES);
     const RECT mark = itemOf(460, PTRN_MARK).Rect;
     const RECT other = itemOf(461, PTRN_MARK).Rect;
     const Picture before = look(mark);
@@ -129,14 +129,14 @@ TEST_F(Operator, switches_marks_that_blink)
     EXPECT_FALSE(same(dark, before));
     EXPECT_TRUE(same(look(other), beside));
 
-    clickOn(actionOf(ACTION_OPEN_TOP, menuName));
-    showInstead(menuName);
+    clickOn(actionOf(ACTION_OPEN_TOP, MENU_NAME));
+    showInstead(MENU_NAME);
 }
 
 TEST_F(Operator, chooses_colours_and_blinking_with_radio_buttons_and_check_boxes)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, texts));
-    showInstead(texts);
+    clickOn(actionOf(ACTION_OPEN_TOP, TEXTS));
+    showInstead(TEXTS);
     const RECT entry = itemOf(102, PTRN_CHAR).Rect;
     const Picture empty = look(entry);
     clickOn(entry);
@@ -171,30 +171,30 @@ TEST_F(Operator, chooses_colours_and_blinking_with_radio_buttons_and_check_boxes
 
 TEST_F(Operator, opens_child_windows_from_the_popup_menu_and_closes_them)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, texts));
-    showInstead(texts);
+    clickOn(actionOf(ACTION_OPEN_TOP, TEXTS));
+    showInstead(TEXTS);
     for (int i = 0; i < 3; i++) {
-        show(texts);
+        show(TEXTS);
         const RECT button = itemOf(104, PTRN_BUTN).Rect;
         clickOn(button);
-        show(popup);
+        show(POPUP);
         EXPECT_EQ(window.x, button.right) << "beside its button";
         clickOn(itemOf(482 + i, PTRN_BUTN).Rect);
         show("子ウィンドウ (" + std::to_string(i + 1) + ")");
         EXPECT_EQ(user.windows().size(), 2u) << "the menu has gone";
         clickOn(actionOf(ACTION_CLOSE_SELF));
-        showInstead(texts);
+        showInstead(TEXTS);
     }
     clickOn(itemOf(104, PTRN_BUTN).Rect);
-    show(popup);
+    show(POPUP);
     clickOn(actionOf(ACTION_CLOSE_SELF));
-    showInstead(texts);
+    showInstead(TEXTS);
 }
 
 TEST_F(Operator, drags_a_child_window_that_blocks_its_parent_and_is_remembered)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, texts));
-    showInstead(texts);
+    clickOn(actionOf(ACTION_OPEN_TOP, TEXTS));
+    showInstead(TEXTS);
     const ScreenWindow parent = window;
     const RECT child = itemOf(482, PTRN_BUTN).Rect;
     const RECT radio = radioOf(106, 3);
@@ -207,7 +207,7 @@ TEST_F(Operator, drags_a_child_window_that_blocks_its_parent_and_is_remembered)
     drag(-60, 50);
     user.clickAt(parent.x + radio.left + 3, parent.y + radio.top + 3);
     clickOn(actionOf(ACTION_CLOSE_SELF));
-    showInstead(texts);
+    showInstead(TEXTS);
     EXPECT_TRUE(same(look(sample), before)) << "the parent was blocked";
 
     clickOn(child);
@@ -215,15 +215,15 @@ TEST_F(Operator, drags_a_child_window_that_blocks_its_parent_and_is_remembered)
     EXPECT_EQ(window.x, opened.x - 60);
     EXPECT_EQ(window.y, opened.y + 50);
     clickOn(actionOf(ACTION_CLOSE_SELF));
-    showInstead(texts);
+    showInstead(TEXTS);
     clickOn(radio);
     waitChange(sample, before, "the parent to answer again");
 }
 
 TEST_F(Operator, opens_a_window_of_a_child_window)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, texts));
-    showInstead(texts);
+    clickOn(actionOf(ACTION_OPEN_TOP, TEXTS));
+    showInstead(TEXTS);
     clickOn(itemOf(484, PTRN_BUTN).Rect);
     show("子ウィンドウ (3)");
     clickOn(actionOf(ACTION_OPEN_CHILD1, "子ウィンドウ (1)"));
@@ -233,13 +233,13 @@ TEST_F(Operator, opens_a_window_of_a_child_window)
     ASSERT_TRUE(user.waitFor([&] { return user.windows().size() == 2; }, "the inner window to close"));
     show("子ウィンドウ (3)");
     clickOn(actionOf(ACTION_CLOSE_SELF));
-    showInstead(texts);
+    showInstead(TEXTS);
 }
 
 TEST_F(Operator, lights_the_areas_and_lamps_of_the_mouse_screen)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, mouse));
-    showInstead(mouse);
+    clickOn(actionOf(ACTION_OPEN_TOP, MOUSE));
+    showInstead(MOUSE);
     const RECT area = itemOf(468, PTRN_RECT).Rect;
     const RECT shifted = itemOf(469, PTRN_RECT).Rect;
     const RECT left = itemOf(472, PTRN_MARK).Rect;
@@ -265,8 +265,8 @@ TEST_F(Operator, lights_the_areas_and_lamps_of_the_mouse_screen)
 
     const RECT beside = SetRect(shifted.left, shifted.bottom + 12, shifted.right, shifted.bottom + 20);
     clickOn(beside, 3);
-    show(popup);
-    show(mouse);
+    show(POPUP);
+    show(MOUSE);
     clickOn(right, 3);
     ASSERT_TRUE(user.waitFor([&] { return user.windows().size() == 1; }, "the menu to go"));
     waitLook(right, rightOff, "the lamp of the right button to go out");
@@ -274,8 +274,8 @@ TEST_F(Operator, lights_the_areas_and_lamps_of_the_mouse_screen)
 
 TEST_F(Operator, never_sees_the_trend_cleared)
 {
-    clickOn(actionOf(ACTION_OPEN_TOP, graphs));
-    showInstead(graphs);
+    clickOn(actionOf(ACTION_OPEN_TOP, GRAPHS));
+    showInstead(GRAPHS);
     const RECT frame = itemOf(113, PTRN_RECT).Rect;
     const std::string colors = project.read("PtrnColr");
     const auto colorOf = [&](std::size_t number) {
@@ -320,12 +320,12 @@ TEST_F(Operator, looks_at_the_version_and_stops_the_panel)
     clickOn(actionOf(ACTION_VERSION));
     show("バージョン情報");
     clickOn(actionOf(ACTION_CLOSE_SYSTEM));
-    showInstead(menuName);
+    showInstead(MENU_NAME);
 
     clickOn(actionOf(ACTION_OPEN_SYSTEM, "システム終了"));
     show("システム終了");
     clickOn(actionOf(ACTION_CLOSE_SYSTEM));
-    showInstead(menuName);
+    showInstead(MENU_NAME);
     EXPECT_FALSE(program->status()) << "it goes on";
 
     clickOn(actionOf(ACTION_OPEN_SYSTEM, "システム終了"));

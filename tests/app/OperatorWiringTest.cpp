@@ -13,29 +13,29 @@ using namespace tessary;
 namespace
 {
 
-constexpr int lines = 15; ///< on the screen
-constexpr int columns = 16;
-constexpr int headerSize = 138;
-constexpr int recordSize = 108;
+constexpr int LINES = 15; ///< on the screen
+constexpr int COLUMNS = 16;
+constexpr int HEADER_SIZE = 138;
+constexpr int RECORD_SIZE = 108;
 
-constexpr int tableCell = 117;
-constexpr int lineNumberCell = 439;
-constexpr int verticalBar = 1571;
-constexpr int horizontalBar = 433;
-constexpr int saveButton = 1554;
+constexpr int TABLE_CELL = 117;
+constexpr int LINE_NUMBER_CELL = 439;
+constexpr int VERTICAL_BAR = 1571;
+constexpr int HORIZONTAL_BAR = 433;
+constexpr int SAVE_BUTTON = 1554;
 
 /// Heading of each column.
-constexpr int headings[columns] = {1557, 1560, 1561, 1558, 1556, 1555, 1569, 1567,
+constexpr int HEADINGS[COLUMNS] = {1557, 1560, 1561, 1558, 1556, 1555, 1569, 1567,
                                    1563, 1565, 1570, 1568, 1564, 1566, 1559, 1562};
 
 constexpr int cellOf(int column, int line)
 {
-    return tableCell + 20 * column + line;
+    return TABLE_CELL + 20 * column + line;
 }
 
 constexpr int fieldType(int column)
 {
-    return column == lengthColumn ? PTRN_NUMR : PTRN_CHAR;
+    return column == LENGTH_COLUMN ? PTRN_NUMR : PTRN_CHAR;
 }
 
 std::int32_t intAt(const std::string& bytes, std::size_t at)
@@ -50,13 +50,13 @@ std::int32_t intAt(const std::string& bytes, std::size_t at)
 std::vector<WireBytes> wiresOf(const std::string& file)
 {
     std::vector<WireBytes> wires;
-    for (std::size_t at = headerSize; at + recordSize <= file.size(); at += recordSize) {
+    for (std::size_t at = HEADER_SIZE; at + RECORD_SIZE <= file.size(); at += RECORD_SIZE) {
         WireBytes wire;
         wire.number = intAt(file, at);
         wire.length = intAt(file, at + 4);
         std::size_t place = at + 8;
-        for (std::size_t column = 0; column < columns; column++) {
-            const auto size = static_cast<std::size_t>(wireFieldSize[column]);
+        for (std::size_t column = 0; column < COLUMNS; column++) {
+            const auto size = static_cast<std::size_t>(WIRE_FIELD_SIZE[column]);
             wire.texts[column] = file.substr(place, size).c_str(); // up to the zero byte
             place += size;
         }
@@ -68,7 +68,7 @@ std::vector<WireBytes> wiresOf(const std::string& file)
 class OperatorWiring : public SampleProject
 {
   protected:
-    static constexpr const char* formName = "テスト  （表・キー入力）";
+    static constexpr const char* FORM_NAME = "テスト  （表・キー入力）";
 
     /// Opens the form from the menu, with the project's own table or another file.
     void open()
@@ -78,7 +78,7 @@ class OperatorWiring : public SampleProject
         order.resize(wires.size());
         std::iota(order.begin(), order.end(), 0);
         start();
-        openFromMenu(formName);
+        openFromMenu(FORM_NAME);
         ASSERT_TRUE(table());
         waitShown(table());
         tick();
@@ -86,19 +86,19 @@ class OperatorWiring : public SampleProject
     void SetUp() override { compile(); }
 
     static CPtrnDisp* table() { return AppliWnd->ChildWnd1; }
-    static int first() { return number(verticalBar); }
+    static int first() { return number(VERTICAL_BAR); }
 
     /// The header as it was, and the records as they have to be now.
     std::string expectedFile() const
     {
-        std::string bytes = original.substr(0, headerSize);
+        std::string bytes = original.substr(0, HEADER_SIZE);
         for (const WireBytes& wire : wires)
             bytes += wireRecord(wire);
         return bytes;
     }
     void save()
     {
-        clickItem(AppliWnd, saveButton, PTRN_BUTN);
+        clickItem(AppliWnd, SAVE_BUTTON, PTRN_BUTN);
         EXPECT_EQ(project.read("Haisenhyo"), expectedFile());
     }
 
@@ -112,14 +112,14 @@ class OperatorWiring : public SampleProject
     void expectShown()
     {
         tick();
-        for (int line = 0; line < lines; line++) {
+        for (int line = 0; line < LINES; line++) {
             const bool empty = first() + line >= static_cast<int>(wires.size());
             EXPECT_EQ((word(cellOf(0, line)) & STATE_HIDDEN) != 0, empty) << "line " << line;
             if (empty)
                 continue;
-            EXPECT_EQ(number(lineNumberCell + line), first() + line + 1);
-            for (int column = 0; column < columns; column++) {
-                if (column == lengthColumn)
+            EXPECT_EQ(number(LINE_NUMBER_CELL + line), first() + line + 1);
+            for (int column = 0; column < COLUMNS; column++) {
+                if (column == LENGTH_COLUMN)
                     EXPECT_EQ(number(cellOf(column, line)), wireIn(line).length);
                 else
                     EXPECT_EQ(text(cellOf(column, line)), textOf(wireIn(line), column))
@@ -139,7 +139,7 @@ class OperatorWiring : public SampleProject
             WireBytes& wire = wires[static_cast<std::size_t>(index)];
             char digits[12];
             std::snprintf(digits, sizeof digits, "%10d", wire.length);
-            return column == lengthColumn ? std::string(digits) : textOf(wire, column);
+            return column == LENGTH_COLUMN ? std::string(digits) : textOf(wire, column);
         };
         std::vector<int> sorted;
         for (const int index : order) {
@@ -156,12 +156,12 @@ class OperatorWiring : public SampleProject
     {
         for (int left = -1; left != table()->Offset.x && place.left < table()->Offset.x;) {
             left = table()->Offset.x;
-            clickBar(AppliWnd, horizontalBar, BAR_FIRST_ARROW);
+            clickBar(AppliWnd, HORIZONTAL_BAR, BAR_FIRST_ARROW);
         }
         const int width = table()->WindRect.width;
         for (int left = -1; left != table()->Offset.x && place.right > table()->Offset.x + width;) {
             left = table()->Offset.x;
-            clickBar(AppliWnd, horizontalBar, BAR_NEXT_ARROW);
+            clickBar(AppliWnd, HORIZONTAL_BAR, BAR_NEXT_ARROW);
         }
     }
 
@@ -181,14 +181,14 @@ class OperatorWiring : public SampleProject
     void typeAnd(unsigned long symbol, std::initializer_list<unsigned long> modifiers, int nextColumn,
                  int nextLine)
     {
-        const int column = (edited() - tableCell) / 20;
-        const int line = (edited() - tableCell) % 20;
+        const int column = (edited() - TABLE_CELL) / 20;
+        const int line = (edited() - TABLE_CELL) % 20;
         type("7");
-        if (column == lengthColumn) {
+        if (column == LENGTH_COLUMN) {
             wireIn(line).length = wireIn(line).length * 10 + 7;
         } else {
             std::string& text = textOf(wireIn(line), column);
-            const auto room = static_cast<std::size_t>(wireFieldSize[column] - 1);
+            const auto room = static_cast<std::size_t>(WIRE_FIELD_SIZE[column] - 1);
             text = ("7" + text).substr(0, EucCut(("7" + text).c_str(), room));
         }
         goOn(symbol, modifiers, nextColumn, nextLine);
@@ -202,7 +202,7 @@ class OperatorWiring : public SampleProject
         const RECT field = item(table(), edited(), fieldType(nextColumn)).Rect;
         EXPECT_GE(field.left, table()->Offset.x) << "not in view";
         EXPECT_LE(field.right, table()->Offset.x + table()->WindRect.width);
-        EXPECT_EQ(number(horizontalBar), table()->Offset.x);
+        EXPECT_EQ(number(HORIZONTAL_BAR), table()->Offset.x);
     }
 
     std::string original; ///< the file before
@@ -217,21 +217,21 @@ TEST_F(OperatorWiring, pages_through_the_records)
     open();
     ASSERT_GT(wires.size(), 200u);
     expectShown();
-    const int last = static_cast<int>(wires.size()) - lines;
-    clickBar(AppliWnd, verticalBar, BAR_NEXT_ARROW);
+    const int last = static_cast<int>(wires.size()) - LINES;
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_ARROW);
     EXPECT_EQ(first(), 1);
     expectShown();
-    clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
     EXPECT_EQ(first(), 16);
     expectShown();
-    clickBar(AppliWnd, verticalBar, BAR_FIRST_ARROW);
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_FIRST_ARROW);
     EXPECT_EQ(first(), 15);
     expectShown();
-    clickBar(AppliWnd, verticalBar, BAR_FIRST_PAGE);
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_FIRST_PAGE);
     EXPECT_EQ(first(), 0);
     expectShown();
 
-    const RECT thumb = barPart(AppliWnd, verticalBar, BAR_THUMB);
+    const RECT thumb = barPart(AppliWnd, VERTICAL_BAR, BAR_THUMB);
     const int x = (thumb.left + thumb.right) / 2;
     const int y = (thumb.top + thumb.bottom) / 2;
     press(AppliWnd, x, y);
@@ -256,25 +256,25 @@ TEST_F(OperatorWiring, pages_through_the_records)
 TEST_F(OperatorWiring, moves_sideways_below_its_frame)
 {
     open();
-    const int widest = item(AppliWnd, horizontalBar, PTRN_SBAR).Parm[SBAR_TOTAL] - table()->WindRect.width;
+    const int widest = item(AppliWnd, HORIZONTAL_BAR, PTRN_SBAR).Parm[SBAR_TOTAL] - table()->WindRect.width;
     ASSERT_GT(widest, 0);
     const auto expectView = [&] {
         tick();
         const RECT& place = table()->WindRect;
-        EXPECT_EQ(table()->Offset.x, number(horizontalBar));
+        EXPECT_EQ(table()->Offset.x, number(HORIZONTAL_BAR));
         EXPECT_TRUE(same(user.picture(place.left, place.top, place.width, place.height),
                          bufferPicture(table(), table()->Offset.x, 0, place.width, place.height)));
     };
     expectView();
-    clickBar(AppliWnd, horizontalBar, BAR_NEXT_ARROW);
+    clickBar(AppliWnd, HORIZONTAL_BAR, BAR_NEXT_ARROW);
     EXPECT_GT(table()->Offset.x, 0);
     expectView();
     for (int i = 0; i < 3; i++)
-        clickBar(AppliWnd, horizontalBar, BAR_NEXT_PAGE);
+        clickBar(AppliWnd, HORIZONTAL_BAR, BAR_NEXT_PAGE);
     EXPECT_EQ(table()->Offset.x, widest);
     expectView();
     for (int i = 0; i < 3; i++)
-        clickBar(AppliWnd, horizontalBar, BAR_FIRST_PAGE);
+        clickBar(AppliWnd, HORIZONTAL_BAR, BAR_FIRST_PAGE);
     EXPECT_EQ(table()->Offset.x, 0);
     expectView();
 }
@@ -282,17 +282,17 @@ TEST_F(OperatorWiring, moves_sideways_below_its_frame)
 TEST_F(OperatorWiring, each_of_the_sixteen_headings_sorts_and_reverses)
 {
     open();
-    clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
-    for (int column = 0; column < columns; column++) {
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
+    for (int column = 0; column < COLUMNS; column++) {
         SCOPED_TRACE(column);
-        bringIntoView(item(table(), headings[column], PTRN_BUTN).Rect);
+        bringIntoView(item(table(), HEADINGS[column], PTRN_BUTN).Rect);
         for (const bool descending : {false, true, false}) {
-            clickItem(table(), headings[column], PTRN_BUTN);
+            clickItem(table(), HEADINGS[column], PTRN_BUTN);
             sort(column, descending);
             EXPECT_EQ(first(), 0);
             expectShown();
         }
-        clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
+        clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
         expectShown();
     }
     save();
@@ -317,11 +317,11 @@ TEST_F(OperatorWiring, is_edited_with_every_key)
     goOn(XK_Tab, {XK_Shift_L}, 0, 1);
     goOn(XK_Tab, {XK_Shift_L}, 15, 0);
     goOn(XK_Return, {}, 0, 1);
-    for (int column = 1; column < columns; column++)
+    for (int column = 1; column < COLUMNS; column++)
         typeAnd(XK_Tab, {}, column, 1);
     typeAnd(XK_Return, {}, 0, 2);
 
-    for (int line = 3; line < lines; line++)
+    for (int line = 3; line < LINES; line++)
         goOn(XK_Down, {}, 0, line);
     typeAnd(XK_Down, {}, 0, 14);
     EXPECT_EQ(first(), 1);
@@ -353,7 +353,7 @@ TEST_F(OperatorWiring, the_last_field_of_the_last_record_keeps_the_input)
 {
     open();
     for (int i = 0; i < 20; i++)
-        clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
+        clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
     edit(15, 14);
     const int last = first();
     typeAnd(XK_Return, {}, 15, 14);
@@ -368,11 +368,11 @@ TEST_F(OperatorWiring, the_last_field_of_the_last_record_keeps_the_input)
 TEST_F(OperatorWiring, edits_of_a_sorted_table_reach_their_records)
 {
     open();
-    clickItem(table(), headings[0], PTRN_BUTN);
-    clickItem(table(), headings[0], PTRN_BUTN);
+    clickItem(table(), HEADINGS[0], PTRN_BUTN);
+    clickItem(table(), HEADINGS[0], PTRN_BUTN);
     sort(0, false);
     sort(0, true);
-    clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
+    clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
     edit(0, 3);
     typeAnd(XK_Down, {}, 0, 4);
     key(XK_Escape);
@@ -411,7 +411,7 @@ TEST_F(OperatorWiring, a_short_table_has_empty_lines_that_take_no_input)
     project.write("Haisenhyo", wireFile({"S", "D", "W", "B", "C"}, numberedWires(3)));
     open();
     expectShown();
-    EXPECT_TRUE(word(verticalBar) & STATE_HIDDEN);
+    EXPECT_TRUE(word(VERTICAL_BAR) & STATE_HIDDEN);
     clickItem(table(), cellOf(0, 3), PTRN_CHAR);
     EXPECT_EQ(edited(), -1);
     edit(0, 2);
@@ -420,8 +420,8 @@ TEST_F(OperatorWiring, a_short_table_has_empty_lines_that_take_no_input)
     edit(15, 2);
     goOn(XK_Return, {}, 15, 2);
     key(XK_Escape);
-    bringIntoView(item(table(), headings[0], PTRN_BUTN).Rect);
-    clickItem(table(), headings[0], PTRN_BUTN);
+    bringIntoView(item(table(), HEADINGS[0], PTRN_BUTN).Rect);
+    clickItem(table(), HEADINGS[0], PTRN_BUTN);
     sort(0, false);
     expectShown();
     save();
@@ -435,9 +435,9 @@ TEST_F(OperatorWiring, a_missing_table_shows_nothing_and_is_not_made)
     EXPECT_EQ(text(1550), "");
     clickItem(table(), cellOf(0, 0), PTRN_CHAR);
     EXPECT_EQ(edited(), -1);
-    clickItem(table(), headings[3], PTRN_BUTN);
+    clickItem(table(), HEADINGS[3], PTRN_BUTN);
     project.clearLog();
-    clickItem(AppliWnd, saveButton, PTRN_BUTN);
+    clickItem(AppliWnd, SAVE_BUTTON, PTRN_BUTN);
     EXPECT_FALSE(project.exists("Haisenhyo"));
     EXPECT_EQ(project.messages(), std::vector<std::string>{"ファイルのオープンに失敗 [Haisenhyo]"});
 }
@@ -446,10 +446,10 @@ TEST_F(OperatorWiring, a_damaged_table_shows_the_records_that_are_whole)
 {
     const std::string whole = wireFile({"S", "D", "W", "B", "C"}, numberedWires(40));
     const std::pair<std::string, int> files[] = {
-        {whole.substr(0, 50), 0},                                // not even a header
-        {whole.substr(0, headerSize + 20 * recordSize + 7), 20}, // ends within a record
+        {whole.substr(0, 50), 0},                                  // not even a header
+        {whole.substr(0, HEADER_SIZE + 20 * RECORD_SIZE + 7), 20}, // ends within a record
         {wireHeader({"S", "D", "W", "B", "C"}, -5), 0},
-        {wireHeader({"S", "D", "W", "B", "C"}, 2147483647) + whole.substr(headerSize), 40},
+        {wireHeader({"S", "D", "W", "B", "C"}, 2147483647) + whole.substr(HEADER_SIZE), 40},
         {std::string(4000, '\xFF'), 0},
     };
     for (const auto& [file, records] : files) {
@@ -457,19 +457,19 @@ TEST_F(OperatorWiring, a_damaged_table_shows_the_records_that_are_whole)
         project.write("Haisenhyo", file);
         if (!AppliWnd)
             start();
-        openFromMenu(formName);
+        openFromMenu(FORM_NAME);
         ASSERT_TRUE(table());
         waitShown(table());
         for (int i = 0; i < 4; i++)
-            clickBar(AppliWnd, verticalBar, BAR_NEXT_PAGE);
-        EXPECT_EQ(number(lineNumberCell + lines - 1), records);
-        clickItem(table(), headings[1], PTRN_BUTN);
+            clickBar(AppliWnd, VERTICAL_BAR, BAR_NEXT_PAGE);
+        EXPECT_EQ(number(LINE_NUMBER_CELL + LINES - 1), records);
+        clickItem(table(), HEADINGS[1], PTRN_BUTN);
         clickItem(table(), cellOf(0, 0), PTRN_CHAR);
         EXPECT_EQ(edited(), records ? cellOf(0, 0) : -1);
         type("7");
         key(XK_Down);
         key(XK_Escape);
-        clickItem(AppliWnd, saveButton, PTRN_BUTN);
-        EXPECT_EQ(project.read("Haisenhyo").size(), std::max(file.size(), std::size_t{headerSize}));
+        clickItem(AppliWnd, SAVE_BUTTON, PTRN_BUTN);
+        EXPECT_EQ(project.read("Haisenhyo").size(), std::max(file.size(), std::size_t{HEADER_SIZE}));
     }
 }

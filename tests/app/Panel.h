@@ -16,9 +16,9 @@ class Panel : public testing::Test
 {
   protected:
     // Patterns that the program knows.
-    static constexpr const char* menu = "テスト  ［メニュー選択］";
-    static constexpr const char* other = "テスト  （図形）";
-    static constexpr const char* notice = "システム終了";
+    static constexpr const char* MENU = "テスト  ［メニュー選択］";
+    static constexpr const char* OTHER = "テスト  （図形）";
+    static constexpr const char* NOTICE = "システム終了";
 
     void SetUp() override
     {
@@ -28,7 +28,7 @@ class Panel : public testing::Test
                 colors += int32(static_cast<int>(color(number) >> shift & 0xFF) * 257);
         project.write("PtrnColr", colors);
         project.set("TESSARY", "DISPSIZE", "1280,1024");
-        project.set("PTRN", "PTRNSTART", menu);
+        project.set("PTRN", "PTRNSTART", MENU);
         project.set("FONT", "FONTNAME0", "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*");
         project.code("DATA", 200);
     }

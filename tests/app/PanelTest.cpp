@@ -35,18 +35,18 @@ TEST_F(Panel, tells_that_the_project_is_not_set_and_ends_with_status_0)
 
 TEST_F(Panel, shows_the_start_pattern_opens_another_and_stops)
 {
-    project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", notice);
-    Pattern(menu).size(300, 200).item(PTRN_BUTN, 10, 10, 110, 50).text("図形").action(8, other).save(project);
-    Pattern(other).size(320, 210).item(PTRN_BUTN, 10, 10, 110, 50).text("終了").action(16).save(project);
-    Pattern(notice).size(150, 80).save(project);
+    project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
+    Pattern(MENU).size(300, 200).item(PTRN_BUTN, 10, 10, 110, 50).text("図形").action(8, OTHER).save(project);
+    Pattern(OTHER).size(320, 210).item(PTRN_BUTN, 10, 10, 110, 50).text("終了").action(16).save(project);
+    Pattern(NOTICE).size(150, 80).save(project);
     run();
 
-    EXPECT_EQ(user.waitForWindow(menu).width, 300);
+    EXPECT_EQ(user.waitForWindow(MENU).width, 300);
     user.clickAt(50, 30);
-    EXPECT_EQ(user.waitForWindow(other).width, 320);
+    EXPECT_EQ(user.waitForWindow(OTHER).width, 320);
     user.waitFor([&] { return user.windows().size() == 1; }, "the menu to go");
     user.clickAt(50, 30);
-    user.waitForWindow(notice);
+    user.waitForWindow(NOTICE);
     EXPECT_EQ(waitEnd(), 0) << program->output();
     EXPECT_EQ(logged().front(), "システム起動");
     EXPECT_EQ(logged().back(), "システム停止");
@@ -73,25 +73,25 @@ TEST_F(Panel, starts_without_any_file_in_its_project)
 {
     for (const char* name : {"PtrnCode", "PtrnColr"})
         unlink((project.folder() + "/" + name).c_str());
-    Pattern(menu).size(300, 200).save(project);
+    Pattern(MENU).size(300, 200).save(project);
     run();
-    EXPECT_EQ(user.waitForWindow(menu).width, 300);
+    EXPECT_EQ(user.waitForWindow(MENU).width, 300);
     EXPECT_FALSE(program->status());
     EXPECT_THAT(program->output(), testing::Not(HasSubstr("ERROR")));
 }
 
 TEST_F(Panel, shows_a_window_of_one_pixel_for_a_pattern_that_is_no_pattern)
 {
-    project.write(std::string(menu) + ".ptn", "this is no pattern");
+    project.write(std::string(MENU) + ".ptn", "this is no pattern");
     run();
-    user.waitForWindow(menu);
+    user.waitForWindow(MENU);
     EXPECT_FALSE(program->status());
-    EXPECT_THAT(logged(), Contains(std::string("パターンを表示できない  [") + menu + "]"));
+    EXPECT_THAT(logged(), Contains(std::string("パターンを表示できない  [") + MENU + "]"));
 }
 
 TEST_F(Panel, shows_its_clock_values_from_the_first_tick_on)
 {
-    Pattern(menu)
+    Pattern(MENU)
         .size(300, 200)
         .item(PTRN_NUMR, 20, 20, 100, 40)
         .code("DATA", 0)
@@ -99,7 +99,7 @@ TEST_F(Panel, shows_its_clock_values_from_the_first_tick_on)
         .parm(TEXT_BACKED, 1)
         .save(project);
     run();
-    user.waitForWindow(menu);
+    user.waitForWindow(MENU);
     // The year has as many pixels as its four digits need; before the first tick it is a single zero.
     user.waitFor(
         [&] {

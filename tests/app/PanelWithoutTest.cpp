@@ -50,9 +50,9 @@ class PanelWithout : public Panel
     /// A start screen that uses fonts, colours, marks and bitmaps, with a button that stops the program.
     void saveScreens()
     {
-        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", notice);
-        Pattern(notice).size(150, 80).save(project);
-        Pattern(menu)
+        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
+        Pattern(NOTICE).size(150, 80).save(project);
+        Pattern(MENU)
             .title("Plant")
             .size(300, 200)
             .header(HEDR_TITLE_HEIGHT, 30)
@@ -218,7 +218,7 @@ TEST_F(PanelWithout, its_project_folder_names_what_it_misses_and_runs)
 {
     project.set("TESSARY", "PROJECT", project.root() + "/gone");
     run();
-    waitLogged(std::string("パターンを表示できない  [") + menu + "]");
+    waitLogged(std::string("パターンを表示できない  [") + MENU + "]");
     for (const char* name : {"PtrnColr", "PtrnMark"})
         EXPECT_EQ(told(std::string("ファイルのオープンに失敗 [") + name + "]"), 1) << name;
     EXPECT_FALSE(program->status()) << program->output();

@@ -8,13 +8,13 @@ using namespace tessary;
 namespace
 {
 
-const char* const menu = "ポップアップメニュー";
-const char* const children[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
+const char* const MENU = "ポップアップメニュー";
+const char* const CHILDREN[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
 
-constexpr int buttonX = 300;
-constexpr int buttonY = 100;
-constexpr int menuWidth = 120;
-constexpr int menuHeight = 90;
+constexpr int BUTTON_X = 300;
+constexpr int BUTTON_Y = 100;
+constexpr int MENU_WIDTH = 120;
+constexpr int MENU_HEIGHT = 90;
 
 class Buttons : public SampleScreen
 {
@@ -28,22 +28,22 @@ class Buttons : public SampleScreen
             for (int value = 1; value <= 3; value++)
                 screen.item(PTRN_RDIO, 20 + 40 * value, 20 + 30 * group, 36 + 40 * value, 36 + 30 * group)
                     .parm(RDIO_VALUE, value)
-                    .code(code, offset(106 + group))
+                    .code(CODE, offset(106 + group))
                     .action(ACTION_MESSAGE_SELF);
         for (const int no : {114, 115, 116, 1551, 1552, 1553})
             screen.item(PTRN_CHCK, checkX(no), 120, checkX(no) + 16, 136)
-                .code(code, offset(no))
+                .code(CODE, offset(no))
                 .action(ACTION_MESSAGE_SELF);
-        screen.item(PTRN_BUTN, buttonX, buttonY, buttonX + 80, buttonY + 40)
-            .code(code, offset(104))
+        screen.item(PTRN_BUTN, BUTTON_X, BUTTON_Y, BUTTON_X + 80, BUTTON_Y + 40)
+            .code(CODE, offset(104))
             .action(ACTION_MESSAGE_SELF);
         for (int no = 482; no <= 484; no++)
-            screen.item(PTRN_BUTN, buttonX, 200 + 50 * (no - 482), buttonX + 80, 240 + 50 * (no - 482))
-                .code(code, offset(no))
+            screen.item(PTRN_BUTN, BUTTON_X, 200 + 50 * (no - 482), BUTTON_X + 80, 240 + 50 * (no - 482))
+                .code(CODE, offset(no))
                 .action(ACTION_MESSAGE_SELF);
         screen.save(project);
-        Pattern(menu).size(menuWidth, menuHeight).header(HEDR_MODELESS, 1).save(project);
-        for (const char* name : children)
+        Pattern(MENU).size(MENU_WIDTH, MENU_HEIGHT).header(HEDR_MODELESS, 1).save(project);
+        for (const char* name : CHILDREN)
             Pattern(name)
                 .size(200, 100)
                 .header(HEDR_KIND, 2)
@@ -155,10 +155,10 @@ TEST_F(Buttons, any_value_but_0_switches_blinking_on)
 TEST_F(Buttons, the_popup_menu_opens_beside_its_button)
 {
     openButtons();
-    clickAt(buttonX + 40, buttonY + 20);
-    const CPtrnDisp* popup = child(menu);
-    EXPECT_EQ(popup->WindRect.left, buttonX + 80);
-    EXPECT_EQ(popup->WindRect.top, buttonY);
+    clickAt(BUTTON_X + 40, BUTTON_Y + 20);
+    const CPtrnDisp* popup = child(MENU);
+    EXPECT_EQ(popup->WindRect.left, BUTTON_X + 80);
+    EXPECT_EQ(popup->WindRect.top, BUTTON_Y);
     EXPECT_EQ(popup->PtrnType, KIND_CHILD1);
 }
 
@@ -169,9 +169,9 @@ TEST_F(Buttons, the_popup_menu_opens_beside_the_button_as_it_is_seen)
     AppliWnd->PtrnSetOffset(0, 50, 30, nullptr, 0);
     AppliWnd->WindRect = SetRect(200, 100, 840, 500);
     AppliWnd->PtrnMesgFunc(104);
-    const CPtrnDisp* popup = child(menu);
-    EXPECT_EQ(popup->WindRect.left, buttonX + 80 + 200 - 50);
-    EXPECT_EQ(popup->WindRect.top, buttonY + 100 - 30);
+    const CPtrnDisp* popup = child(MENU);
+    EXPECT_EQ(popup->WindRect.left, BUTTON_X + 80 + 200 - 50);
+    EXPECT_EQ(popup->WindRect.top, BUTTON_Y + 100 - 30);
 }
 
 TEST_F(Buttons, the_popup_menu_opens_at_the_corner_when_there_is_no_button)
@@ -179,7 +179,7 @@ TEST_F(Buttons, the_popup_menu_opens_at_the_corner_when_there_is_no_button)
     Pattern("テスト  （文字列・ボタン）").size(640, 400).save(project);
     openButtons();
     AppliWnd->PtrnMesgFunc(104);
-    const CPtrnDisp* popup = child(menu);
+    const CPtrnDisp* popup = child(MENU);
     EXPECT_EQ(popup->WindRect.left, 0);
     EXPECT_EQ(popup->WindRect.top, 0);
 }
@@ -188,8 +188,8 @@ TEST_F(Buttons, open_the_three_child_windows_one_in_place_of_the_other)
 {
     openButtons();
     for (int i = 0; i < 3; i++) {
-        clickAt(buttonX + 40, 220 + 50 * i);
-        child(children[i]);
+        clickAt(BUTTON_X + 40, 220 + 50 * i);
+        child(CHILDREN[i]);
         EXPECT_EQ(AppliWnd->ChildWnd2, nullptr);
     }
 }

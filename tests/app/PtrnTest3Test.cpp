@@ -15,11 +15,11 @@ namespace
 class TableForm : public TableScreens
 {
   protected:
-    void clickSave() { clickAt(saveLeft + 40, buttonTop + 15); }
-    void clickPrint() { clickAt(printLeft + 40, buttonTop + 15); }
+    void clickSave() { clickAt(SAVE_LEFT + 40, BUTTON_TOP + 15); }
+    void clickPrint() { clickAt(PRINT_LEFT + 40, BUTTON_TOP + 15); }
 };
 
-constexpr int shift = 1;
+constexpr int SHIFT = 1;
 
 } // namespace
 
@@ -33,10 +33,10 @@ TEST_F(TableForm, shows_the_header_and_opens_the_table_in_its_frame)
     EXPECT_EQ(text(109), "注記");
     const CPtrnDisp& table = tableWnd();
     EXPECT_EQ(table.PtrnType, KIND_CHILD1);
-    EXPECT_EQ(table.WindRect.left, frameLeft);
-    EXPECT_EQ(table.WindRect.top, frameTop);
-    EXPECT_EQ(table.WindRect.width, frameWidth);
-    EXPECT_EQ(table.WindRect.height, frameHeight);
+    EXPECT_EQ(table.WindRect.left, FRAME_LEFT);
+    EXPECT_EQ(table.WindRect.top, FRAME_TOP);
+    EXPECT_EQ(table.WindRect.width, FRAME_WIDTH);
+    EXPECT_EQ(table.WindRect.height, FRAME_HEIGHT);
     EXPECT_EQ(number(439), 1);
 }
 
@@ -49,7 +49,7 @@ TEST_F(TableForm, sizes_both_scroll_bars)
     EXPECT_EQ(bar.Parm[SBAR_TOTAL], 40);
     EXPECT_EQ(number(1571), 0);
     ASSERT_TRUE(AppliWnd->PtrnReadData(433, PTRN_SBAR, &bar));
-    EXPECT_EQ(bar.Parm[SBAR_TOTAL], tableWidth) << "the width of the table's pattern";
+    EXPECT_EQ(bar.Parm[SBAR_TOTAL], TABLE_WIDTH) << "the width of the table's pattern";
     EXPECT_EQ(number(433), 0);
 }
 
@@ -66,17 +66,17 @@ TEST_F(TableForm, opens_the_table_where_the_frame_is_seen)
     AppliWnd->Offset = {4, 6};
     AppliWnd->WindRect = SetRect(100, 200, 740, 720);
     formWnd().InitHaisenhyo();
-    EXPECT_EQ(AppliWnd->ChildWnd1->WindRect.left, frameLeft + 100 - 4);
-    EXPECT_EQ(AppliWnd->ChildWnd1->WindRect.top, frameTop + 200 - 6);
+    EXPECT_EQ(AppliWnd->ChildWnd1->WindRect.left, FRAME_LEFT + 100 - 4);
+    EXPECT_EQ(AppliWnd->ChildWnd1->WindRect.top, FRAME_TOP + 200 - 6);
 }
 
 TEST_F(TableForm, opens_no_table_without_a_frame)
 {
     project.write("Haisenhyo", wireFile({}, numberedWires(3)));
-    Pattern(formName).size(640, 520).item(PTRN_GBOX, 10, 10, 200, 200).code(code, offset(432)).save(project);
+    Pattern(FORM_NAME).size(640, 520).item(PTRN_GBOX, 10, 10, 200, 200).code(CODE, offset(432)).save(project);
     table().save(project);
     start();
-    ASSERT_TRUE(openTop(formName));
+    ASSERT_TRUE(openTop(FORM_NAME));
     EXPECT_EQ(AppliWnd->ChildWnd1, nullptr);
     tick(2);
     formWnd().PtrnMesgFunc(1554);
@@ -110,7 +110,7 @@ TEST_F(TableForm, keeps_the_table_when_a_new_form_takes_the_place_of_the_old_one
     reopen();
     EXPECT_EQ(HaisenData.size(), 40u);
     tableWnd().DispDataSet(25);
-    EXPECT_EQ(text(cell(0, lastLine)), "a40");
+    EXPECT_EQ(text(cell(0, LAST_LINE)), "a40");
 }
 
 TEST_F(TableForm, saves_header_and_records)
@@ -189,19 +189,19 @@ struct FieldMove {
     int to;
 };
 
-constexpr FieldMove fieldMoves[] = {
+constexpr FieldMove FIELD_MOVES[] = {
     {KEYVAL_RETURN, 0, 1550, 485},  {KEYVAL_RETURN, 0, 485, 1548},  {KEYVAL_RETURN, 0, 1548, 100},
     {KEYVAL_RETURN, 0, 100, 109},   {KEYVAL_RETURN, 0, 109, 1550},  {KEYVAL_TAB, 0, 1550, 485},
     {KEYVAL_TAB, 0, 485, 1548},     {KEYVAL_TAB, 0, 1548, 100},     {KEYVAL_TAB, 0, 100, 109},
-    {KEYVAL_TAB, 0, 109, 1550},     {KEYVAL_TAB, shift, 1550, 109}, {KEYVAL_TAB, shift, 485, 1550},
-    {KEYVAL_TAB, shift, 1548, 485}, {KEYVAL_TAB, shift, 100, 1548}, {KEYVAL_TAB, shift, 109, 100},
+    {KEYVAL_TAB, 0, 109, 1550},     {KEYVAL_TAB, SHIFT, 1550, 109}, {KEYVAL_TAB, SHIFT, 485, 1550},
+    {KEYVAL_TAB, SHIFT, 1548, 485}, {KEYVAL_TAB, SHIFT, 100, 1548}, {KEYVAL_TAB, SHIFT, 109, 100},
     {KEYVAL_UP, 0, 1550, 1550},     {KEYVAL_UP, 0, 485, 485},       {KEYVAL_UP, 0, 1548, 1550},
     {KEYVAL_UP, 0, 100, 485},       {KEYVAL_UP, 0, 109, 1548},      {KEYVAL_DOWN, 0, 1550, 1548},
     {KEYVAL_DOWN, 0, 485, 100},     {KEYVAL_DOWN, 0, 1548, 109},    {KEYVAL_DOWN, 0, 100, 109},
     {KEYVAL_DOWN, 0, 109, 109},     {KEYVAL_LEFT, 0, 1550, 1550},   {KEYVAL_LEFT, 0, 485, 1550},
     {KEYVAL_LEFT, 0, 1548, 1548},   {KEYVAL_LEFT, 0, 100, 1548},    {KEYVAL_LEFT, 0, 109, 109},
     {KEYVAL_RIGHT, 0, 1550, 485},   {KEYVAL_RIGHT, 0, 485, 485},    {KEYVAL_RIGHT, 0, 1548, 100},
-    {KEYVAL_RIGHT, 0, 100, 100},    {KEYVAL_RIGHT, 0, 109, 109},    {KEYVAL_RETURN, shift, 1550, 485},
+    {KEYVAL_RIGHT, 0, 100, 100},    {KEYVAL_RIGHT, 0, 109, 109},    {KEYVAL_RETURN, SHIFT, 1550, 485},
 };
 
 } // namespace
@@ -209,7 +209,7 @@ constexpr FieldMove fieldMoves[] = {
 TEST_F(TableForm, every_key_leads_from_every_field_to_its_neighbour)
 {
     openTable(3);
-    for (const FieldMove& move : fieldMoves)
+    for (const FieldMove& move : FIELD_MOVES)
         EXPECT_EQ(editAfter(*AppliWnd, move.from, move.key, move.state), move.to)
             << std::hex << "key " << move.key << std::dec << (move.state ? " with Shift" : "") << " from "
             << move.from;

@@ -8,8 +8,8 @@ using namespace tessary;
 namespace
 {
 
-const char* const menu = "ポップアップメニュー";
-const char* const children[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
+const char* const MENU = "ポップアップメニュー";
+const char* const CHILDREN[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
 
 class MouseScreen : public SampleScreen
 {
@@ -21,18 +21,18 @@ class MouseScreen : public SampleScreen
         for (int no = 468; no <= 471; no++)
             screen.item(PTRN_RECT, areaX(no), 20, areaX(no) + 80, 60)
                 .parm(SHAPE_FILLED, 1)
-                .code(code, offset(no));
+                .code(CODE, offset(no));
         for (int no = 472; no <= 481; no++)
             screen.item(PTRN_MARK, lampX(no), 100, lampX(no) + 32, 132)
-                .code(code, offset(no))
+                .code(CODE, offset(no))
                 .action(ACTION_MESSAGE_SELF);
         for (int no = 482; no <= 484; no++)
             screen.item(PTRN_BUTN, buttonX(no), 160, buttonX(no) + 80, 200)
-                .code(code, offset(no))
+                .code(CODE, offset(no))
                 .action(ACTION_MESSAGE_SELF);
         screen.save(project);
-        Pattern(menu).size(120, 90).header(HEDR_MODELESS, 1).save(project);
-        for (const char* name : children)
+        Pattern(MENU).size(120, 90).header(HEDR_MODELESS, 1).save(project);
+        for (const char* name : CHILDREN)
             Pattern(name)
                 .size(100, 50)
                 .header(HEDR_KIND, 2)
@@ -47,8 +47,8 @@ class MouseScreen : public SampleScreen
     static int areaX(int no) { return 20 + 100 * (no - 468); }
     static int lampX(int no) { return 20 + 40 * (no - 472); }
     static int buttonX(int no) { return 20 + 100 * (no - 482); }
-    static constexpr int emptyX = 50;
-    static constexpr int emptyY = 350;
+    static constexpr int EMPTY_X = 50;
+    static constexpr int EMPTY_Y = 350;
 
     void moveToArea(int no) { moveTo(AppliWnd, areaX(no) + 40, 40); }
     void clickLamp(int no, unsigned button) { clickAt(lampX(no) + 16, 116, button); }
@@ -113,11 +113,11 @@ TEST_F(MouseScreen, right_clicks_switch_the_right_lamps)
 TEST_F(MouseScreen, the_pointer_is_a_cross_over_items_and_an_arrow_elsewhere)
 {
     openMouse();
-    moveTo(AppliWnd, emptyX, emptyY);
+    moveTo(AppliWnd, EMPTY_X, EMPTY_Y);
     EXPECT_EQ(AppliWnd->CursorType, 0);
     moveTo(AppliWnd, lampX(472) + 5, 110);
     EXPECT_EQ(AppliWnd->CursorType, 1);
-    moveTo(AppliWnd, emptyX, emptyY);
+    moveTo(AppliWnd, EMPTY_X, EMPTY_Y);
     EXPECT_EQ(AppliWnd->CursorType, 0);
     moveToArea(470);
     EXPECT_EQ(AppliWnd->CursorType, 1);
@@ -126,14 +126,14 @@ TEST_F(MouseScreen, the_pointer_is_a_cross_over_items_and_an_arrow_elsewhere)
 TEST_F(MouseScreen, the_first_area_lights_up_below_the_pointer)
 {
     openMouse();
-    moveTo(AppliWnd, emptyX, emptyY);
+    moveTo(AppliWnd, EMPTY_X, EMPTY_Y);
     EXPECT_EQ(areas(), none());
     moveToArea(468);
     EXPECT_EQ(areas(), only(468));
     moveToArea(469);
     EXPECT_EQ(areas(), none()) << "the second one wants Shift";
     moveToArea(468);
-    moveTo(AppliWnd, emptyX, emptyY);
+    moveTo(AppliWnd, EMPTY_X, EMPTY_Y);
     EXPECT_EQ(areas(), none()) << "the pointer has left";
 }
 
@@ -197,7 +197,7 @@ TEST_F(MouseScreen, each_area_wants_its_own_button_and_modifier)
 TEST_F(MouseScreen, events_outside_the_areas_go_on_to_the_items)
 {
     openMouse();
-    EXPECT_EQ(AppliWnd->PtrnMouseFunc({emptyX, emptyY}, 0, 0), 0);
+    EXPECT_EQ(AppliWnd->PtrnMouseFunc({EMPTY_X, EMPTY_Y}, 0, 0), 0);
     EXPECT_EQ(AppliWnd->PtrnMouseFunc({lampX(472) + 16, 116}, 1, 0), 0);
 }
 
@@ -213,21 +213,21 @@ TEST_F(MouseScreen, hidden_areas_do_not_answer)
 TEST_F(MouseScreen, a_right_press_beside_the_items_opens_the_popup_menu_at_the_pointer)
 {
     openMouse();
-    clickAt(emptyX, emptyY, 3);
-    const CPtrnDisp* popup = child(menu);
-    EXPECT_EQ(popup->WindRect.left, emptyX);
-    EXPECT_EQ(popup->WindRect.top, emptyY);
+    clickAt(EMPTY_X, EMPTY_Y, 3);
+    const CPtrnDisp* popup = child(MENU);
+    EXPECT_EQ(popup->WindRect.left, EMPTY_X);
+    EXPECT_EQ(popup->WindRect.top, EMPTY_Y);
 }
 
 TEST_F(MouseScreen, the_popup_menu_opens_only_for_a_right_press_alone_beside_the_items)
 {
     openMouse();
-    clickAt(emptyX, emptyY, 1);
-    clickAt(emptyX, emptyY, 2);
+    clickAt(EMPTY_X, EMPTY_Y, 1);
+    clickAt(EMPTY_X, EMPTY_Y, 2);
     clickLamp(472, 3);
     clickAt(areaX(468) + 40, 40, 3);
     for (const int state : {1, 2, 4})
-        AppliWnd->PtrnMouseFunc({emptyX, emptyY}, 2, state);
+        AppliWnd->PtrnMouseFunc({EMPTY_X, EMPTY_Y}, 2, state);
     EXPECT_EQ(AppliWnd->ChildWnd1, nullptr);
 }
 
@@ -235,8 +235,8 @@ TEST_F(MouseScreen, clicks_on_items_close_the_popup_menu)
 {
     openMouse();
     for (const unsigned button : {1u, 3u}) {
-        clickAt(emptyX, emptyY, 3);
-        child(menu);
+        clickAt(EMPTY_X, EMPTY_Y, 3);
+        child(MENU);
         clickLamp(472, button);
         EXPECT_EQ(AppliWnd->ChildWnd1, nullptr) << "button " << button;
     }
@@ -247,7 +247,7 @@ TEST_F(MouseScreen, buttons_open_the_child_windows)
     openMouse();
     for (int i = 0; i < 3; i++) {
         clickAt(buttonX(482 + i) + 40, 180);
-        child(children[i]);
+        child(CHILDREN[i]);
     }
     AppliWnd->PtrnRbtnFunc(482);
     EXPECT_EQ(AppliWnd->ChildWnd1, nullptr) << "a right click only closes";

@@ -16,7 +16,7 @@ enum BarPart { BAR_FIRST_PAGE = 1, BAR_NEXT_PAGE, BAR_FIRST_ARROW, BAR_NEXT_ARRO
 class SampleProject : public Screen
 {
   protected:
-    static constexpr const char* menuName = "テスト  ［メニュー選択］";
+    static constexpr const char* MENU_NAME = "テスト  ［メニュー選択］";
 
     /// The maintenance screen opens where it was left: at first, at the first code.
     SampleProject()
@@ -40,7 +40,7 @@ class SampleProject : public Screen
     /// Opens the screen that a button of the menu leads to.
     void openFromMenu(const std::string& name)
     {
-        ASSERT_TRUE(openTop(menuName));
+        ASSERT_TRUE(openTop(MENU_NAME));
         clickAction(AppliWnd, tessary::ACTION_OPEN_TOP, name);
         ASSERT_EQ(AppliWnd->PtrnName, name);
         waitShown(AppliWnd);

@@ -23,60 +23,60 @@ struct Part {
     int action;
 };
 
-constexpr int any = -1;
+constexpr int ANY = -1;
 
-const char* const menu = "テスト  ［メニュー選択］";
-const char* const shapes = "テスト  （図形）";
-const char* const texts = "テスト  （文字列・ボタン）";
-const char* const graphs = "テスト  （グラフ）";
-const char* const mouse = "テスト  （マウス操作）";
-const char* const form = "テスト  （表・キー入力）";
-const char* const table = "テスト  （表）";
-const char* const maintenance = "メンテナンス";
+const char* const MENU = "テスト  ［メニュー選択］";
+const char* const SHAPES = "テスト  （図形）";
+const char* const TEXTS = "テスト  （文字列・ボタン）";
+const char* const GRAPHS = "テスト  （グラフ）";
+const char* const MOUSE = "テスト  （マウス操作）";
+const char* const FORM = "テスト  （表・キー入力）";
+const char* const TABLE = "テスト  （表）";
+const char* const MAINTENANCE = "メンテナンス";
 
 /// What the screen classes expect of their patterns.
-const Part parts[] = {
-    {shapes, PTRN_MARK, 454, 14, ACTION_MESSAGE_SELF},
-    {texts, PTRN_BUTN, 104, 1, ACTION_MESSAGE_SELF},
-    {texts, PTRN_BUTN, 105, 1, ACTION_MESSAGE_SELF},
-    {texts, PTRN_RDIO, 106, 3, ACTION_MESSAGE_SELF},
-    {texts, PTRN_FCHR, 101, 1, any},
-    {texts, PTRN_CHAR, 102, 1, any},
-    {texts, PTRN_NUMR, 103, 1, any},
-    {texts, PTRN_CHCK, 114, 3, ACTION_MESSAGE_SELF},
-    {texts, PTRN_CHCK, 1551, 3, ACTION_MESSAGE_SELF},
-    {texts, PTRN_MARK, 435, 1, any},
-    {texts, PTRN_FCHR, 436, 1, any},
-    {texts, PTRN_NUMR, 1549, 1, any},
-    {texts, PTRN_NUMR, 1547, 1, any},
-    {texts, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
-    {graphs, PTRN_RECT, 113, 1, any},
-    {graphs, PTRN_LINE, 112, 1, any},
-    {mouse, PTRN_RECT, 468, 4, any},
-    {mouse, PTRN_MARK, 472, 10, ACTION_MESSAGE_SELF},
-    {mouse, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
+const Part PARTS[] = {
+    {SHAPES, PTRN_MARK, 454, 14, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_BUTN, 104, 1, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_BUTN, 105, 1, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_RDIO, 106, 3, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_FCHR, 101, 1, ANY},
+    {TEXTS, PTRN_CHAR, 102, 1, ANY},
+    {TEXTS, PTRN_NUMR, 103, 1, ANY},
+    {TEXTS, PTRN_CHCK, 114, 3, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_CHCK, 1551, 3, ACTION_MESSAGE_SELF},
+    {TEXTS, PTRN_MARK, 435, 1, ANY},
+    {TEXTS, PTRN_FCHR, 436, 1, ANY},
+    {TEXTS, PTRN_NUMR, 1549, 1, ANY},
+    {TEXTS, PTRN_NUMR, 1547, 1, ANY},
+    {TEXTS, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
+    {GRAPHS, PTRN_RECT, 113, 1, ANY},
+    {GRAPHS, PTRN_LINE, 112, 1, ANY},
+    {MOUSE, PTRN_RECT, 468, 4, ANY},
+    {MOUSE, PTRN_MARK, 472, 10, ACTION_MESSAGE_SELF},
+    {MOUSE, PTRN_BUTN, 482, 3, ACTION_MESSAGE_SELF},
     {"ポップアップメニュー", PTRN_BUTN, 482, 3, ACTION_MESSAGE_PARENT},
-    {form, PTRN_CHAR, 1550, 1, any},
-    {form, PTRN_CHAR, 485, 1, any},
-    {form, PTRN_CHAR, 1548, 1, any},
-    {form, PTRN_CHAR, 100, 1, any},
-    {form, PTRN_CHAR, 109, 1, any},
-    {form, PTRN_RECT, 432, 1, any},
-    {form, PTRN_SBAR, 433, 1, ACTION_MESSAGE_CHILD1},
-    {form, PTRN_SBAR, 1571, 1, ACTION_MESSAGE_CHILD1},
-    {form, PTRN_BUTN, 434, 1, ACTION_MESSAGE_SELF},
-    {form, PTRN_BUTN, 1554, 1, ACTION_MESSAGE_SELF},
-    {form, PTRN_NUMR, 439, 15, any},
-    {table, PTRN_CHAR, 117, 15, any},
-    {table, PTRN_NUMR, 397, 15, any},
-    {table, PTRN_CHAR, 417, 15, any},
-    {table, PTRN_BUTN, 1555, 16, ACTION_MESSAGE_SELF},
-    {maintenance, PTRN_CHAR, 20, 10, ACTION_MESSAGE_SELF},
-    {maintenance, PTRN_NUMR, 30, 10, any},
-    {maintenance, PTRN_CHCK, 40, 10, ACTION_MESSAGE_SELF},
-    {maintenance, PTRN_NUMR, 50, 20, any},
-    {maintenance, PTRN_CHAR, 70, 10, any},
-    {maintenance, PTRN_SBAR, 80, 2, ACTION_MESSAGE_SELF},
+    {FORM, PTRN_CHAR, 1550, 1, ANY},
+    {FORM, PTRN_CHAR, 485, 1, ANY},
+    {FORM, PTRN_CHAR, 1548, 1, ANY},
+    {FORM, PTRN_CHAR, 100, 1, ANY},
+    {FORM, PTRN_CHAR, 109, 1, ANY},
+    {FORM, PTRN_RECT, 432, 1, ANY},
+    {FORM, PTRN_SBAR, 433, 1, ACTION_MESSAGE_CHILD1},
+    {FORM, PTRN_SBAR, 1571, 1, ACTION_MESSAGE_CHILD1},
+    {FORM, PTRN_BUTN, 434, 1, ACTION_MESSAGE_SELF},
+    {FORM, PTRN_BUTN, 1554, 1, ACTION_MESSAGE_SELF},
+    {FORM, PTRN_NUMR, 439, 15, ANY},
+    {TABLE, PTRN_CHAR, 117, 15, ANY},
+    {TABLE, PTRN_NUMR, 397, 15, ANY},
+    {TABLE, PTRN_CHAR, 417, 15, ANY},
+    {TABLE, PTRN_BUTN, 1555, 16, ACTION_MESSAGE_SELF},
+    {MAINTENANCE, PTRN_CHAR, 20, 10, ACTION_MESSAGE_SELF},
+    {MAINTENANCE, PTRN_NUMR, 30, 10, ANY},
+    {MAINTENANCE, PTRN_CHCK, 40, 10, ACTION_MESSAGE_SELF},
+    {MAINTENANCE, PTRN_NUMR, 50, 20, ANY},
+    {MAINTENANCE, PTRN_CHAR, 70, 10, ANY},
+    {MAINTENANCE, PTRN_SBAR, 80, 2, ACTION_MESSAGE_SELF},
 };
 
 class Sample : public SampleProject
@@ -113,14 +113,14 @@ TEST_P(InLanguage, every_screen_opens_and_runs_without_a_complaint)
 {
     load(GetParam());
     for (const char* name :
-         {menu, shapes, texts, graphs, mouse, form, table, "システム終了", "子ウィンドウ (1)",
+         {MENU, SHAPES, TEXTS, GRAPHS, MOUSE, FORM, TABLE, "システム終了", "子ウィンドウ (1)",
           "子ウィンドウ (2)", "子ウィンドウ (3)", "ポップアップメニュー"}) {
         ASSERT_TRUE(openTop(name)) << name;
         EXPECT_GT(AppliWnd->PtrnData->PtrnCont, 0) << name;
         tick(11);
         EXPECT_THAT(complaints(), IsEmpty()) << name;
     }
-    openTop(menu);
+    openTop(MENU);
     for (const auto& open : {PtrnDispVersnWnd, PtrnDispMenteWnd}) {
         open();
         ASSERT_TRUE(SystmWnd);
@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(Language, InLanguage, testing::Values(0, 1, 2));
 TEST_F(Sample, every_pattern_has_the_items_that_its_class_works_with)
 {
     load(0);
-    for (const Part& part : parts) {
+    for (const Part& part : PARTS) {
         const CPtrnData data(part.pattern);
         ASSERT_GT(data.PtrnCont, 0) << part.pattern;
         for (int no = part.first; no < part.first + part.count; no++) {
@@ -143,7 +143,7 @@ TEST_F(Sample, every_pattern_has_the_items_that_its_class_works_with)
             for (int i = 0; i < data.PtrnCont; i++) {
                 const PTRNDATA& item = data.PtrnData[i];
                 found = found || (item.DataNo == no && item.Type == part.type &&
-                                  (part.action == any || item.ID_Type == part.action));
+                                  (part.action == ANY || item.ID_Type == part.action));
             }
             EXPECT_TRUE(found) << part.pattern << ", cell " << no;
         }
@@ -163,7 +163,7 @@ TEST_F(Sample, no_item_has_a_code_that_the_table_lacks)
 TEST_F(Sample, the_table_fills_its_frame_and_is_wider)
 {
     load(0);
-    openTop(form);
+    openTop(FORM);
     const CPtrnDisp* wires = AppliWnd->ChildWnd1;
     ASSERT_TRUE(wires);
     PTRNDATA item;
@@ -187,7 +187,7 @@ TEST_F(Sample, the_lamps_of_the_mouse_screen_stay_as_they_were)
     // Their codes are small and their numbers high, which leaves nothing to clear.
     Set_wData(472, 1, nullptr, 0);
     Set_wData(481, 1, nullptr, 0);
-    openTop(mouse);
+    openTop(MOUSE);
     EXPECT_EQ(Get_wData(472, nullptr, 0), 1);
     EXPECT_EQ(Get_wData(481, nullptr, 0), 1);
 }
@@ -195,7 +195,7 @@ TEST_F(Sample, the_lamps_of_the_mouse_screen_stay_as_they_were)
 TEST_F(Sample, the_popup_menu_leads_to_the_child_windows)
 {
     load(0);
-    for (const char* screen : {texts, mouse}) {
+    for (const char* screen : {TEXTS, MOUSE}) {
         openTop(screen);
         for (int i = 0; i < 3; i++) {
             AppliWnd->PtrnDispPopup(1, "ポップアップメニュー", POINT{100, 100}, nullptr, 0);

@@ -12,9 +12,9 @@
 class SampleScreen : public Screen
 {
   protected:
-    static constexpr const char* code = "SAMPLE";
+    static constexpr const char* CODE = "SAMPLE";
 
-    SampleScreen() { project.code(code, 1571); }
+    SampleScreen() { project.code(CODE, 1571); }
 
     /// Offset of a cell within the code.
     static constexpr int offset(int cell) { return cell - 1; }

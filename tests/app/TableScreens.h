@@ -12,24 +12,24 @@
 class TableScreens : public SampleScreen
 {
   protected:
-    static constexpr const char* formName = "テスト  （表・キー入力）";
-    static constexpr const char* tableName = "テスト  （表）";
+    static constexpr const char* FORM_NAME = "テスト  （表・キー入力）";
+    static constexpr const char* TABLE_NAME = "テスト  （表）";
 
-    static constexpr int shownLines = 15;
-    static constexpr int lastLine = shownLines - 1;
-    static constexpr int columnWidth = 96; ///< of every column, in pixels
-    static constexpr int tableWidth = 16 * columnWidth;
-    static constexpr int frameLeft = 10;
-    static constexpr int frameTop = 90;
-    static constexpr int frameWidth = 500;
-    static constexpr int headingHeight = 20;
-    static constexpr int lineHeight = 20;
-    static constexpr int frameHeight = headingHeight + shownLines * lineHeight;
-    static constexpr int barLeft = frameLeft + frameWidth;
-    static constexpr int barTop = frameTop + frameHeight;
-    static constexpr int saveLeft = 10;
-    static constexpr int printLeft = 110;
-    static constexpr int buttonTop = barTop + 40;
+    static constexpr int SHOWN_LINES = 15;
+    static constexpr int LAST_LINE = SHOWN_LINES - 1;
+    static constexpr int COLUMN_WIDTH = 96; ///< of every column, in pixels
+    static constexpr int TABLE_WIDTH = 16 * COLUMN_WIDTH;
+    static constexpr int FRAME_LEFT = 10;
+    static constexpr int FRAME_TOP = 90;
+    static constexpr int FRAME_WIDTH = 500;
+    static constexpr int HEADING_HEIGHT = 20;
+    static constexpr int LINE_HEIGHT = 20;
+    static constexpr int FRAME_HEIGHT = HEADING_HEIGHT + SHOWN_LINES * LINE_HEIGHT;
+    static constexpr int BAR_LEFT = FRAME_LEFT + FRAME_WIDTH;
+    static constexpr int BAR_TOP = FRAME_TOP + FRAME_HEIGHT;
+    static constexpr int SAVE_LEFT = 10;
+    static constexpr int PRINT_LEFT = 110;
+    static constexpr int BUTTON_TOP = BAR_TOP + 40;
 
     ~TableScreens() override
     {
@@ -42,7 +42,7 @@ class TableScreens : public SampleScreen
 
     Pattern form()
     {
-        Pattern form(formName);
+        Pattern form(FORM_NAME);
         form.size(640, 520);
         const int fields[] = {1550, 485, 1548, 100, 109};
         const int widths[] = {9, 21, 15, 5, 30};
@@ -53,50 +53,50 @@ class TableScreens : public SampleScreen
                 .parm(tessary::FIELD_KEYENTRY, 1)
                 .parm(tessary::FIELD_NAVIGATION,
                       tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
-                .code(code, offset(fields[i]));
-        form.item(PTRN_RECT, frameLeft, frameTop, frameLeft + frameWidth, frameTop + frameHeight)
-            .code(code, offset(432));
-        form.item(PTRN_SBAR, barLeft, frameTop, barLeft + 20, barTop)
+                .code(CODE, offset(fields[i]));
+        form.item(PTRN_RECT, FRAME_LEFT, FRAME_TOP, FRAME_LEFT + FRAME_WIDTH, FRAME_TOP + FRAME_HEIGHT)
+            .code(CODE, offset(432));
+        form.item(PTRN_SBAR, BAR_LEFT, FRAME_TOP, BAR_LEFT + 20, BAR_TOP)
             .parm(tessary::SBAR_VERTICAL, 1)
-            .parm(tessary::SBAR_VISIBLE, shownLines)
-            .code(code, offset(1571))
+            .parm(tessary::SBAR_VISIBLE, SHOWN_LINES)
+            .code(CODE, offset(1571))
             .action(tessary::ACTION_MESSAGE_CHILD1);
-        form.item(PTRN_SBAR, frameLeft, barTop, barLeft, barTop + 20)
-            .parm(tessary::SBAR_VISIBLE, frameWidth)
-            .parm(tessary::SBAR_LINE_STEP, columnWidth)
-            .code(code, offset(433))
+        form.item(PTRN_SBAR, FRAME_LEFT, BAR_TOP, BAR_LEFT, BAR_TOP + 20)
+            .parm(tessary::SBAR_VISIBLE, FRAME_WIDTH)
+            .parm(tessary::SBAR_LINE_STEP, COLUMN_WIDTH)
+            .code(CODE, offset(433))
             .action(tessary::ACTION_MESSAGE_CHILD1);
-        form.item(PTRN_BUTN, saveLeft, buttonTop, saveLeft + 80, buttonTop + 30)
-            .code(code, offset(1554))
+        form.item(PTRN_BUTN, SAVE_LEFT, BUTTON_TOP, SAVE_LEFT + 80, BUTTON_TOP + 30)
+            .code(CODE, offset(1554))
             .action(tessary::ACTION_MESSAGE_SELF);
-        form.item(PTRN_BUTN, printLeft, buttonTop, printLeft + 80, buttonTop + 30)
-            .code(code, offset(434))
+        form.item(PTRN_BUTN, PRINT_LEFT, BUTTON_TOP, PRINT_LEFT + 80, BUTTON_TOP + 30)
+            .code(CODE, offset(434))
             .action(tessary::ACTION_MESSAGE_SELF);
         return form;
     }
 
     /// Heading of each column, by its cell.
-    static constexpr int headings[16] = {1557, 1560, 1561, 1558, 1556, 1555, 1569, 1567,
+    static constexpr int HEADINGS[16] = {1557, 1560, 1561, 1558, 1556, 1555, 1569, 1567,
                                          1563, 1565, 1570, 1568, 1564, 1566, 1559, 1562};
 
     Pattern table()
     {
-        Pattern table(tableName);
-        table.size(tableWidth, frameHeight).header(tessary::HEDR_MODELESS, 1);
+        Pattern table(TABLE_NAME);
+        table.size(TABLE_WIDTH, FRAME_HEIGHT).header(tessary::HEDR_MODELESS, 1);
         for (int column = 0; column < 16; column++) {
-            const int x = column * columnWidth;
-            table.item(PTRN_BUTN, x, 0, x + columnWidth, headingHeight)
-                .code(code, offset(headings[column]))
+            const int x = column * COLUMN_WIDTH;
+            table.item(PTRN_BUTN, x, 0, x + COLUMN_WIDTH, HEADING_HEIGHT)
+                .code(CODE, offset(HEADINGS[column]))
                 .action(tessary::ACTION_MESSAGE_SELF);
-            for (int line = 0; line < shownLines; line++) {
-                const int y = headingHeight + line * lineHeight + 2;
-                table.item(column == lengthColumn ? PTRN_NUMR : PTRN_CHAR, x, y, x + columnWidth, y + 16)
+            for (int line = 0; line < SHOWN_LINES; line++) {
+                const int y = HEADING_HEIGHT + line * LINE_HEIGHT + 2;
+                table.item(column == LENGTH_COLUMN ? PTRN_NUMR : PTRN_CHAR, x, y, x + COLUMN_WIDTH, y + 16)
                     .parm(tessary::FIELD_WIDTH, 11)
                     .parm(tessary::FIELD_KEYENTRY, 1)
                     .parm(tessary::TEXT_BACKED, 1)
                     .parm(tessary::FIELD_NAVIGATION,
                           tessary::NAV_UP | tessary::NAV_DOWN | tessary::NAV_LEFT | tessary::NAV_RIGHT)
-                    .code(code, offset(cell(column, line)));
+                    .code(CODE, offset(cell(column, line)));
             }
         }
         return table;
@@ -117,8 +117,8 @@ class TableScreens : public SampleScreen
     }
     void reopen()
     {
-        ASSERT_TRUE(openTop(formName));
-        ASSERT_TRUE(child(tableName));
+        ASSERT_TRUE(openTop(FORM_NAME));
+        ASSERT_TRUE(child(TABLE_NAME));
     }
 
     CPtrnTest3& formWnd() { return dynamic_cast<CPtrnTest3&>(*AppliWnd); }
@@ -138,7 +138,7 @@ class TableScreens : public SampleScreen
     static std::vector<std::string> column(int number)
     {
         std::vector<std::string> texts;
-        for (int line = 0; line < shownLines; line++)
+        for (int line = 0; line < SHOWN_LINES; line++)
             texts.push_back(text(cell(number, line)));
         return texts;
     }

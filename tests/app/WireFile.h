@@ -14,16 +14,16 @@ struct WireBytes {
     std::array<std::string, 16> texts{};
 };
 
-constexpr int lengthColumn = 14;
+constexpr int LENGTH_COLUMN = 14;
 
 /// Bytes of each column's field; the columns lie in this order in the record but for 14.
-constexpr int wireFieldSize[16] = {10, 6, 4, 4, 6, 6, 6, 6, 6, 10, 6, 6, 6, 10, 0, 8};
+constexpr int WIRE_FIELD_SIZE[16] = {10, 6, 4, 4, 6, 6, 6, 6, 6, 10, 6, 6, 6, 10, 0, 8};
 
 inline std::string wireRecord(const WireBytes& wire)
 {
     std::string bytes = int32(wire.number) + int32(wire.length);
     for (std::size_t column = 0; column < 16; column++)
-        bytes += field(wire.texts[column], static_cast<std::size_t>(wireFieldSize[column]));
+        bytes += field(wire.texts[column], static_cast<std::size_t>(WIRE_FIELD_SIZE[column]));
     return bytes;
 }
 
@@ -53,7 +53,7 @@ inline WireBytes numberedWire(int number)
     wire.number = number;
     wire.length = number * 10;
     for (std::size_t column = 0; column < 16; column++)
-        if (column != lengthColumn)
+        if (column != LENGTH_COLUMN)
             wire.texts[column] = static_cast<char>('a' + column) + std::to_string(number);
     return wire;
 }

@@ -20,7 +20,7 @@ using testing::SizeIs;
 namespace
 {
 
-const HeaderBytes header = {"SYS-1", "東京工場", "W-0815", "B-01", "盤内配線"};
+const HeaderBytes HEADER = {"SYS-1", "東京工場", "W-0815", "B-01", "盤内配線"};
 
 class WireTable : public testing::Test
 {
@@ -38,7 +38,7 @@ class WireTable : public testing::Test
         project.clearLog();
         LoadHaisenhyo();
     }
-    void load(const std::vector<WireBytes>& wires) { load(wireFile(header, wires)); }
+    void load(const std::vector<WireBytes>& wires) { load(wireFile(HEADER, wires)); }
 
     /// The header's number; it does not lie where an int may be pointed at.
     static int records() { return HaisenHedr.datacount; }
@@ -76,11 +76,11 @@ TEST_F(WireTable, reads_header_and_records)
     EXPECT_THAT(order(), ElementsAre(1, 2, 3));
     EXPECT_THAT(HaisenIndx, ElementsAre(0, 1, 2));
     for (int column = 0; column < 16; column++)
-        if (column != lengthColumn) {
+        if (column != LENGTH_COLUMN) {
             EXPECT_EQ(WireText(HaisenData[1], column), static_cast<char>('a' + column) + std::string("2"));
         }
     EXPECT_EQ(HaisenData[1].length, 20);
-    EXPECT_EQ(WireText(HaisenData[1], lengthColumn), "        20");
+    EXPECT_EQ(WireText(HaisenData[1], LENGTH_COLUMN), "        20");
     EXPECT_THAT(project.messages(), IsEmpty());
 }
 
@@ -109,7 +109,7 @@ TEST_F(WireTable, takes_fields_that_are_full_to_the_last_byte)
 {
     WireBytes wire;
     for (std::size_t column = 0; column < 16; column++)
-        wire.texts[column] = std::string(static_cast<std::size_t>(wireFieldSize[column]), 'X');
+        wire.texts[column] = std::string(static_cast<std::size_t>(WIRE_FIELD_SIZE[column]), 'X');
     const HeaderBytes full = {std::string(10, 'A'), std::string(22, 'B'), std::string(16, 'C'),
                               std::string(6, 'D'), std::string(80, 'E')};
     load(wireFile(full, {wire}));
@@ -119,7 +119,7 @@ TEST_F(WireTable, takes_fields_that_are_full_to_the_last_byte)
     EXPECT_EQ(FieldText(HaisenHedr.banno), full.boardNo);
     EXPECT_EQ(FieldText(HaisenHedr.comment), full.comment);
     for (int column = 0; column < 16; column++)
-        if (column != lengthColumn) {
+        if (column != LENGTH_COLUMN) {
             EXPECT_EQ(WireText(HaisenData[0], column), wire.texts[static_cast<std::size_t>(column)])
                 << column;
         }
@@ -127,7 +127,7 @@ TEST_F(WireTable, takes_fields_that_are_full_to_the_last_byte)
 
 TEST_F(WireTable, keeps_the_whole_records_of_a_file_that_ends_early)
 {
-    const std::string whole = wireFile(header, numberedWires(5));
+    const std::string whole = wireFile(HEADER, numberedWires(5));
     const auto keptOf = [&](std::size_t size) {
         load(whole.substr(0, size));
         EXPECT_EQ(HaisenData.size(), HaisenIndx.size());
@@ -147,24 +147,24 @@ TEST_F(WireTable, keeps_the_whole_records_of_a_file_that_ends_early)
 
 TEST_F(WireTable, reads_no_more_than_the_header_tells)
 {
-    std::string bytes = wireFile(header, numberedWires(5));
-    load(wireHeader(header, 2) + bytes.substr(138));
+    std::string bytes = wireFile(HEADER, numberedWires(5));
+    load(wireHeader(HEADER, 2) + bytes.substr(138));
     EXPECT_THAT(order(), ElementsAre(1, 2));
     EXPECT_THAT(project.messages(), IsEmpty());
 }
 
 TEST_F(WireTable, survives_counts_that_can_not_be)
 {
-    const std::string wires = wireFile(header, numberedWires(3)).substr(138);
+    const std::string wires = wireFile(HEADER, numberedWires(3)).substr(138);
     for (const int count : {4, 1000000, 19884107, 2147483647}) {
-        load(wireHeader(header, count) + wires);
+        load(wireHeader(HEADER, count) + wires);
         EXPECT_THAT(HaisenData, SizeIs(3)) << count;
         EXPECT_EQ(records(), 3);
         EXPECT_THAT(project.messages(),
                     ElementsAre("Haisenhyo: " + std::to_string(count) + " records announced, 3 read"));
     }
     for (const int count : {-1, -108, -2147483647 - 1}) {
-        load(wireHeader(header, count) + wires);
+        load(wireHeader(HEADER, count) + wires);
         EXPECT_THAT(HaisenData, IsEmpty()) << count;
         EXPECT_EQ(records(), 0);
         EXPECT_THAT(project.messages(),
@@ -175,7 +175,7 @@ TEST_F(WireTable, survives_counts_that_can_not_be)
 TEST_F(WireTable, reads_at_most_a_million_records)
 {
     // A sparse file: the records are all zero and take no room on the disk.
-    project.write("Haisenhyo", wireHeader(header, 1500000));
+    project.write("Haisenhyo", wireHeader(HEADER, 1500000));
     ASSERT_EQ(truncate((project.folder() + "/Haisenhyo").c_str(), 138 + 1500000L * 108), 0);
     LoadHaisenhyo();
     EXPECT_EQ(records(), CONT_HAISENDATA);
@@ -214,7 +214,7 @@ TEST_F(WireTable, saves_byte_for_byte_what_it_has_read)
     std::vector<WireBytes> wires = numberedWires(20);
     wires[3].texts[0] = "線番１";
     wires[4].length = -5;
-    std::string bytes = wireFile(header, wires);
+    std::string bytes = wireFile(HEADER, wires);
     bytes[138 + 15] = 'r'; // what stands behind the end of a text
     bytes[138 + 17] = 'x';
     load(bytes);
@@ -228,7 +228,7 @@ TEST_F(WireTable, saves_byte_for_byte_what_it_has_read)
 
 TEST_F(WireTable, saving_keeps_what_lies_behind_the_records)
 {
-    const std::string bytes = wireFile(header, numberedWires(2)) + "tail";
+    const std::string bytes = wireFile(HEADER, numberedWires(2)) + "tail";
     load(bytes);
     SaveHaisenhyo();
     EXPECT_EQ(project.read("Haisenhyo"), bytes);
@@ -271,9 +271,9 @@ TEST_F(WireTable, changes_texts_within_their_fields)
     load(numberedWires(2));
     HAISENDATA& wire = HaisenData[0];
     for (int column = 0; column < 16; column++) {
-        if (column == lengthColumn)
+        if (column == LENGTH_COLUMN)
             continue;
-        const auto size = static_cast<std::size_t>(wireFieldSize[column]);
+        const auto size = static_cast<std::size_t>(WIRE_FIELD_SIZE[column]);
         SetWireText(wire, column, std::string(100, 'Z').c_str());
         EXPECT_EQ(WireText(wire, column), std::string(size - 1, 'Z')) << column;
     }
@@ -297,7 +297,7 @@ TEST_F(WireTable, leaves_a_record_as_it_is_when_the_text_is_the_same)
 {
     WireBytes wire = numberedWire(1);
     wire.texts[0] = "0123456789"; // no room for a terminator
-    std::string bytes = wireFile(header, {wire});
+    std::string bytes = wireFile(HEADER, {wire});
     bytes[138 + 18 + 4] = 'r'; // behind the text of column 1
     load(bytes);
     for (const int column : {0, 1}) {
@@ -326,7 +326,7 @@ TEST_P(EveryColumn, sorts_by_its_own_bytes_in_both_directions)
     std::vector<WireBytes> wires(9);
     for (std::size_t i = 0; i < wires.size(); i++) {
         wires[i].number = static_cast<int>(i);
-        if (GetParam() == lengthColumn)
+        if (GetParam() == LENGTH_COLUMN)
             wires[i].length = lengths[i];
         else
             wires[i].texts[static_cast<std::size_t>(GetParam())] = texts[i];
@@ -390,7 +390,7 @@ TEST_F(WireTable, sorts_as_inserting_one_record_after_the_other_does)
     }
     load(wires);
     for (const auto& [column, descending] :
-         {std::pair(2, 0), std::pair(lengthColumn, 0), std::pair(2, 1), std::pair(lengthColumn, 1)}) {
+         {std::pair(2, 0), std::pair(LENGTH_COLUMN, 0), std::pair(2, 1), std::pair(LENGTH_COLUMN, 1)}) {
         // Each entry goes before the first earlier one whose key is greater (or smaller).
         std::vector<std::int32_t> expected = HaisenIndx;
         std::vector<std::string> keys = shown(column);

@@ -10,8 +10,8 @@ using testing::IsEmpty;
 namespace
 {
 
-constexpr int highest = std::numeric_limits<int>::max();
-constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int HIGHEST = std::numeric_limits<int>::max();
+constexpr int LOWEST = std::numeric_limits<int>::min();
 
 /// Cells 0 to 30, all numbers logged, each filled with values of its own.
 class Clearing : public CommonData
@@ -87,7 +87,7 @@ TEST_F(Clearing, with_one_value_sets_only_the_cell_after_the_given_one)
 
 TEST_F(Clearing, with_one_value_and_a_count_below_1_does_nothing)
 {
-    for (const int count : {0, -1, lowest}) {
+    for (const int count : {0, -1, LOWEST}) {
         Clear_wData(10, count, 5, nullptr, 0);
         Clear_iData(10, count, 5, nullptr, 0);
         Clear_fData(10, count, 5.0F, nullptr, 0);
@@ -98,10 +98,10 @@ TEST_F(Clearing, with_one_value_and_a_count_below_1_does_nothing)
 
 TEST_F(Clearing, with_one_value_takes_no_longer_for_a_huge_count)
 {
-    Clear_wData(10, highest, 5, nullptr, 0);
-    Clear_iData(10, highest, 5, nullptr, 0);
-    Clear_fData(10, highest, 5.0F, nullptr, 0);
-    Clear_sData(10, highest, "five", nullptr, 0);
+    Clear_wData(10, HIGHEST, 5, nullptr, 0);
+    Clear_iData(10, HIGHEST, 5, nullptr, 0);
+    Clear_fData(10, HIGHEST, 5.0F, nullptr, 0);
+    Clear_sData(10, HIGHEST, "five", nullptr, 0);
     EXPECT_EQ(Get_wData(11, nullptr, 0), 5);
     EXPECT_EQ(Get_fData(11, nullptr, 0), 5.0F);
     EXPECT_STREQ(Get_sData(11, nullptr, 0), "five");
@@ -111,7 +111,7 @@ TEST_F(Clearing, with_one_value_takes_no_longer_for_a_huge_count)
 
 TEST_F(Clearing, with_one_value_reaches_cell_0_and_the_last_cell_and_ignores_numbers_outside)
 {
-    for (const int no : {-1, 29, -2, 30, lowest, highest})
+    for (const int no : {-1, 29, -2, 30, LOWEST, HIGHEST})
         Clear_wData(no, 1, 0, nullptr, 0);
     for (int no = 0; no < PtrnDataNo; no++)
         EXPECT_EQ(Get_wData(no, nullptr, 0), no == 0 || no == 30 ? 0 : 100 + no) << no;
@@ -139,8 +139,8 @@ TEST_F(Clearing, a_range_with_a_count_below_1_does_nothing)
 {
     Clear_AllData(10, 0, nullptr, 0);
     Clear_AllData(10, -5, nullptr, 0);
-    Clear_AllData(10, lowest, nullptr, 0);
-    Clear_AllData(lowest, lowest, nullptr, 0);
+    Clear_AllData(10, LOWEST, nullptr, 0);
+    Clear_AllData(LOWEST, LOWEST, nullptr, 0);
     EXPECT_THAT(emptied(), IsEmpty());
 }
 
@@ -153,12 +153,12 @@ TEST_F(Clearing, a_range_skips_the_numbers_outside_the_store)
 
 TEST_F(Clearing, a_huge_range_ends_with_the_store)
 {
-    Clear_AllData(5, highest, nullptr, 0);
+    Clear_AllData(5, HIGHEST, nullptr, 0);
     EXPECT_EQ(emptied(), numbers(5, 30));
     fill();
-    Clear_AllData(highest, highest, nullptr, 0);
+    Clear_AllData(HIGHEST, HIGHEST, nullptr, 0);
     EXPECT_THAT(emptied(), IsEmpty());
-    Clear_AllData(lowest, highest, nullptr, 0);
+    Clear_AllData(LOWEST, HIGHEST, nullptr, 0);
     EXPECT_THAT(emptied(), IsEmpty());
 }
 
@@ -247,11 +247,11 @@ TEST_F(CommonData, is_cleared_as_far_as_the_first_code_that_holds_the_number_say
 
 TEST_F(CommonData, is_cleared_without_overflow_from_the_lowest_number)
 {
-    project.write("PtrnCode", codeRow("A", 10, lowest));
+    project.write("PtrnCode", codeRow("A", 10, LOWEST));
     start();
     for (int no = 0; no < PtrnDataNo; no++)
         Set_wData(no, 1, nullptr, 0);
-    Clear_AllData(lowest, nullptr, 0);
+    Clear_AllData(LOWEST, nullptr, 0);
     for (int no = 0; no < PtrnDataNo; no++)
         EXPECT_EQ(Get_wData(no, nullptr, 0), no <= 9 ? 0 : 1) << no;
 }

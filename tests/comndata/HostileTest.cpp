@@ -32,9 +32,9 @@ int anyNumber(Random& random)
 
 std::string anyCodeRow(Random& random)
 {
-    static const int ends[] = {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), -1, 0};
-    const int count = random() % 8 ? static_cast<int>(random() % 30) : ends[random() % 4];
-    const int first = random() % 3 ? anyNumber(random) : ends[random() % 4];
+    static const int ENDS[] = {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), -1, 0};
+    const int count = random() % 8 ? static_cast<int>(random() % 30) : ENDS[random() % 4];
+    const int first = random() % 3 ? anyNumber(random) : ENDS[random() % 4];
     return randomBytes(random, 22) + int32(count) + int32(first) + int32(static_cast<int>(random()));
 }
 

@@ -21,8 +21,8 @@ using testing::IsEmpty;
 namespace
 {
 
-constexpr int highest = std::numeric_limits<int>::max();
-constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int HIGHEST = std::numeric_limits<int>::max();
+constexpr int LOWEST = std::numeric_limits<int>::min();
 
 std::uint32_t bits(float value)
 {
@@ -336,7 +336,7 @@ TEST_F(Limits, of_a_number_outside_the_store_are_accepted_silently)
 {
     float min = 1.0F;
     float max = 1.0F;
-    for (const int no : {-1, 0, 30, 31, lowest, highest}) {
+    for (const int no : {-1, 0, 30, 31, LOWEST, HIGHEST}) {
         EXPECT_EQ(ChckLimtData(no, 1.0F, "t.cpp", 1), 1);
         EXPECT_EQ(Get_LimtData(no, &min, &max, "t.cpp", 1), 0);
         EXPECT_EQ(min, 0.0F);

@@ -15,8 +15,8 @@ using testing::IsEmpty;
 namespace
 {
 
-constexpr int highest = std::numeric_limits<int>::max();
-constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int HIGHEST = std::numeric_limits<int>::max();
+constexpr int LOWEST = std::numeric_limits<int>::min();
 
 class CodeTable : public CommonData
 {
@@ -154,11 +154,11 @@ TEST_F(CodeTable, ends_before_the_row_that_passes_a_million_cells_and_says_so)
 
 TEST_F(CodeTable, survives_the_highest_and_lowest_counts)
 {
-    load(codeRow("A", highest, 1));
+    load(codeRow("A", HIGHEST, 1));
     EXPECT_EQ(PtrnRecd, 0);
     EXPECT_EQ(PtrnCode, nullptr);
     EXPECT_EQ(PtrnDataNo, 1);
-    load(codeRow("A", lowest, 1));
+    load(codeRow("A", LOWEST, 1));
     EXPECT_EQ(PtrnRecd, 0);
     EXPECT_EQ(PtrnDataNo, 1);
 }
@@ -253,7 +253,7 @@ TEST_F(CodeTable, gives_the_number_of_a_code_and_an_offset)
     EXPECT_EQ(ConvertDtno("B", 2), 8);
     EXPECT_EQ(ConvertDtno("B", 3), -1);
     EXPECT_EQ(ConvertDtno("A", 5), -1);
-    EXPECT_EQ(ConvertDtno("A", highest), -1);
+    EXPECT_EQ(ConvertDtno("A", HIGHEST), -1);
 }
 
 TEST_F(CodeTable, gives_0_for_an_empty_code_and_minus_1_for_an_unknown_one)
@@ -293,21 +293,21 @@ TEST_F(CodeTable, takes_the_first_row_of_a_code_that_occurs_twice)
 
 TEST_F(CodeTable, takes_first_numbers_as_they_stand)
 {
-    load(codeRow("NEG", 5, -100) + codeRow("FAR", 5, 2000000000) + codeRow("TOP", 5, highest) +
-         codeRow("LOW", 5, lowest));
+    load(codeRow("NEG", 5, -100) + codeRow("FAR", 5, 2000000000) + codeRow("TOP", 5, HIGHEST) +
+         codeRow("LOW", 5, LOWEST));
     EXPECT_EQ(ConvertDtno("NEG", 1), -99);
     EXPECT_EQ(ConvertDtno("FAR", 4), 2000000004);
-    EXPECT_EQ(ConvertDtno("TOP", 0), highest);
-    EXPECT_EQ(ConvertDtno("TOP", -1), highest - 1);
-    EXPECT_EQ(ConvertDtno("LOW", 0), lowest);
+    EXPECT_EQ(ConvertDtno("TOP", 0), HIGHEST);
+    EXPECT_EQ(ConvertDtno("TOP", -1), HIGHEST - 1);
+    EXPECT_EQ(ConvertDtno("LOW", 0), LOWEST);
 }
 
 TEST_F(CodeTable, gives_minus_1_for_a_number_that_is_no_int)
 {
-    load(codeRow("TOP", 5, highest) + codeRow("LOW", 5, lowest));
+    load(codeRow("TOP", 5, HIGHEST) + codeRow("LOW", 5, LOWEST));
     EXPECT_EQ(ConvertDtno("TOP", 1), -1);
     EXPECT_EQ(ConvertDtno("LOW", -1), -1);
-    EXPECT_EQ(ConvertDtno("LOW", lowest), -1);
+    EXPECT_EQ(ConvertDtno("LOW", LOWEST), -1);
 }
 
 TEST_F(CodeTable, knows_a_code_that_fills_its_field_without_a_terminator)
@@ -358,7 +358,7 @@ TEST_F(CodeTable, names_no_number_outside_the_store)
 {
     load(codeRow("A", 5, 1) + codeRow("FAR", 1, 50));
     std::fill_n(PtrnFlag, PtrnDataNo, BYTE{1});
-    for (const int no : {-1, 7, 50, lowest, highest}) {
+    for (const int no : {-1, 7, 50, LOWEST, HIGHEST}) {
         char name[SIZE_DTNONAME] = "before";
         EXPECT_EQ(ConvertDtno(no, name), 0);
         EXPECT_STREQ(name, "");
@@ -378,7 +378,7 @@ TEST_F(CodeTable, names_a_number_by_the_first_row_that_holds_it)
 
 TEST_F(CodeTable, names_numbers_of_codes_at_the_ends_of_the_int_range)
 {
-    load(codeRow("TOP", 500000, highest) + codeRow("NEG", 400000, -399999) + codeRow("LOW", 5, lowest));
+    load(codeRow("TOP", 500000, HIGHEST) + codeRow("NEG", 400000, -399999) + codeRow("LOW", 5, LOWEST));
     PtrnFlag[0] = 1;
     PtrnFlag[1] = 1;
     char name[SIZE_DTNONAME];

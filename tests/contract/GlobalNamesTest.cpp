@@ -100,7 +100,7 @@ class Compiled : public testing::Test
             else if (depth == 0)
                 plain += letter;
         }
-        static const Names flags = {"implicit", "used",   "referenced", "class",  "struct",
+        static const Names FLAGS = {"implicit", "used",   "referenced", "class",  "struct",
                                     "union",    "inline", "definition", "parent", "prev"};
         const auto begins = [](const std::string& word, const char* text) {
             return word.rfind(text, 0) == 0;
@@ -109,7 +109,7 @@ class Compiled : public testing::Test
         std::string word;
         words >> word; // kind
         while (words >> word)
-            if (flags.count(word) == 0 && !begins(word, "0x") && !begins(word, "/") &&
+            if (FLAGS.count(word) == 0 && !begins(word, "0x") && !begins(word, "/") &&
                 !begins(word, "line:") && !begins(word, "col:"))
                 return word.substr(word.rfind(':') + 1); // of a using-declaration, the last of its names
         return "";

@@ -20,8 +20,8 @@ using testing::IsEmpty;
 namespace
 {
 
-const char* const title = "起動不可";
-const char* const message = "環境設定ファイル(/opt/panel.ini)が存在しません。";
+const char* const TITLE = "起動不可";
+const char* const MESSAGE = "環境設定ファイル(/opt/panel.ini)が存在しません。";
 
 /// Runs a function once from the main loop, when nothing else is to do.
 void later(const std::function<void()>& task)
@@ -80,15 +80,15 @@ class Box : public testing::Test
     }
 
     /// Shows a box; `act` is run while it waits and has to close it.
-    int show(int type, const std::function<void()>& act, const char* text = message, int ignored = 1)
+    int show(int type, const std::function<void()>& act, const char* text = MESSAGE, int ignored = 1)
     {
         later([&] {
-            shown = user.waitForWindow(title);
+            shown = user.waitForWindow(TITLE);
             act();
             if (!user.waitFor([&] { return !window(); }, "the box to close"))
                 gtk_widget_destroy(window());
         });
-        return MessageBox(title, text, ignored, type);
+        return MessageBox(TITLE, text, ignored, type);
     }
 
     GtkWidget* window()
@@ -97,7 +97,7 @@ class Box : public testing::Test
         GList* list = gtk_window_list_toplevels();
         for (GList* entry = list; entry; entry = entry->next) {
             const char* name = gtk_window_get_title(GTK_WINDOW(entry->data));
-            if (name && Utf8ToEuc(name) == title)
+            if (name && Utf8ToEuc(name) == TITLE)
                 found = GTK_WIDGET(entry->data);
         }
         g_list_free(list);
@@ -221,7 +221,7 @@ TEST_F(Box, takes_no_notice_of_its_third_argument)
 {
     for (int ignored : {-1, 0, 99})
         EXPECT_EQ(show(
-                      1, [&] { press(" 確認 "); }, message, ignored),
+                      1, [&] { press(" 確認 "); }, MESSAGE, ignored),
                   1)
             << ignored;
 }
@@ -229,8 +229,8 @@ TEST_F(Box, takes_no_notice_of_its_third_argument)
 TEST_F(Box, shows_title_and_text)
 {
     show(1, [&] {
-        EXPECT_EQ(shown.title, title);
-        EXPECT_EQ(Utf8ToEuc(gtk_label_get_text(label())), message);
+        EXPECT_EQ(shown.title, TITLE);
+        EXPECT_EQ(Utf8ToEuc(gtk_label_get_text(label())), MESSAGE);
         closeWindow();
     });
 }

@@ -15,7 +15,7 @@ TEST_F(Maintenance, changes_a_log_flag_and_rewrites_the_file_at_once)
     ASSERT_EQ(project.read("PtrnFlag"), before);
     project.clearLog();
 
-    clickLine(flagX, 2);
+    clickLine(FLAG_X, 2);
     std::string flags = before;
     flags[102] = 1;
     EXPECT_EQ(project.read("PtrnFlag"), flags);
@@ -27,7 +27,7 @@ TEST_F(Maintenance, changes_a_log_flag_and_rewrites_the_file_at_once)
 
     tick();
     EXPECT_EQ(number(42), 1);
-    clickLine(flagX, 2);
+    clickLine(FLAG_X, 2);
     EXPECT_EQ(project.read("PtrnFlag"), before);
 }
 
@@ -53,7 +53,7 @@ TEST_F(Maintenance, leaves_the_flags_of_the_next_code_alone)
     ASSERT_EQ(PtrnFlag[104], 1);
     // A disabled check box keeps its value, but its message is sent.
     tick();
-    clickLine(flagX, 4);
+    clickLine(FLAG_X, 4);
     EXPECT_EQ(PtrnFlag[104], 1);
     EXPECT_EQ(project.read("PtrnFlag")[104], 1);
 }
@@ -63,7 +63,7 @@ TEST_F(Maintenance, writes_an_entered_word)
     addCodes(1);
     open();
     tick();
-    enter(wordX, 4, 2, "2.7");
+    enter(WORD_X, 4, 2, "2.7");
     EXPECT_EQ(word(104), 2);
     EXPECT_EQ(value(104), 0.0F) << "only the word";
     tick();
@@ -75,7 +75,7 @@ TEST_F(Maintenance, writes_an_entered_number)
     addCodes(1);
     open();
     tick();
-    enter(valueX, 9, 3, "12.5");
+    enter(VALUE_X, 9, 3, "12.5");
     EXPECT_EQ(value(109), 12.5F);
     EXPECT_EQ(word(109), 0);
     tick();
@@ -88,7 +88,7 @@ TEST_F(Maintenance, writes_an_entered_text)
     open();
     tick();
     screen().SetDispData2(10);
-    enter(textX, 1, 0, "abc");
+    enter(TEXT_X, 1, 0, "abc");
     EXPECT_EQ(text(111), "abc");
     tick();
     EXPECT_EQ(text(71), "abc");
@@ -100,7 +100,7 @@ TEST_F(Maintenance, edits_the_text_of_the_cell_even_before_it_is_drawn)
     open();
     Set_sData(111, "abc", nullptr, 0);
     screen().SetDispData2(10); // and no tick between this and the click
-    enter(textX, 1, 0, "x");
+    enter(TEXT_X, 1, 0, "x");
     EXPECT_EQ(text(111), "xabc");
 }
 
@@ -111,7 +111,7 @@ TEST_F(Maintenance, records_an_edit_of_a_logged_number)
     open();
     tick();
     project.clearLog();
-    enter(wordX, 4, 2, "9");
+    enter(WORD_X, 4, 2, "9");
     EXPECT_THAT(project.messages(), Contains("WRITE  [CODE01+4] 0x0009"));
 }
 
@@ -120,10 +120,10 @@ TEST_F(Maintenance, shows_what_is_typed_while_the_value_changes)
     addCodes(1);
     open();
     tick();
-    clickLine(valueX, 4);
+    clickLine(VALUE_X, 4);
     type("5");
     tick(); // the cursor appears
-    const auto field = [] { return bufferPicture(SystmWnd, valueX, top + 4 * spacing, 80, 16); };
+    const auto field = [] { return bufferPicture(SystmWnd, VALUE_X, TOP + 4 * SPACING, 80, 16); };
     const Picture typed = field();
     Set_fData(104, 77.5F, nullptr, 0);
     tick(2);
@@ -141,7 +141,7 @@ TEST_F(Maintenance, writes_nothing_at_any_other_key)
     open();
     tick();
     for (const unsigned long symbol : {XK_Escape, XK_Tab}) {
-        clickLine(valueX, 0);
+        clickLine(VALUE_X, 0);
         type("5");
         key(symbol);
         EXPECT_EQ(screen().KeyInputMode, 0);
@@ -172,7 +172,7 @@ TEST_F(Maintenance, refuses_entry_in_a_line_without_data_number)
     addCodes(1);
     open();
     tick();
-    clickLine(wordX, 4);
+    clickLine(WORD_X, 4);
     EXPECT_EQ(screen().KeyInputMode, 0);
 
     PTRNDATA item{};

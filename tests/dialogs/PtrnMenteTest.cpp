@@ -28,15 +28,15 @@ TEST_F(Maintenance, shows_offset_flag_word_number_and_text_of_ten_data_numbers)
     Set_fData(101, -2.5F, nullptr, 0);
     Set_sData(101, "運転中", nullptr, 0);
     tick();
-    for (int i = 0; i < lines; i++)
+    for (int i = 0; i < LINES; i++)
         EXPECT_EQ(number(30 + i), i);
     EXPECT_EQ(number(41), 5) << "the whole byte of the flag";
     EXPECT_EQ(number(51), 0x1234);
     EXPECT_EQ(value(61), -2.5F);
     EXPECT_EQ(text(71), "運転中");
     EXPECT_EQ(number(40), 0);
-    EXPECT_EQ(usableLines(), lines);
-    for (const int x : {offsetX, flagX, wordX, textX})
+    EXPECT_EQ(usableLines(), LINES);
+    for (const int x : {OFFSET_X, FLAG_X, WORD_X, TEXT_X})
         EXPECT_TRUE(hasInk(x, 1)) << x;
     EXPECT_EQ(number(80), 0);
     EXPECT_EQ(number(81), 0);
@@ -79,7 +79,7 @@ TEST_F(Maintenance, selects_the_code_of_the_clicked_line)
 {
     addCodes(12);
     open();
-    clickLine(codeX, 3);
+    clickLine(CODE_X, 3);
     EXPECT_EQ(SlctCode, 4);
     EXPECT_THAT(selected(), ElementsAre(3));
     Set_iData(first(4) + 2, 42, nullptr, 0);
@@ -92,7 +92,7 @@ TEST_F(Maintenance, selects_relative_to_the_first_line_shown)
     addCodes(12);
     open();
     screen().SetDispData1(2);
-    clickLine(codeX, 3);
+    clickLine(CODE_X, 3);
     EXPECT_EQ(SlctCode, 6);
 }
 
@@ -113,7 +113,7 @@ TEST_F(Maintenance, changes_nothing_when_the_line_is_beyond_the_table)
     screen().PtrnMesgFunc(23);
     EXPECT_EQ(SlctCode, 1);
     LineNo1 = 0;
-    clickLine(codeX, 9);
+    clickLine(CODE_X, 9);
     EXPECT_EQ(SlctCode, 1);
 }
 
@@ -134,7 +134,7 @@ TEST_F(Maintenance, pages_the_list_of_codes_with_its_scroll_bar)
 {
     addCodes(25);
     open();
-    clickInWindow(codeBarX + barWidth / 2, bottom - 8); // the lower arrow
+    clickInWindow(CODE_BAR_X + BAR_WIDTH / 2, BOTTOM - 8); // the lower arrow
     EXPECT_EQ(number(80), 1);
     EXPECT_EQ(LineNo1, 1);
     EXPECT_EQ(codes().front(), "CODE02");
@@ -143,7 +143,7 @@ TEST_F(Maintenance, pages_the_list_of_codes_with_its_scroll_bar)
 
     screen().PtrnMesgFunc(20);
     EXPECT_EQ(SlctCode, 2);
-    clickInWindow(codeBarX + barWidth / 2, top + 8);
+    clickInWindow(CODE_BAR_X + BAR_WIDTH / 2, TOP + 8);
     EXPECT_EQ(LineNo1, 0);
     EXPECT_THAT(selected(), ElementsAre(1));
 }
@@ -162,14 +162,14 @@ TEST_F(Maintenance, pages_the_list_of_data_numbers_with_its_scroll_bar)
 {
     addCodes(2);
     open();
-    clickInWindow(dataBarX + barWidth / 2, bottom - 8);
+    clickInWindow(DATA_BAR_X + BAR_WIDTH / 2, BOTTOM - 8);
     EXPECT_EQ(LineNo2, 1);
     EXPECT_EQ(number(30), 1);
     EXPECT_EQ(number(39), 10);
     Set_iData(81, 20, nullptr, 0);
     screen().PtrnMesgFunc(81);
     EXPECT_EQ(number(39), 29);
-    EXPECT_EQ(usableLines(), lines);
+    EXPECT_EQ(usableLines(), LINES);
     tick(3);
     EXPECT_EQ(number(39), 29) << "the tick keeps the place";
     EXPECT_EQ(number(81), 20);
@@ -185,9 +185,9 @@ TEST_F(Maintenance, disables_the_lines_beyond_the_code)
     EXPECT_EQ(number(34), 0);
     EXPECT_TRUE(word(81) & STATE_HIDDEN) << "nothing to scroll";
 
-    clickLine(codeX, 1);
+    clickLine(CODE_X, 1);
     tick();
-    EXPECT_EQ(usableLines(), lines);
+    EXPECT_EQ(usableLines(), LINES);
     EXPECT_FALSE(word(81) & STATE_HIDDEN);
 }
 
@@ -201,19 +201,19 @@ TEST_F(Maintenance, leaves_no_remains_of_longer_texts_in_the_lines_it_disables)
         PtrnFlag[no] = 1;
     }
     tick();
-    for (const int x : {offsetX + 20, flagX, wordX, valueX + 30, textX})
+    for (const int x : {OFFSET_X + 20, FLAG_X, WORD_X, VALUE_X + 30, TEXT_X})
         EXPECT_TRUE(hasInk(x, 9)) << x;
-    clickLine(codeX, 1);
+    clickLine(CODE_X, 1);
     tick();
-    for (const int x : {offsetX, flagX, wordX, valueX, valueX + 30, textX, textX + 40, textX + 80})
-        for (int line = 2; line < lines; line++)
+    for (const int x : {OFFSET_X, FLAG_X, WORD_X, VALUE_X, VALUE_X + 30, TEXT_X, TEXT_X + 40, TEXT_X + 80})
+        for (int line = 2; line < LINES; line++)
             EXPECT_FALSE(hasInk(x, line)) << x << ", line " << line;
-    EXPECT_TRUE(hasInk(wordX, 1));
-    EXPECT_EQ(pixel(SystmWnd, textX + 40, top + 5 * spacing + 8), color(TEXT_BACK4));
+    EXPECT_TRUE(hasInk(WORD_X, 1));
+    EXPECT_EQ(pixel(SystmWnd, TEXT_X + 40, TOP + 5 * SPACING + 8), color(TEXT_BACK4));
 
-    clickLine(codeX, 0);
+    clickLine(CODE_X, 0);
     tick();
-    for (const int x : {offsetX + 20, flagX, wordX, valueX + 30, textX})
+    for (const int x : {OFFSET_X + 20, FLAG_X, WORD_X, VALUE_X + 30, TEXT_X})
         EXPECT_TRUE(hasInk(x, 9)) << x << ": all are back";
 }
 
@@ -252,7 +252,7 @@ TEST_F(Maintenance, starts_at_the_top_when_the_remembered_place_is_none_of_the_c
         PtrnCode[2].DispNo = place;
         screen().SlctDispData(2);
         EXPECT_EQ(LineNo2, 0) << place;
-        EXPECT_EQ(usableLines(), lines);
+        EXPECT_EQ(usableLines(), LINES);
         screen().SlctDispData(1);
     }
 }
@@ -286,8 +286,8 @@ TEST_F(Maintenance, shows_empty_lists_when_the_table_has_row_0_alone)
     EXPECT_TRUE(word(80) & STATE_HIDDEN);
     EXPECT_TRUE(word(81) & STATE_HIDDEN);
     tick(2);
-    for (const int x : {codeX, offsetX, flagX, wordX, valueX, textX})
-        for (int line = 0; line < lines; line++)
+    for (const int x : {CODE_X, OFFSET_X, FLAG_X, WORD_X, VALUE_X, TEXT_X})
+        for (int line = 0; line < LINES; line++)
             EXPECT_FALSE(hasInk(x, line)) << x << ", line " << line;
 }
 
@@ -337,7 +337,7 @@ TEST_F(Maintenance, keeps_a_selection_only_while_the_table_has_it)
     LineNo2 = 3;
     open();
     EXPECT_EQ(SlctCode, 1);
-    EXPECT_EQ(usableLines(), lines);
+    EXPECT_EQ(usableLines(), LINES);
 }
 
 TEST_F(Maintenance, shows_a_code_that_fills_its_field)

@@ -46,34 +46,34 @@ void expectDeath(const char* signature, const std::vector<Violation>& violations
     }
 }
 
-const char* const colr = "(colr >= 0) && (colr < CONT_COLR)";
-const char* const font = "(font >= 0) && (font < CONT_FONT)";
-const char* const colr1 = "(colr1 >= 0) && (colr1 < CONT_COLR)";
-const char* const colr2optional = "(colr2 >= -1) && (colr2 < CONT_COLR)";
-const char* const xOrder = "xpos1 <= xpos2";
-const char* const yOrder = "ypos1 <= ypos2";
+const char* const COLR = "(colr >= 0) && (colr < CONT_COLR)";
+const char* const FONT = "(font >= 0) && (font < CONT_FONT)";
+const char* const COLR1 = "(colr1 >= 0) && (colr1 < CONT_COLR)";
+const char* const COLR2_OPTIONAL = "(colr2 >= -1) && (colr2 < CONT_COLR)";
+const char* const X_ORDER = "xpos1 <= xpos2";
+const char* const Y_ORDER = "ypos1 <= ypos2";
 
 TEST(DrawContract, of_ClearScreen)
 {
     expectDeath("void CDraw::ClearScreen(int)", {
-                                                    {[](CDraw& d) { d.ClearScreen(-1); }, colr},
-                                                    {[](CDraw& d) { d.ClearScreen(100); }, colr},
+                                                    {[](CDraw& d) { d.ClearScreen(-1); }, COLR},
+                                                    {[](CDraw& d) { d.ClearScreen(100); }, COLR},
                                                 });
     expectDeath("void CDraw::ClearScreen(RECT, int)",
                 {
-                    {[](CDraw& d) { d.ClearScreen(RECT{}, -1); }, colr},
-                    {[](CDraw& d) { d.ClearScreen(RECT{}, 100); }, colr},
+                    {[](CDraw& d) { d.ClearScreen(RECT{}, -1); }, COLR},
+                    {[](CDraw& d) { d.ClearScreen(RECT{}, 100); }, COLR},
                 });
     expectDeath("void CDraw::ClearScreen(int, int, int, int, int)",
                 {
-                    {[](CDraw& d) { d.ClearScreen(0, 0, 9, 9, -1); }, colr},
-                    {[](CDraw& d) { d.ClearScreen(0, 0, 9, 9, 100); }, colr},
-                    {[](CDraw& d) { d.ClearScreen(10, 0, 9, 9, 0); }, xOrder},
-                    {[](CDraw& d) { d.ClearScreen(0, 10, 9, 9, 0); }, yOrder},
+                    {[](CDraw& d) { d.ClearScreen(0, 0, 9, 9, -1); }, COLR},
+                    {[](CDraw& d) { d.ClearScreen(0, 0, 9, 9, 100); }, COLR},
+                    {[](CDraw& d) { d.ClearScreen(10, 0, 9, 9, 0); }, X_ORDER},
+                    {[](CDraw& d) { d.ClearScreen(0, 10, 9, 9, 0); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.ClearScreen(RECT{9, 0, 8, 0, 0, 0}, 0);
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
@@ -81,17 +81,17 @@ TEST(DrawContract, of_DrawText)
 {
     expectDeath("void CDraw::DrawText(int, int, int, int, int, const char*)",
                 {
-                    {[](CDraw& d) { d.DrawText(0, 0, -1, 0, 0, "A"); }, font},
-                    {[](CDraw& d) { d.DrawText(0, 0, 20, 0, 0, "A"); }, font},
-                    {[](CDraw& d) { d.DrawText(0, 0, 0, -1, 0, "A"); }, colr1},
-                    {[](CDraw& d) { d.DrawText(0, 0, 0, 100, 0, "A"); }, colr1},
-                    {[](CDraw& d) { d.DrawText(0, 0, 0, 0, -2, "A"); }, colr2optional},
-                    {[](CDraw& d) { d.DrawText(0, 0, 0, 0, 100, "A"); }, colr2optional},
+                    {[](CDraw& d) { d.DrawText(0, 0, -1, 0, 0, "A"); }, FONT},
+                    {[](CDraw& d) { d.DrawText(0, 0, 20, 0, 0, "A"); }, FONT},
+                    {[](CDraw& d) { d.DrawText(0, 0, 0, -1, 0, "A"); }, COLR1},
+                    {[](CDraw& d) { d.DrawText(0, 0, 0, 100, 0, "A"); }, COLR1},
+                    {[](CDraw& d) { d.DrawText(0, 0, 0, 0, -2, "A"); }, COLR2_OPTIONAL},
+                    {[](CDraw& d) { d.DrawText(0, 0, 0, 0, 100, "A"); }, COLR2_OPTIONAL},
                     {[](CDraw& d) {
                          d.DrawText(POINT{0, 0}, 20, 0, 0, "A");
                      },
-                     font},
-                    {[](CDraw& d) { d.DrawText(0, 0, 20, 0, 0, ""); }, font},
+                     FONT},
+                    {[](CDraw& d) { d.DrawText(0, 0, 20, 0, 0, ""); }, FONT},
                 });
 }
 
@@ -99,13 +99,13 @@ TEST(DrawContract, of_ClearText)
 {
     expectDeath("void CDraw::ClearText(int, int, int, int, const char*)",
                 {
-                    {[](CDraw& d) { d.ClearText(0, 0, -1, 0, "A"); }, font},
-                    {[](CDraw& d) { d.ClearText(0, 0, 20, 0, "A"); }, font},
-                    {[](CDraw& d) { d.ClearText(0, 0, 0, -1, "A"); }, colr},
+                    {[](CDraw& d) { d.ClearText(0, 0, -1, 0, "A"); }, FONT},
+                    {[](CDraw& d) { d.ClearText(0, 0, 20, 0, "A"); }, FONT},
+                    {[](CDraw& d) { d.ClearText(0, 0, 0, -1, "A"); }, COLR},
                     {[](CDraw& d) {
                          d.ClearText(POINT{0, 0}, 0, 100, "A");
                      },
-                     colr},
+                     COLR},
                 });
 }
 
@@ -119,8 +119,8 @@ TEST(DrawContract, of_DrawLine)
                     {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 3, 1, 0, 0); }, type},
                     {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 0, 0, 0); }, wide},
                     {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 99, 0, 0); }, wide},
-                    {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 1, 0, -1); }, colr},
-                    {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 1, 0, 100); }, colr},
+                    {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 1, 0, -1); }, COLR},
+                    {[](CDraw& d) { d.DrawLine(0, 0, 9, 9, 0, 1, 0, 100); }, COLR},
                     {[](CDraw& d) { d.DrawLine(RECT{}, 3, 1, 0, 0); }, type},
                 });
 }
@@ -132,16 +132,16 @@ TEST(DrawContract, of_DrawRect)
                 {
                     {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, -1, 0, 0, 0); }, wide},
                     {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 99, 0, 0, 0); }, wide},
-                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, -1, 0); }, colr1},
-                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 100, 0); }, colr1},
-                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 0, -2); }, colr2optional},
-                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 0, 100); }, colr2optional},
-                    {[](CDraw& d) { d.DrawRect(10, 0, 9, 9, 0, 0, 0, 0); }, xOrder},
-                    {[](CDraw& d) { d.DrawRect(0, 10, 9, 9, 0, 0, 0, 0); }, yOrder},
+                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, -1, 0); }, COLR1},
+                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 100, 0); }, COLR1},
+                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 0, -2); }, COLR2_OPTIONAL},
+                    {[](CDraw& d) { d.DrawRect(0, 0, 9, 9, 0, 0, 0, 100); }, COLR2_OPTIONAL},
+                    {[](CDraw& d) { d.DrawRect(10, 0, 9, 9, 0, 0, 0, 0); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawRect(0, 10, 9, 9, 0, 0, 0, 0); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawRect(RECT{9, 0, 0, 0, 0, 0}, 0, 0, 0, 0);
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
@@ -152,25 +152,25 @@ TEST(DrawContract, of_DrawCrcl)
                 {
                     {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, -1, 0, 0, 0); }, wide},
                     {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 99, 0, 0, 0); }, wide},
-                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, -1, 0); }, colr1},
-                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 100, 0); }, colr1},
-                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 0, -2); }, colr2optional},
-                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 0, 100); }, colr2optional},
-                    {[](CDraw& d) { d.DrawCrcl(10, 0, 9, 9, 0, 0, 0, 0); }, xOrder},
-                    {[](CDraw& d) { d.DrawCrcl(0, 10, 9, 9, 0, 0, 0, 0); }, yOrder},
+                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, -1, 0); }, COLR1},
+                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 100, 0); }, COLR1},
+                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 0, -2); }, COLR2_OPTIONAL},
+                    {[](CDraw& d) { d.DrawCrcl(0, 0, 9, 9, 0, 0, 0, 100); }, COLR2_OPTIONAL},
+                    {[](CDraw& d) { d.DrawCrcl(10, 0, 9, 9, 0, 0, 0, 0); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawCrcl(0, 10, 9, 9, 0, 0, 0, 0); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawCrcl(RECT{9, 0, 0, 0, 0, 0}, 0, 0, 0, 0);
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
 TEST(DrawContract, of_DrawGbox)
 {
     std::vector<Violation> violations;
-    static const char* const widths[] = {"(wide1 >= 0) && (wide1 < 99 )", "(wide2 >= 0) && (wide2 < 99 )",
+    static const char* const WIDTHS[] = {"(wide1 >= 0) && (wide1 < 99 )", "(wide2 >= 0) && (wide2 < 99 )",
                                          "(wide3 >= 0) && (wide3 < 99 )", "(wide4 >= 0) && (wide4 < 99 )"};
-    static const char* const colours[] = {
+    static const char* const COLOURS[] = {
         "(colr1 >= 0) && (colr1 < CONT_COLR)", "(colr2 >= 0) && (colr2 < CONT_COLR)",
         "(colr3 >= 0) && (colr3 < CONT_COLR)", "(colr4 >= 0) && (colr4 < CONT_COLR)",
         "(colr5 >= 0) && (colr5 < CONT_COLR)"};
@@ -184,7 +184,7 @@ TEST(DrawContract, of_DrawGbox)
                                       w[i] = bad;
                                       gbox(d, w, {});
                                   },
-                                  widths[i]});
+                                  WIDTHS[i]});
     for (const int bad : {-1, 100})
         for (int i = 0; i < 5; i++)
             violations.push_back({[=](CDraw& d) {
@@ -192,13 +192,13 @@ TEST(DrawContract, of_DrawGbox)
                                       c[i] = bad;
                                       gbox(d, {}, c);
                                   },
-                                  colours[i]});
-    violations.push_back({[](CDraw& d) { d.DrawGbox(10, 0, 9, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0); }, xOrder});
-    violations.push_back({[](CDraw& d) { d.DrawGbox(0, 10, 9, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0); }, yOrder});
+                                  COLOURS[i]});
+    violations.push_back({[](CDraw& d) { d.DrawGbox(10, 0, 9, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0); }, X_ORDER});
+    violations.push_back({[](CDraw& d) { d.DrawGbox(0, 10, 9, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0); }, Y_ORDER});
     violations.push_back({[](CDraw& d) {
                               d.DrawGbox(RECT{9, 0, 0, 0, 0, 0}, 0, 0, 0, 0, 0, 0, 0, 0, 0);
                           },
-                          xOrder});
+                          X_ORDER});
     expectDeath("void CDraw::DrawGbox(int, int, int, int, int, int, int, int, int, int, int, int, int)",
                 violations);
 }
@@ -208,12 +208,12 @@ TEST(DrawContract, of_DrawButn)
     const char* const wide = "(wide >= 0) && (wide < 99)";
     expectDeath("void CDraw::DrawButn(int, int, int, int, int, int, int, int, int, int, int, const char*)",
                 {
-                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 0, 0, 0, -1, -1, "A"); }, font},
-                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 0, 0, 0, -1, 20, "A"); }, font},
+                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 0, 0, 0, -1, -1, "A"); }, FONT},
+                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 0, 0, 0, -1, 20, "A"); }, FONT},
                     {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, -1, 0, 0, 0, 0, -1, 0, "A"); }, wide},
                     {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 99, 0, 0, 0, 0, -1, 0, "A"); }, wide},
-                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, -1, 0, 0, 0, -1, 0, "A"); }, colr1},
-                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 100, 0, 0, 0, -1, 0, "A"); }, colr1},
+                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, -1, 0, 0, 0, -1, 0, "A"); }, COLR1},
+                    {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 100, 0, 0, 0, -1, 0, "A"); }, COLR1},
                     {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, -1, 0, 0, -1, 0, "A"); },
                      "(colr2 >= 0) && (colr2 < CONT_COLR)"},
                     {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 100, 0, 0, -1, 0, "A"); },
@@ -226,12 +226,12 @@ TEST(DrawContract, of_DrawButn)
                      "(colr4 >= 0) && (colr4 < CONT_COLR)"},
                     {[](CDraw& d) { d.DrawButn(0, 0, 9, 9, 0, 0, 0, 0, 100, -1, 0, "A"); },
                      "(colr4 >= 0) && (colr4 < CONT_COLR)"},
-                    {[](CDraw& d) { d.DrawButn(10, 0, 9, 9, 0, 0, 0, 0, 0, -1, 0, "A"); }, xOrder},
-                    {[](CDraw& d) { d.DrawButn(0, 10, 9, 9, 0, 0, 0, 0, 0, -1, 0, "A"); }, yOrder},
+                    {[](CDraw& d) { d.DrawButn(10, 0, 9, 9, 0, 0, 0, 0, 0, -1, 0, "A"); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawButn(0, 10, 9, 9, 0, 0, 0, 0, 0, -1, 0, "A"); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawButn(RECT{9, 0, 0, 0, 0, 0}, 0, 0, 0, 0, 0, -1, 0, "A");
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
@@ -248,12 +248,12 @@ TEST(DrawContract, of_DrawMark)
                     {[](CDraw& d) { d.DrawMark(0, 0, 9, 9, 0, 100, 0); }, back},
                     {[](CDraw& d) { d.DrawMark(0, 0, 9, 9, 0, 0, -1); }, mark},
                     {[](CDraw& d) { d.DrawMark(0, 0, 9, 9, 0, 0, 354); }, mark},
-                    {[](CDraw& d) { d.DrawMark(10, 0, 9, 9, 0, 0, 0); }, xOrder},
-                    {[](CDraw& d) { d.DrawMark(0, 10, 9, 9, 0, 0, 0); }, yOrder},
+                    {[](CDraw& d) { d.DrawMark(10, 0, 9, 9, 0, 0, 0); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawMark(0, 10, 9, 9, 0, 0, 0); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawMark(RECT{9, 0, 0, 0, 0, 0}, 0, 0, 0);
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
@@ -264,21 +264,21 @@ TEST(DrawContract, of_DrawBmap_and_DrawXpm)
                 {
                     {[](CDraw& d) { d.DrawBmap(0, 0, 9, 9, -2, "A"); }, key},
                     {[](CDraw& d) { d.DrawBmap(0, 0, 9, 9, 100, "A"); }, key},
-                    {[](CDraw& d) { d.DrawBmap(10, 0, 9, 9, 0, "A"); }, xOrder},
-                    {[](CDraw& d) { d.DrawBmap(0, 10, 9, 9, 0, "A"); }, yOrder},
+                    {[](CDraw& d) { d.DrawBmap(10, 0, 9, 9, 0, "A"); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawBmap(0, 10, 9, 9, 0, "A"); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawBmap(RECT{9, 0, 0, 0, 0, 0}, 0, "A");
                      },
-                     xOrder},
+                     X_ORDER},
                 });
     expectDeath("void CDraw::DrawXpm(int, int, int, int, const char* const*)",
                 {
-                    {[](CDraw& d) { d.DrawXpm(10, 0, 9, 9, nullptr); }, xOrder},
-                    {[](CDraw& d) { d.DrawXpm(0, 10, 9, 9, nullptr); }, yOrder},
+                    {[](CDraw& d) { d.DrawXpm(10, 0, 9, 9, nullptr); }, X_ORDER},
+                    {[](CDraw& d) { d.DrawXpm(0, 10, 9, 9, nullptr); }, Y_ORDER},
                     {[](CDraw& d) {
                          d.DrawXpm(RECT{9, 0, 0, 0, 0, 0}, nullptr);
                      },
-                     xOrder},
+                     X_ORDER},
                 });
 }
 
@@ -288,9 +288,9 @@ TEST(DrawContract, checks_in_the_order_of_the_conditions)
         "void CDraw::DrawRect(int, int, int, int, int, int, int, int)",
         {
             {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 99, 0, 100, 100); }, "(wide >= 0) && (wide < 99 )"},
-            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 100, 100); }, colr1},
-            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 99, 100); }, colr2optional},
-            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 99, 99); }, xOrder},
+            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 100, 100); }, COLR1},
+            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 99, 100); }, COLR2_OPTIONAL},
+            {[](CDraw& d) { d.DrawRect(10, 10, 9, 9, 98, 0, 99, 99); }, X_ORDER},
         });
 }
 

@@ -31,7 +31,7 @@ Picture filledEllipse(const Picture& drawn, const RECT& box, std::uint32_t rgb)
             if (inEllipse(x, y, box, -1.0))
                 expected.set(x, y, rgb);
             else if (!inEllipse(x, y, box, 1.0))
-                expected.set(x, y, Canvas::ground);
+                expected.set(x, y, Canvas::GROUND);
         }
     }
     return expected;
@@ -41,7 +41,7 @@ TEST_F(DrawCrcl, fills_the_ellipse_in_its_box)
 {
     canvas->DrawCrcl(6, 5, 36, 25, 0, CENTRED, 5, 8);
     EXPECT_TRUE(same(canvas.picture(), filledEllipse(canvas.picture(), {6, 5, 36, 25, 0, 0}, color(8))));
-    EXPECT_EQ(canvas.picture().bounds(Canvas::ground), "6,5-35,24");
+    EXPECT_EQ(canvas.picture().bounds(Canvas::GROUND), "6,5-35,24");
     EXPECT_EQ(canvas.picture().count(color(5)), 0);
 }
 
@@ -49,12 +49,12 @@ TEST_F(DrawCrcl, outlines_through_both_corners_of_its_box)
 {
     canvas->DrawCrcl(6, 5, 36, 25, 1, INSIDE, 5, NONE);
     const Picture drawn = canvas.picture();
-    EXPECT_EQ(drawn.bounds(Canvas::ground), "6,5-36,25");
+    EXPECT_EQ(drawn.bounds(Canvas::GROUND), "6,5-36,25");
     EXPECT_EQ(drawn.at(6, 15), color(5));
     EXPECT_EQ(drawn.at(36, 15), color(5));
     EXPECT_EQ(drawn.at(21, 5), color(5));
     EXPECT_EQ(drawn.at(21, 25), color(5));
-    EXPECT_EQ(drawn.at(21, 15), Canvas::ground);
+    EXPECT_EQ(drawn.at(21, 15), Canvas::GROUND);
 }
 
 TEST_F(DrawCrcl, puts_its_outlines_where_a_rectangle_puts_them)
@@ -107,7 +107,7 @@ TEST_F(DrawCrcl, takes_a_rectangle_and_a_single_one_in_any_order)
     EXPECT_TRUE(same(canvas.picture(), filled));
     canvas.clear();
     canvas->DrawCrcl1(0, 36, 25, 6, 5);
-    EXPECT_EQ(canvas.picture().bounds(Canvas::ground), "6,5-36,25");
+    EXPECT_EQ(canvas.picture().bounds(Canvas::GROUND), "6,5-36,25");
 }
 
 TEST_F(DrawCrcl, far_beyond_the_display_is_drawn_without_harm)

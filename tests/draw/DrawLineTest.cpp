@@ -176,7 +176,7 @@ TEST_F(DrawLine, leaves_no_dashes_to_what_is_drawn_next)
 TEST_F(DrawLine, without_length_draws_no_more_than_its_parts_side_by_side)
 {
     canvas->DrawLine(10, 10, 10, 10, SOLID, 3, CENTRED, 5);
-    EXPECT_TRUE(same(canvas.picture().fill(9, 10, 12, 11, Canvas::ground), canvas.blank()));
+    EXPECT_TRUE(same(canvas.picture().fill(9, 10, 12, 11, Canvas::GROUND), canvas.blank()));
 }
 
 TEST_F(DrawLine, takes_its_ends_in_either_order)
@@ -212,7 +212,7 @@ TEST_F(DrawLine, far_beyond_the_display_keeps_its_slope)
     const Picture drawn = canvas.picture();
     for (int y = 0; y < 30; y++)
         for (int x = 0; x < 40; x++)
-            ASSERT_EQ(drawn.at(x, y), x == y ? color(3) : Canvas::ground) << x << ' ' << y;
+            ASSERT_EQ(drawn.at(x, y), x == y ? color(3) : Canvas::GROUND) << x << ' ' << y;
 }
 
 TEST_F(DrawLine, takes_a_rectangle_without_its_width_and_height)

@@ -69,7 +69,7 @@ TEST_F(DrawRect, without_height_or_width_is_outlined_as_a_line)
     // Whether such an outline has its last pixel is the display's affair.
     canvas->DrawRect(10, 10, 20, 10, 1, INSIDE, 5, NONE);
     canvas->DrawRect(30, 10, 30, 20, 1, INSIDE, 6, NONE);
-    const Picture drawn = canvas.picture().set(20, 10, Canvas::ground).set(30, 20, Canvas::ground);
+    const Picture drawn = canvas.picture().set(20, 10, Canvas::GROUND).set(30, 20, Canvas::GROUND);
     EXPECT_TRUE(same(drawn, canvas.blank().row(10, 20, 10, color(5)).column(30, 10, 20, color(6))));
 }
 

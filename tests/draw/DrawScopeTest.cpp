@@ -18,8 +18,8 @@ using testing::IsEmpty;
 namespace
 {
 
-constexpr int width = 100;
-constexpr int height = 80;
+constexpr int WIDTH = 100;
+constexpr int HEIGHT = 80;
 constexpr int NONE = -1;
 
 struct Primitive {
@@ -30,7 +30,7 @@ struct Primitive {
 /// Every primitive, each somewhere in the middle.
 const std::vector<Primitive>& primitives()
 {
-    static const std::vector<Primitive> all = {
+    static const std::vector<Primitive> ALL = {
         {"ClearScreen", [](CDraw* d) { d->ClearScreen(20, 20, 60, 50, 5); }},
         {"DrawText", [](CDraw* d) { d->DrawText(20, 20, 0, 4, 8, "Tank"); }},
         {"DrawText without back", [](CDraw* d) { d->DrawText(20, 20, 0, 4, NONE, "gyjQ"); }},
@@ -56,13 +56,13 @@ const std::vector<Primitive>& primitives()
         {"DrawRect1", [](CDraw* d) { d->DrawRect1(0, 60, 50, 20, 20); }},
         {"DrawCrcl1", [](CDraw* d) { d->DrawCrcl1(1, 60, 50, 20, 20); }},
     };
-    return all;
+    return ALL;
 }
 
 class Scopes : public testing::Test
 {
   protected:
-    Scopes() : canvas(width, height)
+    Scopes() : canvas(WIDTH, HEIGHT)
     {
         usePalette();
         useFont(0, 16);
@@ -83,9 +83,9 @@ class Scopes : public testing::Test
     static Box boundsOf(const Picture& picture)
     {
         Box box;
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x)
-                if (picture.at(x, y) != Canvas::ground)
+        for (int y = 0; y < HEIGHT; ++y)
+            for (int x = 0; x < WIDTH; ++x)
+                if (picture.at(x, y) != Canvas::GROUND)
                     box = Around(box, {x, y, x + 1, y + 1});
         return box;
     }
@@ -120,7 +120,7 @@ TEST_F(Scopes, hold_every_primitive_to_their_area_and_change_nothing_within)
         const Picture all = whole(primitive);
         ASSERT_GT(boundsOf(all).pixels(), 0);
         for (const Box& area :
-             {Box{0, 0, width, height}, {25, 22, 41, 33}, {33, 35, 34, 36}, {21, 21, 59, 49}}) {
+             {Box{0, 0, WIDTH, HEIGHT}, {25, 22, 41, 33}, {33, 35, 34, 36}, {21, 21, 59, 49}}) {
             canvas.clear();
             {
                 const ClipScope clip(canvas->gc, area);

@@ -56,8 +56,8 @@ class DrawSoak : public testing::Test
     /// One of the primitives with any parameters that it takes, partly outside the drawable.
     static void drawAny(CDraw* draw, int which, Numbers& any)
     {
-        static const char* const texts[] = {"", "A", "Pump 3", "漢字かな交じり文", "ﾎﾟﾝﾌﾟ", "\xA4"};
-        static char** const images[] = {XPM_Printer, XPM_SpinButn, XPM_LeftArrow1, XPM_DownArrow2};
+        static const char* const TEXTS[] = {"", "A", "Pump 3", "漢字かな交じり文", "ﾎﾟﾝﾌﾟ", "\xA4"};
+        static char** const IMAGES[] = {XPM_Printer, XPM_SpinButn, XPM_LeftArrow1, XPM_DownArrow2};
         const int x1 = any.between(-40, W);
         const int y1 = any.between(-40, H);
         const int x2 = x1 + any.below(60);
@@ -66,7 +66,7 @@ class DrawSoak : public testing::Test
         const int fomt = any.below(3);
         const auto colr = [&] { return any.below(CONT_COLR); };
         const auto maybe = [&] { return any.between(-1, 1) * any.below(CONT_COLR) < 0 ? -1 : colr(); };
-        const char* const text = texts[any.below(6)];
+        const char* const text = TEXTS[any.below(6)];
         switch (which % 12) {
         case 0:
             return draw->ClearScreen(x1, y1, x2, y2, colr());
@@ -88,7 +88,7 @@ class DrawSoak : public testing::Test
         case 8:
             return draw->DrawMark(x1, y1, x2, y2, colr(), maybe(), any.below(CONT_MARK + 4));
         case 9:
-            return draw->DrawXpm(x1, y1, x2, y2, images[any.below(4)]);
+            return draw->DrawXpm(x1, y1, x2, y2, IMAGES[any.below(4)]);
         case 10:
             return draw->DrawRect(x1, y1, x2, y2, colr());
         default:

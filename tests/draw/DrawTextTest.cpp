@@ -49,7 +49,7 @@ class Text : public testing::Test
     /// `below` with that text on it.
     Picture with(Picture below, int font, int x, int y, const char* text, std::uint32_t rgb)
     {
-        return below.paste(0, 0, ink(font, x, y, text, rgb), Canvas::ground);
+        return below.paste(0, 0, ink(font, x, y, text, rgb), Canvas::GROUND);
     }
 
     Canvas canvas;
@@ -152,7 +152,7 @@ TEST_F(DrawText, of_broken_characters_does_no_harm)
     canvas->DrawText(20, 15, 0, 5, 8, "\xB4");
     canvas->DrawText(20, 15, 0, 5, 8, "A\xFF\xFE\x8E\x8F");
     canvas->DrawText(20, 15, 0, 5, 8, "\x01\x1B\x7F");
-    EXPECT_EQ(canvas.picture().at(0, 0), Canvas::ground);
+    EXPECT_EQ(canvas.picture().at(0, 0), Canvas::GROUND);
 }
 
 class GetTextSize : public Text
@@ -281,7 +281,7 @@ TEST_F(DrawButn, without_a_font_has_no_caption)
     canvas->DrawButn(10, 5, 90, 45, 2, 11, 12, 13, 14, NONE, 7, "OK");
     canvas->DrawButn(RECT{100, 5, 150, 45, 1, 1}, 2, 11, 12, 13, 14, NONE, 0, nullptr);
     Picture expected = box(10, 5, 90, 45, 2, 11, 12, 13);
-    expected.paste(0, 0, box(100, 5, 150, 45, 2, 11, 12, 13), Canvas::ground);
+    expected.paste(0, 0, box(100, 5, 150, 45, 2, 11, 12, 13), Canvas::GROUND);
     EXPECT_TRUE(same(canvas.picture(), expected));
 }
 
@@ -295,7 +295,7 @@ TEST_F(DrawButn, sets_a_background_that_no_later_text_shows)
 {
     canvas->DrawButn(100, 5, 150, 45, 2, 11, 12, 13, 14, NONE, 0, "OK");
     canvas->DrawText(10, 10, 0, 5, NONE, "ABC");
-    EXPECT_EQ(canvas.picture().at(9, 9), Canvas::ground);
+    EXPECT_EQ(canvas.picture().at(9, 9), Canvas::GROUND);
     const Ink size = measure(0, "ABC");
     const Picture text = with(canvas.blank(), 0, 10, 10 + (size.up + 16 - size.down) / 2, "ABC", color(5));
     const Picture drawn = canvas.picture();

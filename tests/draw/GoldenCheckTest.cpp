@@ -18,7 +18,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr std::uint32_t ground = 0x123456;
+constexpr std::uint32_t GROUND = 0x123456;
 
 class GoldenCheck : public testing::Test
 {
@@ -46,7 +46,7 @@ class GoldenCheck : public testing::Test
         return result.message();
     }
 
-    Picture drawn{6, 4, ground};
+    Picture drawn{6, 4, GROUND};
     Project project;
 };
 
@@ -75,7 +75,7 @@ TEST_F(GoldenCheck, keeps_all_colors_in_the_file)
 TEST_F(GoldenCheck, notices_the_smallest_difference_and_names_it)
 {
     keep(drawn);
-    drawn.set(3, 1, ground + 1).set(0, 3, 0xFF00FF);
+    drawn.set(3, 1, GROUND + 1).set(0, 3, 0xFF00FF);
     EXPECT_THAT(failure(drawn),
                 AllOf(HasSubstr("dot: 2 pixels differ"),
                       HasSubstr("first at (3, 1): drawn 123457, expected 123456"), HasSubstr(golden()),
@@ -101,7 +101,7 @@ TEST_F(GoldenCheck, leaves_what_was_drawn_and_the_difference)
 TEST_F(GoldenCheck, marks_what_only_one_of_two_sizes_has)
 {
     keep(drawn);
-    const Picture larger(8, 3, ground);
+    const Picture larger(8, 3, GROUND);
     EXPECT_THAT(failure(larger), HasSubstr("sizes differ: drawn 8 x 3, expected 6 x 4"));
     const auto difference = Picture::load(diff());
     ASSERT_TRUE(difference);

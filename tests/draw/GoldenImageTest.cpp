@@ -16,7 +16,7 @@ struct Image {
     int width; ///< height is 32
 };
 
-const Image images[] = {
+const Image IMAGES[] = {
     {XPM_Printer, 32},     {XPM_SpinButn, 16},    {XPM_LeftArrow1, 32}, {XPM_LeftArrow2, 32},
     {XPM_RightArrow1, 32}, {XPM_RightArrow2, 32}, {XPM_UpArrow1, 32},   {XPM_UpArrow2, 32},
     {XPM_DownArrow1, 32},  {XPM_DownArrow2, 32},
@@ -35,7 +35,7 @@ class GoldenImages : public testing::Test
     static void drawRow(Sheet& sheet, int y, int height)
     {
         int x = 6;
-        for (const Image& image : images) {
+        for (const Image& image : IMAGES) {
             const int width = image.width * height / 32;
             sheet->DrawXpm(x, y, x + width, y + height, image.lines);
             x += width + 6;

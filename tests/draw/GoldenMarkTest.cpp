@@ -13,7 +13,7 @@ namespace
 {
 
 /// Rows of a digit, the highest of three bits leftmost.
-constexpr std::array<std::array<int, 5>, 10> digits = {{
+constexpr std::array<std::array<int, 5>, 10> DIGITS = {{
     {7, 5, 5, 5, 7},
     {2, 6, 2, 2, 7},
     {7, 1, 7, 4, 7},
@@ -59,7 +59,7 @@ void putNumber(int mark)
     for (const int digit : {mark / 100, mark / 10 % 10, mark % 10}) {
         for (int row = 0; row < 5; row++)
             for (int column = 0; column < 3; column++)
-                if (digits[static_cast<std::size_t>(digit)][static_cast<std::size_t>(row)] & 4 >> column)
+                if (DIGITS[static_cast<std::size_t>(digit)][static_cast<std::size_t>(row)] & 4 >> column)
                     putSquare(mark, left + (place * 4 + column) * scale, top + row * scale, scale);
         place++;
     }

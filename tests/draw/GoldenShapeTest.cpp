@@ -15,7 +15,7 @@ constexpr int SOLID = 0;
 constexpr int CENTRED = 0;
 constexpr int INSIDE = 1;
 constexpr int OUTSIDE = 2;
-const int fomts[] = {CENTRED, INSIDE, OUTSIDE};
+const int FOMTS[] = {CENTRED, INSIDE, OUTSIDE};
 
 } // namespace
 
@@ -28,7 +28,7 @@ TEST_F(GoldenShapes, lines_of_all_types_places_and_widths)
     };
     int y = 14;
     for (int type = 0; type < 3; type++)
-        for (const int fomt : fomts) {
+        for (const int fomt : FOMTS) {
             int x = 14;
             for (const int wide : {1, 2, 3, 5, 8}) {
                 sheet->DrawLine(x, y + 20, x + 60, y + 20, type, wide, fomt, NAVY);
@@ -73,7 +73,7 @@ TEST_F(GoldenShapes, rectangles_and_ellipses_of_all_places_and_widths)
 {
     Sheet sheet(640, 460);
     int y = 16;
-    for (const int fomt : fomts) {
+    for (const int fomt : FOMTS) {
         for (const bool filled : {false, true}) {
             int x = 16;
             for (const int wide : {0, 1, 2, 3, 6}) {

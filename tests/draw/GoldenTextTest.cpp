@@ -5,7 +5,7 @@
 namespace
 {
 
-const char* const lines[] = {
+const char* const LINES[] = {
     "ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789",
     "abcdefghijklmnopqrstuvwxyz .,:;!?",
     "+-*/=<>()[]{}|&@#$%^~_'`\"\\ 12:34",
@@ -34,9 +34,9 @@ TEST_P(GoldenText, is_crisp_and_whole)
 {
     const auto [font, height] = GetParam();
     const int step = height + 6;
-    Sheet sheet(21 * height + 16, static_cast<int>(std::size(lines)) * 2 * step + 10);
+    Sheet sheet(21 * height + 16, static_cast<int>(std::size(LINES)) * 2 * step + 10);
     int y = 8;
-    for (const char* const text : lines) {
+    for (const char* const text : LINES) {
         sheet->DrawText(8, y, font, BLACK, -1, text);
         sheet->DrawText(8, y + step, font, WHITE, NAVY, text);
         y += 2 * step;

@@ -15,13 +15,13 @@ namespace
 
 using Lines = std::vector<std::string>;
 
-const Lines ownColors{"  c #FFFFFF", ". c #C0C0C0", "X c #000000"};
+const Lines OWN_COLORS{"  c #FFFFFF", ". c #C0C0C0", "X c #000000"};
 
-char** const arrows[] = {XPM_LeftArrow1, XPM_LeftArrow2, XPM_RightArrow1, XPM_RightArrow2,
+char** const ARROWS[] = {XPM_LeftArrow1, XPM_LeftArrow2, XPM_RightArrow1, XPM_RightArrow2,
                          XPM_UpArrow1,   XPM_UpArrow2,   XPM_DownArrow1,  XPM_DownArrow2};
-char** const cursors[] = {XPM_Cursor1, XPM_Cursor2, XPM_Cursor3, XPM_Cursor4,
+char** const CURSORS[] = {XPM_Cursor1, XPM_Cursor2, XPM_Cursor3, XPM_Cursor4,
                           XPM_Cursor5, XPM_Cursor6, XPM_Cursor7, XPM_Cursor8};
-char** const marks[] = {XPM_Radio_OFF, XPM_Radio_ON, XPM_Check_OFF, XPM_Check_ON};
+char** const MARKS[] = {XPM_Radio_OFF, XPM_Radio_ON, XPM_Check_OFF, XPM_Check_ON};
 
 Lines rows(char** xpm)
 {
@@ -67,21 +67,21 @@ std::pair<int, int> findKey(char** xpm, char key)
 
 TEST(Images, of_buttons_have_their_size_and_three_colors)
 {
-    expectPicture(XPM_Printer, "32 32 3 1", ownColors, 32, 32);
-    expectPicture(XPM_SpinButn, "16 32 3 1", ownColors, 16, 32);
-    for (char** arrow : arrows)
-        expectPicture(arrow, "32 32 3 1", ownColors, 32, 32);
+    expectPicture(XPM_Printer, "32 32 3 1", OWN_COLORS, 32, 32);
+    expectPicture(XPM_SpinButn, "16 32 3 1", OWN_COLORS, 16, 32);
+    for (char** arrow : ARROWS)
+        expectPicture(arrow, "32 32 3 1", OWN_COLORS, 32, 32);
 }
 
 TEST(Images, of_cursors_are_transparent_outside_their_shape)
 {
-    for (char** cursor : cursors)
+    for (char** cursor : CURSORS)
         expectPicture(cursor, "32 32 3 1", {"  c None", ". c #FFFFFF", "X c #000000"}, 32, 32);
 }
 
 TEST(Images, of_marks_have_two_colors)
 {
-    for (char** mark : marks)
+    for (char** mark : MARKS)
         expectPicture(mark, "16 16 2 1", {". c #FFFFFF", "X c #000000"}, 16, 16);
 }
 
@@ -232,10 +232,10 @@ class ImageColors : public Resources
 TEST_F(ImageColors, are_their_own_without_the_keys)
 {
     DrawCntlInit();
-    EXPECT_EQ(texts(XPM_Printer, 1, 3), ownColors);
-    EXPECT_EQ(texts(XPM_SpinButn, 1, 3), ownColors);
-    for (char** arrow : arrows)
-        EXPECT_EQ(texts(arrow, 1, 3), ownColors);
+    EXPECT_EQ(texts(XPM_Printer, 1, 3), OWN_COLORS);
+    EXPECT_EQ(texts(XPM_SpinButn, 1, 3), OWN_COLORS);
+    for (char** arrow : ARROWS)
+        EXPECT_EQ(texts(arrow, 1, 3), OWN_COLORS);
 }
 
 TEST_F(ImageColors, of_the_printer_have_key_1_and_a_comma_for_the_second)
@@ -243,8 +243,8 @@ TEST_F(ImageColors, of_the_printer_have_key_1_and_a_comma_for_the_second)
     project.set("COLOR", "XPM_COLR1", "FF0000,00FF00,0000FF");
     DrawCntlInit();
     EXPECT_THAT(texts(XPM_Printer, 1, 3), ElementsAre("  c #FF0000", ", c #00FF00", "X c #0000FF"));
-    EXPECT_EQ(texts(XPM_SpinButn, 1, 3), ownColors);
-    EXPECT_EQ(texts(XPM_UpArrow1, 1, 3), ownColors);
+    EXPECT_EQ(texts(XPM_SpinButn, 1, 3), OWN_COLORS);
+    EXPECT_EQ(texts(XPM_UpArrow1, 1, 3), OWN_COLORS);
 }
 
 TEST_F(ImageColors, of_the_spin_button_have_key_2)
@@ -252,16 +252,16 @@ TEST_F(ImageColors, of_the_spin_button_have_key_2)
     project.set("COLOR", "XPM_COLR2", "010203,0A0B0C,abcdef");
     DrawCntlInit();
     EXPECT_THAT(texts(XPM_SpinButn, 1, 3), ElementsAre("  c #010203", ", c #0A0B0C", "X c #abcdef"));
-    EXPECT_EQ(texts(XPM_Printer, 1, 3), ownColors);
+    EXPECT_EQ(texts(XPM_Printer, 1, 3), OWN_COLORS);
 }
 
 TEST_F(ImageColors, of_the_arrows_have_key_3_except_for_page_down)
 {
     project.set("COLOR", "XPM_COLR3", "111111,222222,333333");
     DrawCntlInit();
-    for (char** arrow : arrows) {
+    for (char** arrow : ARROWS) {
         if (arrow == XPM_DownArrow2)
-            EXPECT_EQ(texts(arrow, 1, 3), ownColors);
+            EXPECT_EQ(texts(arrow, 1, 3), OWN_COLORS);
         else
             EXPECT_THAT(texts(arrow, 1, 3), ElementsAre("  c #111111", ", c #222222", "X c #333333"));
     }

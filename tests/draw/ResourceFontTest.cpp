@@ -12,8 +12,8 @@ using testing::IsEmpty;
 namespace
 {
 
-const char* const gothic14 = "-*-fixed-medium-r-normal--14-*-*-*-*-*-*-*";
-const char* const gothic16 = "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*";
+const char* const GOTHIC14 = "-*-fixed-medium-r-normal--14-*-*-*-*-*-*-*";
+const char* const GOTHIC16 = "-*-fixed-medium-r-normal--16-*-*-*-*-*-*-*";
 
 class Fonts : public Resources
 {
@@ -22,8 +22,8 @@ class Fonts : public Resources
 TEST_F(Fonts, of_the_first_language_are_numbered_from_0)
 {
     project.set("FONT", "LANGUAGE", "0")
-        .set("FONT", "FONTNAME0", gothic14)
-        .set("FONT", "FONTNAME19", gothic16);
+        .set("FONT", "FONTNAME0", GOTHIC14)
+        .set("FONT", "FONTNAME19", GOTHIC16);
     DrawCntlInit();
 
     EXPECT_EQ(Language, 0);
@@ -38,8 +38,8 @@ TEST_F(Fonts, of_the_first_language_are_numbered_from_0)
 TEST_F(Fonts, of_the_second_language_are_numbered_from_20)
 {
     project.set("FONT", "LANGUAGE", "1")
-        .set("FONT", "FONTNAME0", gothic14)
-        .set("FONT", "FONTNAME21", gothic16);
+        .set("FONT", "FONTNAME0", GOTHIC14)
+        .set("FONT", "FONTNAME21", GOTHIC16);
     DrawCntlInit();
 
     EXPECT_EQ(Language, 1);
@@ -51,7 +51,7 @@ TEST_F(Fonts, of_the_second_language_are_numbered_from_20)
 
 TEST_F(Fonts, without_a_name_stay_unused)
 {
-    project.set("FONT", "FONTNAME0", gothic14).set("FONT", "FONTNAME2", "");
+    project.set("FONT", "FONTNAME0", GOTHIC14).set("FONT", "FONTNAME2", "");
     DrawCntlInit();
 
     for (int no = 1; no < CONT_FONT; ++no) {
@@ -64,7 +64,7 @@ TEST_F(Fonts, without_a_name_stay_unused)
 
 TEST_F(Fonts, draw_two_byte_characters_twice_as_wide_as_single_ones)
 {
-    project.set("FONT", "FONTNAME0", gothic14);
+    project.set("FONT", "FONTNAME0", GOTHIC14);
     DrawCntlInit();
     ASSERT_NE(DrawFont[0], nullptr);
 
@@ -132,14 +132,14 @@ TEST_F(Fonts, advice_comes_once_for_all_fonts)
 
 TEST_F(Fonts, none_named_for_the_language_is_reported)
 {
-    project.set("FONT", "LANGUAGE", "2").set("FONT", "FONTNAME0", gothic14);
+    project.set("FONT", "LANGUAGE", "2").set("FONT", "FONTNAME0", GOTHIC14);
     DrawCntlInit();
     EXPECT_THAT(reports(), ElementsAre(AllOf(HasSubstr("FONTNAME40"), HasSubstr("FONTNAME59"))));
 }
 
 TEST_F(Fonts, of_a_huge_language_number_have_huge_key_numbers)
 {
-    project.set("FONT", "LANGUAGE", "2147483647").set("FONT", "FONTNAME42949672947", gothic14);
+    project.set("FONT", "LANGUAGE", "2147483647").set("FONT", "FONTNAME42949672947", GOTHIC14);
     DrawCntlInit();
 
     EXPECT_EQ(Language, 2147483647);

@@ -15,7 +15,7 @@ namespace
 
 constexpr int NONE = -1;
 constexpr int BELOW = 40;
-constexpr std::uint32_t below = 0xC86400; ///< that colour here
+constexpr std::uint32_t BELOW_PIXEL = 0xC86400; ///< that colour here
 
 class Transparency : public testing::Test
 {
@@ -40,8 +40,8 @@ class Transparency : public testing::Test
         canvas->ClearScreen(BELOW);
         canvas->DrawBmap(3, 2, 7, 3, key, "glass.png");
         const Picture picture = canvas.picture();
-        EXPECT_EQ(picture.count(below),
-                  20 * 10 - 4 + (picture.at(3, 2) == below) + (picture.at(6, 2) == below))
+        EXPECT_EQ(picture.count(BELOW_PIXEL),
+                  20 * 10 - 4 + (picture.at(3, 2) == BELOW_PIXEL) + (picture.at(6, 2) == BELOW_PIXEL))
             << "nothing outside";
         return {picture.at(3, 2), picture.at(4, 2), picture.at(5, 2), picture.at(6, 2)};
     }
@@ -59,7 +59,7 @@ TEST_F(Transparency, shows_what_lies_below)
 
     const UseEdition edition;
     const auto pixels = drawn();
-    EXPECT_EQ(pixels[0], below);
+    EXPECT_EQ(pixels[0], BELOW_PIXEL);
     // Half of each, as near as the display's own arithmetic comes.
     for (const auto& [shift, middle] : {std::pair(16, 0x64), {8, 0x64}, {0, 0x64}})
         EXPECT_NEAR(static_cast<int>(pixels[1] >> shift & 0xFF), middle, 2) << shift;
@@ -72,10 +72,10 @@ TEST_F(Transparency, counts_beside_a_key_colour)
     setColor(60, 7, 8, 9);
     const UseEdition edition;
     const auto pixels = drawn(60);
-    EXPECT_EQ(pixels[0], below);
+    EXPECT_EQ(pixels[0], BELOW_PIXEL);
     EXPECT_NEAR(static_cast<int>(pixels[1] & 0xFF), 0x64, 2);
     EXPECT_EQ(pixels[2], 0x0A141EU);
-    EXPECT_EQ(pixels[3], below) << "the key";
+    EXPECT_EQ(pixels[3], BELOW_PIXEL) << "the key";
 }
 
 TEST_F(Transparency, keeps_to_the_area_that_is_restored)
@@ -89,7 +89,7 @@ TEST_F(Transparency, keeps_to_the_area_that_is_restored)
         const tessary::ClipScope clip(canvas->gc, {6, 3, 12, 7});
         canvas->DrawBmap(0, 0, 20, 10, NONE, "glass.png");
     }
-    Picture expected = canvas.blank().fill(0, 0, 20, 10, below);
+    Picture expected = canvas.blank().fill(0, 0, 20, 10, BELOW_PIXEL);
     for (int y = 3; y < 7; ++y)
         for (int x = 6; x < 12; ++x)
             expected.set(x, y, whole.at(x, y));

@@ -22,7 +22,7 @@ struct Exception {
     const char* reason;
 };
 
-constexpr Exception exceptions[] = {
+constexpr Exception EXCEPTIONS[] = {
     {"tessary.h: \"gtk/gtk.h\" is of the toolkit",
      "applications name the toolkit's types without including it"},
 };
@@ -46,7 +46,7 @@ class Includes : public testing::Test
 TEST(House, includes_go_down)
 {
     std::vector<std::string> faults = includeFaults(Program::sourceFolder());
-    for (const Exception& exception : exceptions) {
+    for (const Exception& exception : EXCEPTIONS) {
         const auto found = std::find(faults.begin(), faults.end(), exception.fault);
         if (found == faults.end())
             ADD_FAILURE() << "no longer needed among the exceptions: " << exception.fault;

@@ -22,7 +22,7 @@ struct Area {
     bool toolkit = false;
 };
 
-constexpr Area areas[] = {
+constexpr Area AREAS[] = {
     {"base", Group::framework, 0},
     {"config", Group::framework, 1},
     {"log", Group::framework, 2},
@@ -58,7 +58,7 @@ const Area* areaOf(const std::string& file)
 {
     const Area* found = nullptr;
     std::size_t length = 0;
-    for (const Area& area : areas) {
+    for (const Area& area : AREAS) {
         const std::string path = area.path;
         const bool inside = file == path || file.compare(0, path.size() + 1, path + "/") == 0;
         if (inside && path.size() > length) {

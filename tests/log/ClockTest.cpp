@@ -17,8 +17,8 @@ using Date = std::array<int, 3>;
 namespace
 {
 
-constexpr int largest = std::numeric_limits<int>::max();
-constexpr int smallest = std::numeric_limits<int>::min();
+constexpr int LARGEST = std::numeric_limits<int>::max();
+constexpr int SMALLEST = std::numeric_limits<int>::min();
 
 int yearLength(int year)
 {
@@ -132,7 +132,7 @@ TEST(DayCount, reads_year_and_month_from_an_array)
 
 TEST(DayCount, is_zero_outside_the_year)
 {
-    for (int month : {0, 13, -1, largest, smallest})
+    for (int month : {0, 13, -1, LARGEST, SMALLEST})
         EXPECT_EQ(Get_DayCount(2024, month), 0) << month;
 }
 
@@ -163,7 +163,7 @@ TEST(DayNumber, counts_no_years_before_2000)
     EXPECT_EQ(CalcDate(1999, 1, 1), 1);
     EXPECT_EQ(CalcDate(1999, 3, 1), 60);
     EXPECT_EQ(CalcDate(1996, 3, 1), 61) << "the months are those of the year itself";
-    EXPECT_EQ(CalcDate(smallest, 1, 5), 5);
+    EXPECT_EQ(CalcDate(SMALLEST, 1, 5), 5);
 }
 
 TEST(DayNumber, adds_a_day_out_of_range_as_it_is)
@@ -176,16 +176,16 @@ TEST(DayNumber, adds_a_day_out_of_range_as_it_is)
 TEST(DayNumber, adds_the_twelve_months_at_most)
 {
     EXPECT_EQ(CalcDate(2000, 13, 1), 367);
-    EXPECT_EQ(CalcDate(2000, largest, 1), 367);
+    EXPECT_EQ(CalcDate(2000, LARGEST, 1), 367);
     EXPECT_EQ(CalcDate(2000, 0, 1), 1);
-    EXPECT_EQ(CalcDate(2000, smallest, 1), 1);
+    EXPECT_EQ(CalcDate(2000, SMALLEST, 1), 1);
 }
 
 TEST(DayNumber, stays_within_the_range_of_int)
 {
-    EXPECT_EQ(CalcDate(largest, 12, 31), largest);
-    EXPECT_EQ(CalcDate(2026, 1, largest), largest);
-    EXPECT_EQ(CalcDate(2000, 1, smallest), smallest);
+    EXPECT_EQ(CalcDate(LARGEST, 12, 31), LARGEST);
+    EXPECT_EQ(CalcDate(2026, 1, LARGEST), LARGEST);
+    EXPECT_EQ(CalcDate(2000, 1, SMALLEST), SMALLEST);
 }
 
 TEST(DateOfDayNumber, agrees_with_counting_for_every_day_of_a_century)
@@ -216,12 +216,12 @@ TEST(DateOfDayNumber, stays_in_january_2000_below_one)
 {
     EXPECT_EQ(dateOf(0), (Date{2000, 1, 0}));
     EXPECT_EQ(dateOf(-5), (Date{2000, 1, -5}));
-    EXPECT_EQ(dateOf(smallest), (Date{2000, 1, smallest}));
+    EXPECT_EQ(dateOf(SMALLEST), (Date{2000, 1, SMALLEST}));
 }
 
 TEST(DateOfDayNumber, reaches_the_largest_number)
 {
-    EXPECT_EQ(dateOf(largest), countedDate(largest));
+    EXPECT_EQ(dateOf(LARGEST), countedDate(LARGEST));
 }
 
 TEST(Week, is_the_day_number_modulo_seven_plus_six)
@@ -253,8 +253,8 @@ TEST(SecondOfDay, reckons_values_out_of_range_as_they_are)
 {
     EXPECT_EQ(CalcTime(25, 61, 61), 25 * 3600 + 61 * 60 + 61);
     EXPECT_EQ(CalcTime(0, -1, 0), -60);
-    EXPECT_EQ(CalcTime(largest, largest, largest), largest);
-    EXPECT_EQ(CalcTime(smallest, 0, 0), smallest);
+    EXPECT_EQ(CalcTime(LARGEST, LARGEST, LARGEST), LARGEST);
+    EXPECT_EQ(CalcTime(SMALLEST, 0, 0), SMALLEST);
 }
 
 TEST(SecondOfDay, splits_by_truncating_division)
@@ -263,7 +263,7 @@ TEST(SecondOfDay, splits_by_truncating_division)
     EXPECT_THAT(timeOf(3600), ElementsAre(1, 0, 0));
     EXPECT_THAT(timeOf(100000), ElementsAre(27, 46, 40));
     EXPECT_THAT(timeOf(-3723), ElementsAre(-1, -2, -3));
-    EXPECT_THAT(timeOf(smallest), ElementsAre(-596523, -14, -8));
+    EXPECT_THAT(timeOf(SMALLEST), ElementsAre(-596523, -14, -8));
 }
 
 class CalendarCells : public testing::Test

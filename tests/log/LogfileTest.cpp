@@ -37,7 +37,7 @@ class LogSetting : public Log
     void SetUp() override {}
 };
 
-const std::string blanks16(16, ' ');
+const std::string BLANKS16(16, ' ');
 
 } // namespace
 
@@ -203,7 +203,7 @@ TEST_F(Log, shows_time_place_category_and_message)
 TEST_F(Log, keeps_the_message_column_without_a_place)
 {
     LogfileWrite("SYSTEM", "text", nullptr, 99);
-    EXPECT_EQ(text(), "12:00:01  " + blanks16 + " " + std::string(5, ' ') + "   " + "SYSTEM" +
+    EXPECT_EQ(text(), "12:00:01  " + BLANKS16 + " " + std::string(5, ' ') + "   " + "SYSTEM" +
                           std::string(14, ' ') + "  text\n");
 }
 

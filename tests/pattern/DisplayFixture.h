@@ -32,7 +32,7 @@ class Display : public LoadedPattern
         return canvas.picture();
     }
     /// The box around what is drawn, "" for nothing.
-    static std::string drawn(const Picture& picture) { return picture.bounds(Canvas::ground); }
+    static std::string drawn(const Picture& picture) { return picture.bounds(Canvas::GROUND); }
 
     /// A filled box without outline: colours 20, 21, 22, 23 by state, 29 erased.
     static Pattern& box(Pattern& pattern, int x1, int y1, int x2, int y2)

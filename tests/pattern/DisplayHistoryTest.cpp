@@ -44,7 +44,7 @@ class OldPicture : public ItemCanvas
     /// What another window of the same pattern would show, opened now.
     Picture asOpenedNow() const
     {
-        Canvas other(width, height);
+        Canvas other(WIDTH, HEIGHT);
         CPtrnData opened("p");
         opened.DispPtrnData(other.draw());
         return other.picture();
@@ -111,7 +111,7 @@ TEST_F(OldPicture, of_an_odd_needle_at_the_bottom_stays_below_the_graph)
         set(1, 0.0F);
         open(bound(PTRN_BARG).parm(BARG_NEEDLE_WIDTH, wide));
         tickWithValue(50.0F);
-        EXPECT_EQ(canvas.picture().at(50, 70), keeps ? color(4) : Canvas::ground) << wide;
+        EXPECT_EQ(canvas.picture().at(50, 70), keeps ? color(4) : Canvas::GROUND) << wide;
         EXPECT_EQ(static_cast<bool>(keepsSomething()), keeps) << wide;
     }
 }
@@ -385,7 +385,7 @@ TEST_F(OldPicture, of_a_frozen_item_stays_although_a_new_window_shows_the_new_on
         setState(1, 0);
         open(bound(type).text("Tank"));
         const Picture before = canvas.picture();
-        ASSERT_NE(before.bounds(Canvas::ground), "") << type;
+        ASSERT_NE(before.bounds(Canvas::GROUND), "") << type;
         tickWithState(STATE_FROZEN | 1);
         EXPECT_TRUE(same(canvas.picture(), before)) << type;
         EXPECT_TRUE(keepsSomething()) << type;

@@ -14,16 +14,17 @@ using namespace tessary;
 namespace
 {
 
-constexpr int columns = 5;
-constexpr int rows = 4;
-constexpr int boxWidth = 120;
-constexpr int boxHeight = 80;
-constexpr int cellCount = 25; ///< the numbers of the codes "A" and "B"
+constexpr int COLUMNS = 5;
+constexpr int ROWS = 4;
+constexpr int BOX_WIDTH = 120;
+constexpr int BOX_HEIGHT = 80;
+constexpr int CELL_COUNT = 25; ///< the numbers of the codes "A" and "B"
 
 class PlainItems : public LoadedPattern
 {
   protected:
-    PlainItems() : canvas(columns * boxWidth, rows * boxHeight), fresh(columns * boxWidth, rows * boxHeight)
+    PlainItems()
+        : canvas(COLUMNS * BOX_WIDTH, ROWS * BOX_HEIGHT), fresh(COLUMNS * BOX_WIDTH, ROWS * BOX_HEIGHT)
     {
         useRandomArtwork(project, 1);
     }
@@ -33,17 +34,17 @@ class PlainItems : public LoadedPattern
     Pattern randomPattern(Random& random)
     {
         Pattern pattern("p");
-        for (int box = 0; box < columns * rows; ++box) {
+        for (int box = 0; box < COLUMNS * ROWS; ++box) {
             const int type = box < PTRN_SPIN ? box + 1 : random.between(1, PTRN_SPIN);
             const CellRules changes =
-                addPlainItem(pattern, type, random, box % columns * boxWidth, box / columns * boxHeight);
+                addPlainItem(pattern, type, random, box % COLUMNS * BOX_WIDTH, box / COLUMNS * BOX_HEIGHT);
             pattern.parm(PARM_PASS, random.oneIn(9) ? 2 : random.below(2));
             if (random.oneIn(12)) {
                 if (random.oneIn(2))
                     pattern.code("unknown");
                 continue;
             }
-            const int cell = random.oneIn(5) ? random.between(1, cellCount) : box + 1;
+            const int cell = random.oneIn(5) ? random.between(1, CELL_COUNT) : box + 1;
             pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
             rules[cell].restrict(changes);
         }
@@ -72,7 +73,7 @@ class PlainItems : public LoadedPattern
 
     void change(Random& random)
     {
-        const int cell = random.between(1, cellCount);
+        const int cell = random.between(1, CELL_COUNT);
         switch (random.below(4)) {
         case 0:
         case 1:
@@ -108,7 +109,7 @@ TEST_F(PlainItems, look_after_any_updates_as_if_they_had_just_been_displayed)
         Random random(seed);
         rules.clear();
         load(randomPattern(random));
-        for (int cell = 1; cell <= cellCount; ++cell)
+        for (int cell = 1; cell <= CELL_COUNT; ++cell)
             fill(cell, random);
         const int ground = random.below(CONT_COLR);
         paint(canvas, data(), ground);

@@ -13,8 +13,8 @@ using namespace tessary;
 namespace
 {
 
-constexpr int x = 8; ///< a point that every type of `solid` covers
-constexpr int y = 8;
+constexpr int X = 8; ///< a point that every type of `solid` covers
+constexpr int Y = 8;
 
 /// An item of any type that covers the point in the colour 40 + type (spin buttons: in one of their image).
 void solid(Project& project, Pattern& pattern, int type)
@@ -63,12 +63,12 @@ TEST_F(Display, draws_types_in_their_order_whatever_the_order_in_the_file)
                                  PTRN_BMAP, PTRN_MARK, PTRN_SBAR, PTRN_SPIN, PTRN_BUTN,
                                  PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR};
     std::map<int, std::uint32_t> alone;
-    std::set<std::uint32_t> colors{Canvas::ground};
+    std::set<std::uint32_t> colors{Canvas::GROUND};
     for (const int type : order) {
         Pattern pattern("alone");
         solid(project, pattern, type);
         load(pattern);
-        alone[type] = display().at(x, y);
+        alone[type] = display().at(X, Y);
         ASSERT_TRUE(colors.insert(alone[type]).second) << "type " << type << " can not be told from others";
     }
 
@@ -77,7 +77,7 @@ TEST_F(Display, draws_types_in_their_order_whatever_the_order_in_the_file)
         for (std::size_t i = count; i > 0; --i)
             solid(project, pattern, order[i - 1]);
         load(pattern);
-        EXPECT_EQ(display().at(x, y), alone[order[count - 1]])
+        EXPECT_EQ(display().at(X, Y), alone[order[count - 1]])
             << "type " << order[count - 1] << " over those before";
     }
 }
@@ -89,7 +89,7 @@ TEST_F(Display, draws_items_of_one_type_in_file_order)
     box(pattern, 0, 0, 50, 50).parm(SHAPE_FILL4, 33);
     load(pattern);
 
-    EXPECT_EQ(display().at(x, y), color(33));
+    EXPECT_EQ(display().at(X, Y), color(33));
 }
 
 TEST_F(Display, draws_pass_1_over_pass_0)
@@ -99,7 +99,7 @@ TEST_F(Display, draws_pass_1_over_pass_0)
     pattern.item(PTRN_BUTN, 0, 0, 50, 50);
     load(pattern);
 
-    EXPECT_EQ(display().at(x, y), color(20));
+    EXPECT_EQ(display().at(X, Y), color(20));
 }
 
 TEST_F(Display, of_one_pass_draws_its_items_only)
@@ -137,7 +137,7 @@ TEST_F(Display, draws_with_the_state_of_the_cell)
     load(box(0, 0, 10, 10).code("A"));
     for (const int state : {0, 1, 2, 3, 1 | STATE_FROZEN, 2 | STATE_FLICKER}) {
         setState(1, state);
-        EXPECT_EQ(display().at(x, y), color(20 + (state & 3))) << state;
+        EXPECT_EQ(display().at(X, Y), color(20 + (state & 3))) << state;
     }
 }
 
@@ -159,7 +159,7 @@ TEST_F(Display, erases_hidden_items_even_before_they_were_drawn)
     load(box(0, 0, 10, 10).code("A"));
     setState(1, STATE_HIDDEN | 1);
 
-    EXPECT_EQ(display().at(x, y), color(29));
+    EXPECT_EQ(display().at(X, Y), color(29));
 }
 
 TEST_F(Display, stores_what_it_drew_the_first_time_only)
@@ -176,7 +176,7 @@ TEST_F(Display, stores_what_it_drew_the_first_time_only)
     setState(1, 2);
     set(1, 6.0F);
     setText(1, "other");
-    EXPECT_EQ(display().at(x, y), color(22)) << "drawn from the cell";
+    EXPECT_EQ(display().at(X, Y), color(22)) << "drawn from the cell";
     EXPECT_EQ(val(item().wData), 1) << "but not stored";
     EXPECT_EQ(val(item().fData), 5.0F);
     EXPECT_STREQ(item().sData, "text");
@@ -302,7 +302,7 @@ TEST_F(Display, update_never_draws_items_without_a_code_or_of_another_pass)
     setState(1, 1);
 
     EXPECT_EQ(drawn(update()), "");
-    EXPECT_EQ(display().at(x, y), color(21)) << "a display draws the first";
+    EXPECT_EQ(display().at(X, Y), color(21)) << "a display draws the first";
 }
 
 TEST_F(Display, update_draws_items_over_each_other_as_the_display_does)
@@ -314,7 +314,7 @@ TEST_F(Display, update_draws_items_over_each_other_as_the_display_does)
     display();
     setState(1, 1);
 
-    EXPECT_EQ(update().at(x, y), color(BUTN_FACE));
+    EXPECT_EQ(update().at(X, Y), color(BUTN_FACE));
 }
 
 TEST_F(Display, update_erases_what_becomes_hidden_and_draws_it_again_afterwards)
@@ -323,10 +323,10 @@ TEST_F(Display, update_erases_what_becomes_hidden_and_draws_it_again_afterwards)
     display();
 
     setState(1, STATE_HIDDEN);
-    EXPECT_EQ(update().at(x, y), color(29));
+    EXPECT_EQ(update().at(X, Y), color(29));
     EXPECT_EQ(drawn(update()), "");
     setState(1, 0);
-    EXPECT_EQ(update().at(x, y), color(20));
+    EXPECT_EQ(update().at(X, Y), color(20));
 }
 
 TEST_F(Display, update_freezes_the_picture_while_the_cached_values_follow)
@@ -346,7 +346,7 @@ TEST_F(Display, update_freezes_the_picture_while_the_cached_values_follow)
     EXPECT_EQ(drawn(update()), "") << "frozen counts before hidden";
 
     setState(1, 1);
-    EXPECT_EQ(update().at(x, y), color(21)) << "the end of the freeze is a change of the word";
+    EXPECT_EQ(update().at(X, Y), color(21)) << "the end of the freeze is a change of the word";
 }
 
 TEST_F(Display, update_draws_a_value_that_is_no_number_at_every_tick)
@@ -395,17 +395,17 @@ TEST_F(Display, follows_an_item_whose_pass_or_type_was_written)
     box(pattern, 0, 0, 20, 20);
     pattern.item(PTRN_BUTN, 0, 0, 20, 20);
     load(pattern);
-    ASSERT_EQ(display().at(x, y), color(BUTN_FACE));
+    ASSERT_EQ(display().at(X, Y), color(BUTN_FACE));
 
     PTRNDATA moved = item(0);
     moved.Parm[PARM_PASS] = 1;
     data().WritePtrnData(&moved);
-    EXPECT_EQ(display().at(x, y), color(20));
+    EXPECT_EQ(display().at(X, Y), color(20));
     moved.Parm[PARM_PASS] = 2;
     data().WritePtrnData(&moved);
-    EXPECT_EQ(display().at(x, y), color(BUTN_FACE));
+    EXPECT_EQ(display().at(X, Y), color(BUTN_FACE));
     moved.Parm[PARM_PASS] = 0;
     moved.Type = 0;
     data().WritePtrnData(&moved);
-    EXPECT_EQ(display().at(x, y), color(BUTN_FACE));
+    EXPECT_EQ(display().at(X, Y), color(BUTN_FACE));
 }

@@ -33,7 +33,7 @@ class Flicker : public LoadedPattern
         for (int i = 0; i < count; ++i)
             tick();
     }
-    std::string drawn() { return canvas.picture().bounds(Canvas::ground); }
+    std::string drawn() { return canvas.picture().bounds(Canvas::GROUND); }
     /// 'S' for ticks that show the text, 'B' for ticks that blank it, '.' for ticks that draw nothing.
     std::string phases(int count)
     {

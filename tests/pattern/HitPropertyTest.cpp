@@ -9,8 +9,8 @@ using namespace tessary;
 namespace
 {
 
-constexpr int width = 160;
-constexpr int height = 120;
+constexpr int WIDTH = 160;
+constexpr int HEIGHT = 120;
 
 class HitItems : public LoadedPattern
 {
@@ -32,9 +32,9 @@ class HitItems : public LoadedPattern
         for (int i = 0; i < 40; ++i) {
             const int type = random.between(0, CONT_PTRN + 1);
             if (type == 0 || type > CONT_PTRN)
-                pattern.item(type, 0, 0, width, height); // of no type
+                pattern.item(type, 0, 0, WIDTH, HEIGHT); // of no type
             else
-                addAnyItem(pattern, type, random, width, height);
+                addAnyItem(pattern, type, random, WIDTH, HEIGHT);
             pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
             if (random.oneIn(3))
                 pattern.action(random.between(1, 16));
@@ -76,7 +76,7 @@ TEST_F(HitItems, are_chosen_by_pass_type_and_place_in_the_file)
             item(i).wData = static_cast<WORD>(random.bits() & random.bits() & random.bits());
         int hits = 0;
         for (int round = 0; round < 400; ++round) {
-            const POINT point{random.between(-40, width + 40), random.between(-40, height + 40)};
+            const POINT point{random.between(-40, WIDTH + 40), random.between(-40, HEIGHT + 40)};
             const int hit = data().TestPtrnData(point);
             ASSERT_EQ(hit, expected(point)) << point.x << "," << point.y;
             hits += hit >= 0;

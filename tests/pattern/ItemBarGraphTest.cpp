@@ -201,7 +201,7 @@ TEST_F(BarGraphItem, in_a_frame_wider_than_itself_is_all_frame)
 {
     const Picture picture = drawn(Pattern("p").item(PTRN_BARG, 30, 30, 40, 40).parm(BARG_FRAME_WIDTH, 8), 50);
     EXPECT_EQ(picture.at(35, 33), color(12));
-    EXPECT_EQ(picture.at(29, 29), Canvas::ground);
+    EXPECT_EQ(picture.at(29, 29), Canvas::GROUND);
 }
 
 TEST_F(BarGraphItem, is_erased_as_a_filled_box)

@@ -11,10 +11,10 @@
 class ItemCanvas : public LoadedPattern
 {
   protected:
-    static constexpr int width = 120;
-    static constexpr int height = 90;
+    static constexpr int WIDTH = 120;
+    static constexpr int HEIGHT = 90;
 
-    ItemCanvas() : canvas(width, height), model(width, height)
+    ItemCanvas() : canvas(WIDTH, HEIGHT), model(WIDTH, HEIGHT)
     {
         usePalette();
         useFont(0, 16);

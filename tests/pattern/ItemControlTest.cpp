@@ -181,7 +181,7 @@ TEST_F(ScrollBarItem, is_drawn_by_the_scroll_bar_in_any_state)
             draw(item, updt);
             data().DispScrollBar(model.draw(), &item);
             EXPECT_TRUE(asModelled()) << state;
-            EXPECT_NE(canvas.picture().bounds(Canvas::ground), "");
+            EXPECT_NE(canvas.picture().bounds(Canvas::GROUND), "");
         }
     }
 }
@@ -198,7 +198,7 @@ TEST_F(SpinButton, is_one_picture_in_any_state)
         draw(item);
         model->DrawXpm(10, 20, 40, 60, XPM_SpinButn);
         EXPECT_TRUE(asModelled()) << state;
-        EXPECT_EQ(canvas.picture().bounds(Canvas::ground), "10,20-39,59");
+        EXPECT_EQ(canvas.picture().bounds(Canvas::GROUND), "10,20-39,59");
     }
 }
 

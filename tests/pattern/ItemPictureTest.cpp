@@ -30,7 +30,7 @@ TEST_F(BitmapItem, draws_the_file_that_its_text_names)
     draw(item);
     model->DrawBmap(10, 20, 12, 21, NONE, "two.ppm");
     EXPECT_TRUE(asModelled());
-    EXPECT_EQ(canvas.picture().bounds(Canvas::ground), "10,20-11,20");
+    EXPECT_EQ(canvas.picture().bounds(Canvas::GROUND), "10,20-11,20");
 }
 
 TEST_F(BitmapItem, has_a_transparent_colour_when_it_is_told_to)
@@ -41,7 +41,7 @@ TEST_F(BitmapItem, has_a_transparent_colour_when_it_is_told_to)
         draw(item);
         model->DrawBmap(10, 20, 12, 21, 60, "two.ppm");
         EXPECT_TRUE(asModelled());
-        EXPECT_EQ(canvas.picture().bounds(Canvas::ground), "11,20-11,20");
+        EXPECT_EQ(canvas.picture().bounds(Canvas::GROUND), "11,20-11,20");
     }
 }
 

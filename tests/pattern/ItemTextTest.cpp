@@ -221,7 +221,7 @@ TEST_F(VariableText, of_an_absurd_width_paints_to_the_edge)
 {
     PTRNDATA item = make(variable(INT32_MAX).parm(TEXT_BACKED, 1));
     draw(item);
-    EXPECT_TRUE(same(canvas.picture(), canvas.blank().fill(10, 20, width, 36, color(8))));
+    EXPECT_TRUE(same(canvas.picture(), canvas.blank().fill(10, 20, WIDTH, 36, color(8))));
     clear();
     item = make(variable(-1).parm(TEXT_BACKED, 1));
     draw(item);

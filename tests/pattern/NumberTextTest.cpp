@@ -48,8 +48,8 @@ class NumberTexts : public ItemCanvas
   private:
     static const PTRNDATA& fresh()
     {
-        static const CPtrnData pattern("p");
-        return pattern.PtrnData[0];
+        static const CPtrnData PATTERN("p");
+        return PATTERN.PtrnData[0];
     }
 };
 
@@ -203,18 +203,18 @@ TEST_F(NumberTexts, in_edition_1_are_as_ever)
 
 TEST_F(NumberTexts, leave_nothing_behind_on_the_display)
 {
-    load(Pattern("p").size(width, height).item(PTRN_NUMR, 10, 20, 90, 70).parm(FIELD_WIDTH, 4).code("A"));
+    load(Pattern("p").size(WIDTH, HEIGHT).item(PTRN_NUMR, 10, 20, 90, 70).parm(FIELD_WIDTH, 4).code("A"));
     set(1, 12345678.0F);
     data().DispTitle(canvas.draw());
     data().DispPtrnData(canvas.draw());
-    model->DrawRect(0, 0, width, height, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
+    model->DrawRect(0, 0, WIDTH, HEIGHT, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
     const Picture bare = model.picture();
     model->DrawText(10, 20, 0, 4, -1, "####");
     EXPECT_TRUE(asModelled());
     EXPECT_EQ(canvas.picture().at(10 + 4 * 8 + 2, 30), bare.at(10, 10)) << "nothing outside the field";
     set(1, 12.0F);
     data().UpdtPtrnData(canvas.draw());
-    model->DrawRect(0, 0, width, height, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
+    model->DrawRect(0, 0, WIDTH, HEIGHT, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
     model->DrawText(10, 20, 0, 4, -1, "  12");
     EXPECT_TRUE(asModelled());
 }
@@ -226,25 +226,25 @@ namespace
 class LargeNumbers : public ItemCanvas
 {
   protected:
-    static constexpr double even = 16777216.0;
+    static constexpr double EVEN = 16777216.0;
 
     /// Whether the item looks different when one is added to its number.
     bool seesOneMore(const Pattern& pattern)
     {
-        Set_dData(1, even, nullptr, 0);
+        Set_dData(1, EVEN, nullptr, 0);
         load(pattern);
         clear();
         data().DispPtrnData(canvas.draw());
         data().UpdtPtrnData(canvas.draw());
         const Picture before = canvas.picture();
-        Set_dData(1, even + 1, nullptr, 0);
+        Set_dData(1, EVEN + 1, nullptr, 0);
         data().UpdtPtrnData(canvas.draw());
         return !same(canvas.picture(), before);
     }
 
     static Pattern bound(int type)
     {
-        return Pattern("p").size(width, height).item(type, 10, 20, 90, 70).code("A");
+        return Pattern("p").size(WIDTH, HEIGHT).item(type, 10, 20, 90, 70).code("A");
     }
 };
 

@@ -14,14 +14,14 @@ namespace
 {
 
 // Inside a box of 120 x 80: what is drawn outside an item's corners (thick outlines) finds place around it.
-constexpr int margin = 15;
-constexpr int areaWidth = 90;
-constexpr int areaHeight = 50;
+constexpr int MARGIN = 15;
+constexpr int AREA_WIDTH = 90;
+constexpr int AREA_HEIGHT = 50;
 /// Cell of the larger of the two fonts.
-constexpr int largestHalf = 12;
+constexpr int LARGEST_HALF = 12;
 
 constexpr int NONE = -1;
-const char* const bitmaps[] = {"two.ppm", "four.ppm"};
+const char* const BITMAPS[] = {"two.ppm", "four.ppm"};
 
 int randomParm(const ParmSchema& parm, Random& random)
 {
@@ -50,7 +50,7 @@ void addParms(Pattern& pattern, const ItemClass& schema, Random& random)
     if (schema.text == ItemText::Caption)
         pattern.text(randomText(random, 9));
     if (schema.text == ItemText::BitmapName)
-        pattern.text(random.oneIn(5) ? "" : random.pick(bitmaps));
+        pattern.text(random.oneIn(5) ? "" : random.pick(BITMAPS));
 }
 
 void addColors(Pattern& pattern, int first, int count, Random& random)
@@ -79,7 +79,7 @@ CellRules plainShape(Pattern& pattern, Random& random)
 CellRules plainBarGraph(Pattern& pattern, Random& random, int x, int y)
 {
     CellRules rules;
-    pattern.parm4(PARM_X1, x, y, x + areaWidth, y + areaHeight); // exchanged, a needle reaches outside
+    pattern.parm4(PARM_X1, x, y, x + AREA_WIDTH, y + AREA_HEIGHT); // exchanged, a needle reaches outside
     const int frame = random.pick({0, 0, 1, 5});
     const int needle = random.below(6);
     const bool horizontal = random.oneIn(2);
@@ -116,7 +116,7 @@ CellRules plainField(Pattern& pattern, Random& random)
 
 CellRules plainVariableText(Pattern& pattern, Random& random)
 {
-    pattern.parm(FIELD_WIDTH, random.between(1, areaWidth / largestHalf));
+    pattern.parm(FIELD_WIDTH, random.between(1, AREA_WIDTH / LARGEST_HALF));
     return plainField(pattern, random);
 }
 
@@ -124,7 +124,7 @@ CellRules plainNumericField(Pattern& pattern, Random& random)
 {
     // Numbers that fit the field: what sticks out on the right is not painted over.
     CellRules rules = plainField(pattern, random);
-    const int width = random.between(3, areaWidth / largestHalf);
+    const int width = random.between(3, AREA_WIDTH / LARGEST_HALF);
     const int decimals = random.below(width - 1) / 2;
     const bool hexadecimal = random.oneIn(4);
     pattern.parm(FIELD_WIDTH, width).parm(FIELD_DECIMALS, decimals).parm(FIELD_HEX, hexadecimal);
@@ -138,13 +138,13 @@ CellRules plainNumericField(Pattern& pattern, Random& random)
 CellRules plainButton(Pattern& pattern, Random& random, int x, int y)
 {
     CellRules rules;
-    const int width = random.between(areaWidth / 2, areaWidth);
+    const int width = random.between(AREA_WIDTH / 2, AREA_WIDTH);
     const std::string caption = randomText(random, 6);
     const int indent = random.between(-1, 15);
-    pattern.parm4(PARM_X1, x, y, x + width, y + areaHeight).parm(BUTN_WIDTH, random.below(6));
+    pattern.parm4(PARM_X1, x, y, x + width, y + AREA_HEIGHT).parm(BUTN_WIDTH, random.below(6));
     pattern.text(caption).parm(BUTN_POST, indent);
     // A caption that reaches beyond the button stays when the button goes.
-    const bool fits = static_cast<int>(caption.size()) * largestHalf + std::max(indent, 0) <= width;
+    const bool fits = static_cast<int>(caption.size()) * LARGEST_HALF + std::max(indent, 0) <= width;
     rules.hide = rules.disable = fits;
     return rules;
 }
@@ -167,7 +167,7 @@ CellRules plainBitmap(Pattern& pattern, Random& random)
     CellRules rules;
     const bool keyed = random.oneIn(2);
     const bool missing = random.oneIn(5);
-    pattern.parm(BMAP_KEYED, keyed).text(missing ? "none.ppm" : random.pick(bitmaps));
+    pattern.parm(BMAP_KEYED, keyed).text(missing ? "none.ppm" : random.pick(BITMAPS));
     rules.hide = !keyed && !missing;
     return rules;
 }
@@ -189,9 +189,9 @@ CellRules plainScrollBar(Pattern& pattern, Random& random, int x, int y)
     const bool vertical = random.oneIn(2);
     pattern.parm(SBAR_VERTICAL, vertical).parm(SBAR_WIDTH, random.below(3));
     if (vertical)
-        pattern.parm4(PARM_X1, x, y, x + random.between(8, 10), y + areaHeight);
+        pattern.parm4(PARM_X1, x, y, x + random.between(8, 10), y + AREA_HEIGHT);
     else
-        pattern.parm4(PARM_X1, x, y, x + areaWidth, y + random.between(8, 16));
+        pattern.parm4(PARM_X1, x, y, x + AREA_WIDTH, y + random.between(8, 16));
 
     const int total = random.between(0, 50);
     const int visible = random.between(0, 50);
@@ -222,10 +222,10 @@ bool CellRules::anyNumber() const
 std::string randomText(Random& random, int bytes)
 {
     // Half and full width, half-width kana (two bytes), and bytes that are no character.
-    static const std::string pieces[] = {"A", "b", "7", " ", "-", "漢", "字", "日", "ｱ", "α", "\xA1", "\xFF"};
+    static const std::string PIECES[] = {"A", "b", "7", " ", "-", "漢", "字", "日", "ｱ", "α", "\xA1", "\xFF"};
     std::string text;
     for (int i = random.between(0, bytes); i > 0; --i) {
-        const std::string piece = random.pick(pieces);
+        const std::string piece = random.pick(PIECES);
         if (static_cast<int>(text.size() + piece.size()) <= bytes)
             text += piece;
     }
@@ -256,9 +256,9 @@ void addAnyItem(Pattern& pattern, int type, Random& random, int width, int heigh
 
 CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
 {
-    x += margin;
-    y += margin;
-    pattern.item(type, x + areaWidth, y, x + random.below(areaWidth / 2), y + areaHeight);
+    x += MARGIN;
+    y += MARGIN;
+    pattern.item(type, x + AREA_WIDTH, y, x + random.below(AREA_WIDTH / 2), y + AREA_HEIGHT);
     addParms(pattern, *FindItemClass(type), random);
 
     switch (type) {
@@ -286,7 +286,7 @@ CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
         break;
     }
     // Texts begin at the first corner.
-    pattern.parm4(PARM_X1, x, y, x + areaWidth, y + areaHeight);
+    pattern.parm4(PARM_X1, x, y, x + AREA_WIDTH, y + AREA_HEIGHT);
     switch (type) {
     case PTRN_FCHR:
         return plainFixedText(pattern, random);

@@ -15,9 +15,9 @@ using namespace tessary;
 namespace
 {
 
-constexpr int width = 160;
-constexpr int height = 120;
-constexpr int cellCount = 25; ///< the numbers of the codes "A" and "B"
+constexpr int WIDTH = 160;
+constexpr int HEIGHT = 120;
+constexpr int CELL_COUNT = 25; ///< the numbers of the codes "A" and "B"
 
 /// What a cell holds, as this test has written it.
 struct Cell {
@@ -30,7 +30,7 @@ using Cells = std::map<int, Cell>;
 class Replay
 {
   public:
-    explicit Replay(const Cells& cells) : canvas(width, height), cells_(cells), hands_("p")
+    explicit Replay(const Cells& cells) : canvas(WIDTH, HEIGHT), cells_(cells), hands_("p")
     {
         items.assign(hands_.PtrnData, hands_.PtrnData + hands_.PtrnCont);
     }
@@ -74,11 +74,11 @@ class Replay
   private:
     template <typename Function> void eachInOrder(Function function)
     {
-        static constexpr int order[] = {PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LINE,
+        static constexpr int ORDER[] = {PTRN_GBOX, PTRN_RECT, PTRN_CRCL, PTRN_BARG, PTRN_LINE,
                                         PTRN_BMAP, PTRN_MARK, PTRN_SBAR, PTRN_SPIN, PTRN_BUTN,
                                         PTRN_RDIO, PTRN_CHCK, PTRN_FCHR, PTRN_CHAR, PTRN_NUMR};
         for (const int pass : {0, 1})
-            for (const int type : order)
+            for (const int type : ORDER)
                 for (PTRNDATA& item : items)
                     if (item.Type == type && item.Parm[PARM_PASS] == pass)
                         function(item);
@@ -172,16 +172,16 @@ class Replay
 class AnyPattern : public LoadedPattern
 {
   protected:
-    AnyPattern() : canvas(width, height) { useRandomArtwork(project, 2); }
+    AnyPattern() : canvas(WIDTH, HEIGHT) { useRandomArtwork(project, 2); }
 
     static Pattern randomPattern(Random& random, int count)
     {
         Pattern pattern("p");
         for (int i = 0; i < count; ++i) {
-            addAnyItem(pattern, random.between(1, CONT_PTRN), random, width, height);
+            addAnyItem(pattern, random.between(1, CONT_PTRN), random, WIDTH, HEIGHT);
             pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
-            const int cell = random.between(0, cellCount + 1);
-            if (cell > cellCount)
+            const int cell = random.between(0, CELL_COUNT + 1);
+            if (cell > CELL_COUNT)
                 pattern.code("unknown");
             else if (cell > 0)
                 pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
@@ -192,7 +192,7 @@ class AnyPattern : public LoadedPattern
     void change(Random& random)
     {
         // Cell 0 too, which unbound items show.
-        const int no = random.below(cellCount + 1);
+        const int no = random.below(CELL_COUNT + 1);
         Cell& cell = cells[no];
         switch (random.below(3)) {
         case 0:
@@ -233,7 +233,7 @@ TEST_F(AnyPattern, is_drawn_in_every_tick_as_its_items_are_drawn_one_by_one)
     for (const unsigned seed : seeds(8)) {
         SCOPED_TRACE(seedText(seed));
         Random random(seed);
-        for (int no = 0; no <= cellCount; ++no)
+        for (int no = 0; no <= CELL_COUNT; ++no)
             cells[no];
         cells[-1] = Cell{}; // an unknown code reads zeros
         load(randomPattern(random, 30));

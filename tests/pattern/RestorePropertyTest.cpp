@@ -10,20 +10,20 @@ using namespace tessary;
 namespace
 {
 
-constexpr int width = 160;
-constexpr int height = 120;
-constexpr int cellCount = 25; ///< the numbers of the codes "A" and "B"
-constexpr int clockCells = 7; ///< the first of them
+constexpr int WIDTH = 160;
+constexpr int HEIGHT = 120;
+constexpr int CELL_COUNT = 25; ///< the numbers of the codes "A" and "B"
+constexpr int CLOCK_CELLS = 7; ///< the first of them
 
 class AnyRestored : public LoadedPattern
 {
   protected:
-    AnyRestored() : canvas(width, height) { useRandomArtwork(project, 3); }
+    AnyRestored() : canvas(WIDTH, HEIGHT) { useRandomArtwork(project, 3); }
 
     static Pattern randomPattern(Random& random, int count)
     {
         Pattern pattern("p");
-        pattern.size(width, height).header(HEDR_TITLE_HEIGHT, random.below(30));
+        pattern.size(WIDTH, HEIGHT).header(HEDR_TITLE_HEIGHT, random.below(30));
         pattern.header(HEDR_BODY_SHADED, random.below(2)).header(HEDR_BAND_HEIGHT, random.below(20));
         pattern.header(HEDR_KIND, random.below(2)).header(HEDR_FRAME_WIDTH, random.below(4));
         pattern.header(HEDR_HARDCOPY, random.below(2)).header(HEDR_CLOCK, random.below(7));
@@ -31,10 +31,10 @@ class AnyRestored : public LoadedPattern
             pattern.bitmap("four.ppm");
         pattern.title(randomText(random, 12));
         for (int i = 0; i < count; ++i) {
-            addAnyItem(pattern, random.between(1, CONT_PTRN), random, width, height);
+            addAnyItem(pattern, random.between(1, CONT_PTRN), random, WIDTH, HEIGHT);
             pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
-            const int cell = random.between(0, cellCount + 1);
-            if (cell > cellCount)
+            const int cell = random.between(0, CELL_COUNT + 1);
+            if (cell > CELL_COUNT)
                 pattern.code("unknown");
             else if (cell > 0)
                 pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
@@ -46,7 +46,7 @@ class AnyRestored : public LoadedPattern
     {
         // Cell 0 is that of the items without a code, which no tick updates; the clock only goes on as a
         // whole.
-        const int no = random.between(clockCells + 1, cellCount);
+        const int no = random.between(CLOCK_CELLS + 1, CELL_COUNT);
         switch (random.below(3)) {
         case 0:
             setState(no, static_cast<int>(random.bits() & random.bits() & 0xFFFF & ~STATE_FROZEN));
@@ -76,7 +76,7 @@ class AnyRestored : public LoadedPattern
     /// A window of the same pattern that was opened at this moment and blinks in step.
     static Picture openedNow(int ticks)
     {
-        Canvas other(width, height);
+        Canvas other(WIDTH, HEIGHT);
         CPtrnData opened("p");
         for (int i = 0; i < ticks; ++i)
             opened.FlikPtrnData(other.draw());
@@ -102,7 +102,7 @@ TEST_F(AnyRestored, looks_after_every_tick_as_if_it_had_just_been_opened)
         for (int ticks = 1; ticks <= 40; ++ticks) {
             for (int changes = random.below(6); changes > 0; --changes)
                 change(random);
-            set(clockCells, static_cast<float>(random.below(60)));
+            set(CLOCK_CELLS, static_cast<float>(random.below(60)));
             tick();
             ASSERT_TRUE(same(canvas.picture(), openedNow(ticks))) << "tick " << ticks;
         }
@@ -121,13 +121,13 @@ TEST_F(AnyRestored, area_is_drawn_anew_and_nothing_else)
         display(data(), canvas);
         const Picture whole = canvas.picture();
         for (int round = 0; round < 20; ++round) {
-            const RECT area = SetRect(random.between(-20, width + 20), random.between(-20, height + 20),
-                                      random.between(-20, width + 20), random.between(-20, height + 20));
+            const RECT area = SetRect(random.between(-20, WIDTH + 20), random.between(-20, HEIGHT + 20),
+                                      random.between(-20, WIDTH + 20), random.between(-20, HEIGHT + 20));
             canvas.clear();
             data().RestoreArea(canvas.draw(), area);
             Picture expected = canvas.blank();
-            for (int y = std::max(0, area.top); y < std::min(height, area.bottom); ++y)
-                for (int x = std::max(0, area.left); x < std::min(width, area.right); ++x)
+            for (int y = std::max(0, area.top); y < std::min(HEIGHT, area.bottom); ++y)
+                for (int x = std::max(0, area.left); x < std::min(WIDTH, area.right); ++x)
                     expected.set(x, y, whole.at(x, y));
             ASSERT_TRUE(same(canvas.picture(), expected)) << "round " << round;
         }

@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr int NONE = -1;
-constexpr int body = HEDR_BODY_COLOR;
+constexpr int BODY = HEDR_BODY_COLOR;
 
 /// Items 0, 1, 2 ... of a pattern are bound to cells 1, 2, 3 ...
 class Layered : public ItemCanvas
@@ -32,7 +32,7 @@ class Layered : public ItemCanvas
         modelBody();
     }
 
-    void modelBody() { model->DrawRect(0, 0, width, height, 0, 0, body, body); }
+    void modelBody() { model->DrawRect(0, 0, WIDTH, HEIGHT, 0, 0, BODY, BODY); }
 
     void tick()
     {
@@ -45,7 +45,7 @@ class Layered : public ItemCanvas
         tick();
     }
 
-    static Pattern plain() { return Pattern("p").size(width, height); }
+    static Pattern plain() { return Pattern("p").size(WIDTH, HEIGHT); }
 
     /// A box in state colours 40 to 43 below a text.
     static Pattern boxBelowText()
@@ -180,7 +180,7 @@ TEST_F(Layered, the_thumb_of_a_value_beyond_the_bar_leaves_nothing_behind)
     EXPECT_EQ(canvas.picture().at(92, 16), color(SBAR_THUMB)) << "past its end";
     set(1, 0.0F);
     tick();
-    EXPECT_EQ(canvas.picture().at(92, 16), color(body));
+    EXPECT_EQ(canvas.picture().at(92, 16), color(BODY));
 }
 
 TEST_F(Layered, only_the_area_of_the_changed_item_is_drawn)
@@ -229,7 +229,7 @@ TEST_F(Layered, the_clock_goes_on_below_the_items)
         open(plain()
                  .header(HEDR_TITLE_HEIGHT, 30)
                  .header(HEDR_CLOCK, 3)
-                 .item(PTRN_RECT, 0, 0, width, 30)
+                 .item(PTRN_RECT, 0, 0, WIDTH, 30)
                  .parm(SHAPE_FILLED, 1)
                  .code("A", 10));
         const Picture before = canvas.picture();
@@ -247,16 +247,16 @@ TEST_F(Layered, the_window_draws_what_lies_above_and_below_within_the_area)
     const UseEdition edition;
     open(boxBelowText());
     data().DrawAbove = [](CDraw* draw) { draw->DrawRect(0, 0, 30, 30, 0, 0, 60, 60); };
-    data().DrawBelow = [](CDraw* draw) { draw->DrawRect(0, 0, width, height, 0, 0, 61, 61); };
+    data().DrawBelow = [](CDraw* draw) { draw->DrawRect(0, 0, WIDTH, HEIGHT, 0, 0, 61, 61); };
     canvas.clear();
     tickWithState(2, 1);
     const Picture picture = canvas.picture();
     EXPECT_EQ(picture.at(25, 25), color(60));
-    EXPECT_EQ(picture.at(5, 5), Canvas::ground) << "outside the text";
+    EXPECT_EQ(picture.at(5, 5), Canvas::GROUND) << "outside the text";
     EXPECT_EQ(picture.count(color(61)), 0) << "the body covers it";
 
     open(plain().bitmap("missing").item(PTRN_RECT, 10, 10, 40, 40).code("A", 4));
-    data().DrawBelow = [](CDraw* draw) { draw->DrawRect(0, 0, width, height, 0, 0, 61, 61); };
+    data().DrawBelow = [](CDraw* draw) { draw->DrawRect(0, 0, WIDTH, HEIGHT, 0, 0, 61, 61); };
     tickWithState(5, STATE_HIDDEN);
     EXPECT_EQ(canvas.picture().at(20, 20), color(61));
 }

@@ -75,11 +75,11 @@ TEST_P(CheckItem, names_place_and_remedy)
     expectFinds(std::string("src/screens/a.yaml") + GetParam().message + "\n");
 }
 
-const std::string noSuchType =
+const std::string NO_SUCH_TYPE =
     ":4: item of type 99 at 1,1: no such type, so nothing is drawn. Use a type from 1 to " +
     std::to_string(CONT_PTRN) + ".";
 
-const MessageCase itemCases[] = {
+const MessageCase ITEM_CASES[] = {
     {"unknown_attribute", "  - { type: line, rect: [1, 1, 2, 2], colour: hot }\n",
      ":4: item 1 (line): unknown attribute 'colour'. Did you mean 'color'? Correct or remove it."},
     {"character_that_euc_lacks", u8"  - { type: text, at: [1, 1], text: 한 }\n",
@@ -90,7 +90,7 @@ const MessageCase itemCases[] = {
      ":4: spin at 1,1: no code 'X', so it is bound to nothing. Add it to 'codes' or use another."},
     {"offset", "  - { type: spin, rect: [1, 1, 20, 20], exact: { code: B, offset: 3 } }\n",
      ":4: spin at 1,1: code 'B' has 3 cells, so there is no +3. Correct the offset or extend the code."},
-    {"type", "  - { type: 99, rect: [1, 1, 20, 20] }\n", noSuchType.c_str()},
+    {"type", "  - { type: 99, rect: [1, 1, 20, 20] }\n", NO_SUCH_TYPE.c_str()},
     {"colour", "  - { type: line, rect: [1, 1, 20, 1], parm: { 4: 100 } }\n",
      ":4: line at 1,1: 'color' is 100, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
     {"font_number", "  - { type: text, at: [1, 1], text: x, parm: { 15: 20 } }\n",
@@ -185,7 +185,7 @@ const MessageCase itemCases[] = {
      "or draw it in the front pass."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(itemCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, CheckItem, testing::ValuesIn(ITEM_CASES), CaseName);
 
 TEST_F(Check, looks_at_the_window_too)
 {

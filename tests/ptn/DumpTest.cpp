@@ -114,12 +114,12 @@ class Random
     // EUC-JP of one and two bytes, with everything that a YAML file treats specially.
     std::string text(int longest)
     {
-        static const std::string ascii = " !\"#$%&'()*+,-./0123456789:;<=>?@ABCxyz[]^_`{|}~\\";
+        static const std::string ASCII = " !\"#$%&'()*+,-./0123456789:;<=>?@ABCxyz[]^_`{|}~\\";
         std::string text;
         const int length = chance(40) ? 0 : number(1, longest);
         while (static_cast<int>(text.size()) + 2 <= length) {
             if (chance(50)) {
-                text += ascii[static_cast<std::size_t>(number(0, static_cast<int>(ascii.size()) - 1))];
+                text += ASCII[static_cast<std::size_t>(number(0, static_cast<int>(ASCII.size()) - 1))];
             } else { // hiragana and a page of kanji are complete
                 const bool kana = chance(50);
                 text += static_cast<char>(kana ? 0xA4 : 0xB0 + number(0, 30));

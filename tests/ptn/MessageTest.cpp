@@ -16,7 +16,7 @@ TEST_P(ProjectMessages, name_place_and_remedy)
     expectOnly("p.yaml");
 }
 
-const MessageCase projectCases[] = {
+const MessageCase PROJECT_CASES[] = {
     {"not_yaml", "codes: [1, 2\n",
      ":2: not valid YAML: end of sequence flow not found. Look for a missing ',', '}', ']' or quote; a text "
      "with '#' or ': ' in it needs quotes."},
@@ -149,7 +149,7 @@ const MessageCase projectCases[] = {
      ":2: profile key 'PTRNSTOP' names a pattern that no screen defines. Use the 'name' of a screen."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, ProjectMessages, testing::ValuesIn(projectCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, ProjectMessages, testing::ValuesIn(PROJECT_CASES), CaseName);
 
 // --- screens -------------------------------------------------------------------------------------------
 
@@ -163,7 +163,7 @@ TEST_P(ScreenMessages, name_place_and_remedy)
     expectOnly("screens/a.yaml");
 }
 
-const MessageCase screenCases[] = {
+const MessageCase SCREEN_CASES[] = {
     {"no_name", "items: []\n", ": the screen has no 'name'. Write the name of its pattern."},
     {"empty_file", "", ": the screen has no 'name'. Write the name of its pattern."},
     {"empty_name", "name:\n",
@@ -204,7 +204,7 @@ const MessageCase screenCases[] = {
      ":2: style 'thick': unknown attribute 'widht'. Did you mean 'width'? Correct or remove it."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, ScreenMessages, testing::ValuesIn(screenCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, ScreenMessages, testing::ValuesIn(SCREEN_CASES), CaseName);
 
 // --- items ---------------------------------------------------------------------------------------------
 
@@ -218,7 +218,7 @@ TEST_P(ItemMessages, name_place_and_remedy)
     expectOnly("screens/a.yaml");
 }
 
-const MessageCase itemCases[] = {
+const MessageCase ITEM_CASES[] = {
     {"no_item", "{}",
      ":3: item 1 has no 'type'. Write one of: group-box, line, rectangle, circle, bar-graph, text, "
      "variable-text, numeric, button, radio, check, bitmap, mark, scroll-bar, spin."},
@@ -348,6 +348,6 @@ const MessageCase itemCases[] = {
      ":3: item 1 (bar-graph) is too small for its frame and needle. Make it larger."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, ItemMessages, testing::ValuesIn(itemCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, ItemMessages, testing::ValuesIn(ITEM_CASES), CaseName);
 
 } // namespace

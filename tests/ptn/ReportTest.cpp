@@ -99,31 +99,31 @@ TEST_F(Report, names_bitmaps_that_are_no_files)
 }
 
 // Outside of the test macros, which would show these texts in the character set of the program.
-const std::string notInEuc =
+const std::string NOT_IN_EUC =
     u8"name: a\ntitle: ①階\nitems:\n  - type: text\n    at: [1, 1]\n    text: [温度, '5 € – ok']\n";
-const std::string notInEucMessages =
+const std::string NOT_IN_EUC_MESSAGES =
     u8"src/screens/a.yaml:2: 'title': EUC-JP has no '①' (U+2460). Use another character.\n"
     u8"src/screens/a.yaml:6: item 1 (text): 'text': EUC-JP has no '€' (U+20AC), '–' (U+2013). Use another "
     u8"character.\n"
     u8"2 errors; out/ProjPath is unchanged.\n";
-const std::string yen = u8"name: a\nitems:\n  - { type: text, at: [1, 1], text: ¥100 }\n";
-const std::string yenMessage = u8"EUC-JP has no '¥' (U+00A5).";
-const std::string circled =
+const std::string YEN = u8"name: a\nitems:\n  - { type: text, at: [1, 1], text: ¥100 }\n";
+const std::string YEN_MESSAGE = u8"EUC-JP has no '¥' (U+00A5).";
+const std::string CIRCLED =
     u8"name: a\nitems:\n  - { type: text, at: [1, 1], text: 'Aa~ 漢字ひらカナ、。（）㈱' }\n";
-const std::string circledMessage = u8"EUC-JP has no '㈱' (U+3231).";
-const std::string plain =
+const std::string CIRCLED_MESSAGE = u8"EUC-JP has no '㈱' (U+3231).";
+const std::string PLAIN =
     u8"name: a\nitems:\n  - { type: text, at: [1, 1], text: 'Aa~ 漢字ひらカナ、。（）〜丂' }\n";
 
 TEST_F(Report, refuses_characters_that_euc_lacks_naming_file_line_and_character)
 {
-    sources.base().screen(notInEuc);
-    EXPECT_EQ(sources.build().err, notInEucMessages);
+    sources.base().screen(NOT_IN_EUC);
+    EXPECT_EQ(sources.build().err, NOT_IN_EUC_MESSAGES);
 }
 
 TEST_F(Report, refuses_a_yen_sign_that_would_come_back_as_a_backslash)
 {
-    sources.base().screen(yen);
-    EXPECT_THAT(sources.build().err, HasSubstr(yenMessage));
+    sources.base().screen(YEN);
+    EXPECT_THAT(sources.build().err, HasSubstr(YEN_MESSAGE));
 }
 
 TEST_F(Report, refuses_control_characters_and_broken_utf8)
@@ -137,9 +137,9 @@ TEST_F(Report, refuses_control_characters_and_broken_utf8)
 
 TEST_F(Report, accepts_what_euc_has)
 {
-    sources.base().screen(circled);
-    EXPECT_THAT(sources.build().err, HasSubstr(circledMessage));
-    sources.screen(plain);
+    sources.base().screen(CIRCLED);
+    EXPECT_THAT(sources.build().err, HasSubstr(CIRCLED_MESSAGE));
+    sources.screen(PLAIN);
     EXPECT_EQ(sources.build().err, "");
 }
 

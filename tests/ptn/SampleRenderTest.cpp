@@ -15,7 +15,7 @@ namespace
 // Names of the pictures by the patterns'.
 const std::map<std::string, std::string>& Screens()
 {
-    static const std::map<std::string, std::string> screens = {
+    static const std::map<std::string, std::string> SCREENS = {
         {u8"テスト  ［メニュー選択］", "menu"},    {u8"システム終了", "stop"},
         {u8"テスト  （図形）", "shapes"},          {u8"テスト  （マウス操作）", "mouse"},
         {u8"子ウィンドウ (1)", "child1"},          {u8"子ウィンドウ (2)", "child2"},
@@ -24,7 +24,7 @@ const std::map<std::string, std::string>& Screens()
         {u8"テスト  （表・キー入力）", "table"},   {u8"テスト  （表）", "wiring"},
         {u8"バージョン情報", "version"},           {u8"メンテナンス", "maintenance"},
     };
-    return screens;
+    return SCREENS;
 }
 
 class SampleGolden : public testing::TestWithParam<int>

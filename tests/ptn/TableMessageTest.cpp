@@ -23,7 +23,7 @@ TEST_P(TableMessages, name_place_and_remedy)
 #define TEN    "123456789 "
 #define NINETY TEN TEN TEN TEN TEN TEN TEN TEN TEN
 
-const MessageCase tableCases[] = {
+const MessageCase TABLE_CASES[] = {
     {"message_with_a_comma", "messages:\n  a: Stop, then look\n",
      ":2: message 'a' has ',' or ';' in it, which ends a field of the table. Use the wide characters "
      "instead."},
@@ -89,7 +89,7 @@ const MessageCase tableCases[] = {
     {"registry_that_is_a_list", "registry: [Registry.cpp]\n", ":1: 'registry' must be a text."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, TableMessages, testing::ValuesIn(tableCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, TableMessages, testing::ValuesIn(TABLE_CASES), CaseName);
 
 // --- the wiring table ------------------------------------------------------------------------------------
 
@@ -103,7 +103,7 @@ TEST_P(WiringMessages, name_place_and_remedy)
     expectOnly("t.yaml");
 }
 
-const MessageCase wiringCases[] = {
+const MessageCase WIRING_CASES[] = {
     {"unknown_key", "wiring:\n  sytem: S\n",
      ":2: 'wiring': unknown 'sytem'. Did you mean 'system'? Write system, delivery, work, board, comment and "
      "table."},
@@ -113,7 +113,7 @@ const MessageCase wiringCases[] = {
      ":2: 'wiring': 'src/w.csv' can not be read. Put the CSV file there or correct 'table'."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, WiringMessages, testing::ValuesIn(wiringCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, WiringMessages, testing::ValuesIn(WIRING_CASES), CaseName);
 
 class WireMessages : public Messages
 {
@@ -125,7 +125,7 @@ TEST_P(WireMessages, name_place_and_remedy)
     expectOnly("w.csv");
 }
 
-const MessageCase wireCases[] = {
+const MessageCase WIRE_CASES[] = {
     {"unknown_column", "wire,lenght\nW1,5\n",
      ":1: no column 'lenght'. Did you mean 'length'? The first line names the columns."},
     {"more_fields_than_columns", "wire,length\n\nW1,5,mm\n",
@@ -138,7 +138,7 @@ const MessageCase wireCases[] = {
      u8":2: column 'wire': EUC-JP has no '①' (U+2460). Use another character."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, WireMessages, testing::ValuesIn(wireCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, WireMessages, testing::ValuesIn(WIRE_CASES), CaseName);
 
 TEST(WireTable, has_no_more_wires_than_the_panel_reads)
 {
@@ -163,7 +163,7 @@ TEST_P(GroupMessages, name_place_and_remedy)
     expectOnly("screens/a.yaml");
 }
 
-const MessageCase groupCases[] = {
+const MessageCase GROUP_CASES[] = {
     {"group_with_a_wrong_key", "groups:\n  g: { itms: [], items: [] }\n",
      ":3: group 'g': unknown 'itms'. Did you mean 'items'? Write 'parameters' and 'items'."},
     {"group_without_items", "groups:\n  g: { parameters: [a] }\n",
@@ -204,7 +204,7 @@ const MessageCase groupCases[] = {
      ":2: 'exact' 'bytes': write an offset into the header's 466 bytes and pairs of hexadecimal digits."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, GroupMessages, testing::ValuesIn(groupCases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, GroupMessages, testing::ValuesIn(GROUP_CASES), CaseName);
 
 // --- what is told although it builds
 // ------------------------------------------------------------------------

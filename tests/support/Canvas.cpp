@@ -67,16 +67,16 @@ void Canvas::clear()
 {
     const GcPtr gc(gdk_gc_new(pixmap_));
     GdkColor fill{};
-    fill.red = (ground >> 16 & 0xFF) * 257;
-    fill.green = (ground >> 8 & 0xFF) * 257;
-    fill.blue = (ground & 0xFF) * 257;
+    fill.red = (GROUND >> 16 & 0xFF) * 257;
+    fill.green = (GROUND >> 8 & 0xFF) * 257;
+    fill.blue = (GROUND & 0xFF) * 257;
     gdk_gc_set_rgb_fg_color(gc.get(), &fill);
     gdk_draw_rectangle(pixmap_, gc.get(), TRUE, 0, 0, width_, height_);
 }
 
 Picture Canvas::blank() const
 {
-    return {width_, height_, ground};
+    return {width_, height_, GROUND};
 }
 
 Picture Canvas::picture() const

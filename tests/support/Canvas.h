@@ -19,7 +19,7 @@ void useFont(int number, int height);
 class Canvas
 {
   public:
-    static constexpr std::uint32_t ground = 0xFEDCBA;
+    static constexpr std::uint32_t GROUND = 0xFEDCBA;
 
     /// A pixmap of the display's depth, all `ground`.
     Canvas(int width, int height);

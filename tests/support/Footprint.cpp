@@ -92,7 +92,7 @@ testing::AssertionResult holdsNoMore(const Footprint& after, const Footprint& be
         return testing::AssertionFailure()
                << "on the server:" << text(after.resources) << ", " << after.pixmapBytes
                << " bytes of pixmaps; before:" << text(before.resources) << ", " << before.pixmapBytes;
-    if (after.heap - before.heap > kHeapSlack)
+    if (after.heap - before.heap > HEAP_SLACK)
         return testing::AssertionFailure()
                << "the heap has grown by " << after.heap - before.heap << " bytes";
     return testing::AssertionSuccess();

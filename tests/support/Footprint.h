@@ -18,9 +18,9 @@ Footprint footprint();
 /// the sanitizer the C library's sum is taken, which includes small blocks that it keeps back, at most seven
 /// of each of 64 sizes up to a kilobyte; with it, what was freed is never counted.
 #ifdef __SANITIZE_ADDRESS__
-constexpr long kHeapSlack = 16 * 1024;
+constexpr long HEAP_SLACK = 16 * 1024;
 #else
-constexpr long kHeapSlack = 256 * 1024;
+constexpr long HEAP_SLACK = 256 * 1024;
 #endif
 
 /// Success when both hold the same on the server, and the heap has grown by the slack at most. The work in

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr std::uint32_t kDifferent = 0xFF0000;
+constexpr std::uint32_t DIFFERENT = 0xFF0000;
 
 /// What the pixels depend on beside this project.
 std::string versions()
@@ -36,7 +36,7 @@ std::uint32_t pale(std::uint32_t rgb)
 Picture difference(const Picture& drawn, const Picture& expected)
 {
     Picture result(std::max(drawn.width(), expected.width()), std::max(drawn.height(), expected.height()),
-                   kDifferent);
+                   DIFFERENT);
     for (int y = 0; y < std::min(drawn.height(), expected.height()); y++)
         for (int x = 0; x < std::min(drawn.width(), expected.width()); x++)
             if (drawn.at(x, y) == expected.at(x, y))
@@ -104,7 +104,7 @@ testing::AssertionResult Goldens::check(const Picture& picture, const std::strin
                    << ".";
     }
     return result << "\n  When the picture drawn is right, this makes it the golden one:\n    "
-                  << kRenewCommand;
+                  << RENEW_COMMAND;
 }
 
 void expectGolden(const Picture& picture, const std::string& name, const char* file, int line)

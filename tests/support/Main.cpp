@@ -8,7 +8,7 @@
 // Asked by the sanitizers' run-time libraries; without them nobody calls these.
 extern "C" const char* __lsan_default_suppressions()
 {
-    return kLeakSuppressions;
+    return LEAK_SUPPRESSIONS;
 }
 
 extern "C" const char* __lsan_default_options()

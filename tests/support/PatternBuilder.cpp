@@ -16,7 +16,7 @@ struct Different {
     int index;
     std::int32_t value;
 };
-constexpr Different different[] = {
+constexpr Different DIFFERENT[] = {
     {PTRN_GBOX, GBOX_TOP_WIDTH, 2},   {PTRN_GBOX, GBOX_BOTTOM_WIDTH, 2}, {PTRN_GBOX, GBOX_LEFT_WIDTH, 2},
     {PTRN_GBOX, GBOX_RIGHT_WIDTH, 2}, {PTRN_BARG, BARG_FRAME_WIDTH, 0},  {PTRN_CHAR, FIELD_WIDTH, 5},
     {PTRN_NUMR, FIELD_WIDTH, 5},      {PTRN_RDIO, RDIO_VALUE, 1},        {PTRN_SBAR, SBAR_TROUGH_STEP, 5},
@@ -101,7 +101,7 @@ Pattern& Pattern::item(int type, int x1, int y1, int x2, int y2)
         for (const tessary::ParmSchema& row : schema->parms)
             for (int variant = 0; variant < row.count; ++variant)
                 parm(row.index + variant, defaultOf(row, variant));
-    for (const Different& row : different)
+    for (const Different& row : DIFFERENT)
         if (row.type == type)
             parm(row.index, row.value);
     return parm4(PARM_X1, x1, y1, x2, y2).parm(PARM_CLEAR, PARM_CLEAR);

@@ -10,7 +10,7 @@ using namespace tessary;
 namespace
 {
 
-constexpr char kSoftware[] = "tEXt::Software";
+constexpr char SOFTWARE[] = "tEXt::Software";
 
 } // namespace
 
@@ -119,7 +119,7 @@ bool Picture::save(const std::string& path, const std::string& software) const
             for (int shift = 16; shift >= 0; shift -= 8)
                 *target++ = static_cast<guchar>(at(x, y) >> shift);
     }
-    const char* key = software.empty() ? nullptr : kSoftware;
+    const char* key = software.empty() ? nullptr : SOFTWARE;
     return gdk_pixbuf_save(image.get(), path.c_str(), "png", nullptr, key, software.c_str(), nullptr);
 }
 
@@ -129,7 +129,7 @@ std::optional<Picture> Picture::load(const std::string& path, std::string* softw
     if (!image)
         return std::nullopt;
     if (software) {
-        const char* text = gdk_pixbuf_get_option(image.get(), kSoftware);
+        const char* text = gdk_pixbuf_get_option(image.get(), SOFTWARE);
         *software = text ? text : "";
     }
     Picture picture(gdk_pixbuf_get_width(image.get()), gdk_pixbuf_get_height(image.get()), 0);

@@ -27,7 +27,7 @@ Program::Program(const std::string& name, const std::string& argv0, const std::v
     std::string file = "/tmp/tessary-output-XXXXXX";
     const int output = mkstemp(file.data());
     outputFile_ = file;
-    writeFile(file + ".lsan", kLeakSuppressions);
+    writeFile(file + ".lsan", LEAK_SUPPRESSIONS);
 
     std::vector<char*> argv{const_cast<char*>(argv0.c_str())};
     for (const auto& argument : arguments)

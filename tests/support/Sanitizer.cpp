@@ -1,6 +1,6 @@
 #include "tests/support/Sanitizer.h"
 
-const char* const kLeakSuppressions = "leak:libfontconfig\n"
+const char* const LEAK_SUPPRESSIONS = "leak:libfontconfig\n"
                                       "leak:libpango\n"
                                       "leak:libcairo\n"
                                       "leak:libglib-2.0\n"

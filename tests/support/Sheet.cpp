@@ -10,13 +10,13 @@
 namespace
 {
 
-constexpr std::uint32_t kColors[] = {
+constexpr std::uint32_t COLORS[] = {
     0x000000, 0xFFFFFF, 0xF4F1E8, 0xDDD8C8, 0xC0C0C0, 0x808080, 0x404040, 0x102A54,
     0x1F5FBF, 0x9CC8F0, 0x1E7A3C, 0x8FD14F, 0xF2D024, 0xE88420, 0xD0282C, 0x6E1423,
 };
 
 /// One font for each character set of the locale ja_JP.eucJP. All come with xfonts-base.
-const std::map<int, std::vector<std::string>> kFonts = {
+const std::map<int, std::vector<std::string>> FONTS = {
     {14,
      {"-misc-fixed-medium-r-normal--14-130-75-75-c-70-iso8859-1",
       "-misc-fixed-medium-r-normal--14-130-75-75-c-140-jisx0208.1983-0",
@@ -44,7 +44,7 @@ std::vector<std::string> loadedNames(GdkFont* font)
 void useBitmapFont(int number, int height)
 {
     useToolkit();
-    const auto& names = kFonts.at(height);
+    const auto& names = FONTS.at(height);
     std::string list;
     for (const std::string& name : names)
         list += (list.empty() ? "" : ",") + name;
@@ -59,7 +59,7 @@ void useSheet()
 {
     usePalette();
     int number = 0;
-    for (const std::uint32_t rgb : kColors) {
+    for (const std::uint32_t rgb : COLORS) {
         const auto component = [&](int shift) { return static_cast<int>(rgb >> shift & 0xFF) * 257; };
         setColor(number++, component(16), component(8), component(0));
     }

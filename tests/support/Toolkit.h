@@ -9,12 +9,12 @@
 /// that main() has set.
 inline void useToolkit()
 {
-    static const bool ready = [] {
+    static const bool READY = [] {
         XServer::ensure();
         gtk_disable_setlocale();
         gtk_init(nullptr, nullptr);
         gdk_rgb_init();
         return true;
     }();
-    static_cast<void>(ready);
+    static_cast<void>(READY);
 }

@@ -54,4 +54,4 @@ bool renewsGoldens()
     return text && *text && std::strcmp(text, "0") != 0;
 }
 
-const char* const kRenewCommand = "TESSARY_RENEW_GOLDENS=1 ctest --preset sanitize -R Golden";
+const char* const RENEW_COMMAND = "TESSARY_RENEW_GOLDENS=1 ctest --preset sanitize -R Golden";

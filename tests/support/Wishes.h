@@ -16,4 +16,4 @@ int stepCount(int usual);
 /// TESSARY_RENEW_GOLDENS is set to something but 0: golden pictures that differ or are missing are written.
 bool renewsGoldens();
 /// The command that has them written.
-extern const char* const kRenewCommand;
+extern const char* const RENEW_COMMAND;

@@ -22,10 +22,10 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-constexpr std::chrono::seconds patience(20);
-constexpr guint pollMilliseconds = 5;
+constexpr std::chrono::seconds PATIENCE(20);
+constexpr guint POLL_MILLISECONDS = 5;
 /// Of a pixel that is to be drawn over; no screen has it.
-constexpr std::uint32_t blotColor = 0xFE01FD;
+constexpr std::uint32_t BLOT_COLOR = 0xFE01FD;
 
 struct Release {
     void operator()(void* memory) const { XFree(memory); }
@@ -142,7 +142,7 @@ void XDriver::release(unsigned button)
     XSync(display_, False);
     // A window manager holds back the press, and the release with it, until it has looked at them. The server
     // may lose what follows before that, which no user's hand is fast enough for.
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + PATIENCE;
     while (isPressed(button)) {
         if (Clock::now() > deadline) {
             ADD_FAILURE() << "button " << button << " stays pressed";
@@ -230,8 +230,8 @@ bool XDriver::waitFor(const std::function<bool()>& condition, const std::string&
 {
     // The timer wakes the loop for conditions that no event of this process announces.
     const guint timer = g_timeout_add(
-        pollMilliseconds, [](gpointer) -> gboolean { return TRUE; }, nullptr);
-    const auto deadline = Clock::now() + patience;
+        POLL_MILLISECONDS, [](gpointer) -> gboolean { return TRUE; }, nullptr);
+    const auto deadline = Clock::now() + PATIENCE;
     bool holds = condition();
     while (!holds && Clock::now() < deadline) {
         g_main_context_iteration(nullptr, TRUE);
@@ -247,7 +247,7 @@ bool XDriver::waitFor(const std::function<bool()>& condition, const std::string&
 
 void XDriver::settle()
 {
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + PATIENCE;
     for (bool busy = true; busy;) {
         // The round trips bring everything that the server has sent so far into the event queue.
         XSync(display_, False);
@@ -344,7 +344,7 @@ void XDriver::blot(const ScreenWindow& window)
 {
     const ErrorTrap trap(display_);
     XGCValues values{};
-    values.foreground = blotColor;
+    values.foreground = BLOT_COLOR;
     values.subwindow_mode = IncludeInferiors;
     GC gc = XCreateGC(display_, DefaultRootWindow(display_), GCForeground | GCSubwindowMode, &values);
     XFillRectangle(display_, window.id, gc, 0, 0, 1, 1);
@@ -357,7 +357,7 @@ ScreenWindow XDriver::waitForDrawn(const std::string& title)
     do {
         window = waitForWindow(title);
         blot(window);
-        waitFor([&] { return pixel(window.x, window.y) != blotColor; }, EucToUtf8(title) + " to be drawn");
+        waitFor([&] { return pixel(window.x, window.y) != BLOT_COLOR; }, EucToUtf8(title) + " to be drawn");
     } while (waitForWindow(title).id != window.id);
     return window;
 }

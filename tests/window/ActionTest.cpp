@@ -15,14 +15,14 @@ using testing::Not;
 namespace
 {
 
-constexpr int rows = 20;
+constexpr int ROWS = 20;
 
 /// A button for each action code, numbered from the top left; its data number is its code.
 Pattern buttons(const std::string& name, const std::string& target = "")
 {
     Pattern pattern(name);
     pattern.size(200, 150).header(HEDR_KIND, 2).header(HEDR_MODELESS, 1);
-    for (int code = 0; code < rows; code++)
+    for (int code = 0; code < ROWS; code++)
         pattern.item(PTRN_BUTN, code % 5 * 40, code / 5 * 30, code % 5 * 40 + 35, code / 5 * 30 + 25)
             .code("D", code - 1)
             .action(code, target);

@@ -309,7 +309,7 @@ namespace
 class ThumbDragging : public Dragging
 {
   protected:
-    static constexpr int number = 100;
+    static constexpr int NUMBER = 100;
 
     CPtrnDisp* openBar(int action = 1)
     {
@@ -328,7 +328,7 @@ class ThumbDragging : public Dragging
         return wnd;
     }
 
-    static int value() { return Get_iData(number, nullptr, 0); }
+    static int value() { return Get_iData(NUMBER, nullptr, 0); }
     Calls messages() const { return callsOf({"mesg"}); }
 };
 

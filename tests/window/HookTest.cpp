@@ -17,7 +17,7 @@ namespace
 using Deed = std::function<void(CPtrnDisp&)>;
 
 /// What a hook does to the window that it belongs to.
-const std::map<std::string, Deed> deeds = {
+const std::map<std::string, Deed> DEEDS = {
     {"close", [](CPtrnDisp& wnd) { wnd.PtrnCloseWnd(0, nullptr, 0); }},
     {"close twice",
      [](CPtrnDisp& wnd) {
@@ -111,7 +111,7 @@ class HookDeeds : public Screen, public testing::WithParamInterface<int>
                        const std::function<void(CPtrnDisp*)>& cause, bool atOpening = false,
                        const std::string& skipped = "")
     {
-        for (const auto& [name, deed] : deeds) {
+        for (const auto& [name, deed] : DEEDS) {
             SCOPED_TRACE(name);
             if (name == skipped)
                 continue;

@@ -53,10 +53,10 @@ void setCalls(gpointer type, gpointer)
 
 GType fakeContextType()
 {
-    static const GType type =
+    static const GType TYPE =
         g_type_register_static_simple(GTK_TYPE_IM_CONTEXT, "FakeContext", sizeof(FakeContextClass), setCalls,
                                       sizeof(FakeContext), nullptr, GTypeFlags(0));
-    return type;
+    return TYPE;
 }
 
 class AnInputMethod : public KeyEdit
@@ -208,16 +208,16 @@ TEST_F(AnInputMethod, shows_what_is_composed_in_its_own_window_at_the_cursor)
     open(fields("p").header(HEDR_LEFT, 200).header(HEDR_TOP, 100));
     EXPECT_THAT(own.told, ElementsAre("preedit in its own window"));
     AppliWnd->PtrnSetOffset(0, 5, 10, nullptr, 0);
-    click(AppliWnd, left, top(TEXT) - 10 + 5);
+    click(AppliWnd, LEFT, top(TEXT) - 10 + 5);
     ASSERT_TRUE(editing());
     EXPECT_EQ(own.client, AppliWnd->Widget->window);
-    EXPECT_EQ(own.place.x, left - 5);
+    EXPECT_EQ(own.place.x, LEFT - 5);
     EXPECT_EQ(own.place.y, top(TEXT) - 10);
-    EXPECT_EQ(own.place.height, line);
+    EXPECT_EQ(own.place.height, LINE);
     own.commit(utf8("漢"));
-    EXPECT_EQ(own.place.x, left - 5 + 2 * cell);
+    EXPECT_EQ(own.place.x, LEFT - 5 + 2 * CELL);
     key(XK_Left);
-    EXPECT_EQ(own.place.x, left - 5);
+    EXPECT_EQ(own.place.x, LEFT - 5);
 }
 
 TEST_F(AnInputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboard)
@@ -229,7 +229,7 @@ TEST_F(AnInputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboa
     own.key = [](GdkEventKey*) { return true; };
     moveTo(child, 200, 150);
     key(XK_a);
-    EXPECT_EQ(own.place.x, left - 500);
+    EXPECT_EQ(own.place.x, LEFT - 500);
     EXPECT_EQ(own.place.y, top(TEXT) - 300);
 }
 
@@ -356,13 +356,13 @@ TEST_F(NoInputMethod, every_key_types_what_its_low_byte_says)
             empty();
             send(symbol);
             ASSERT_TRUE(editing()) << symbol;
-            static const std::map<guint, char> keypad = {
+            static const std::map<guint, char> KEYPAD = {
                 {GDK_KP_Multiply, '*'}, {GDK_KP_Add, '+'}, {GDK_KP_Separator, '.'}, {GDK_KP_Subtract, '-'},
                 {GDK_KP_Divide, '/'},   {GDK_KP_0, '0'},   {GDK_KP_1, '1'},         {GDK_KP_2, '2'},
                 {GDK_KP_3, '3'},        {GDK_KP_4, '4'},   {GDK_KP_5, '5'},         {GDK_KP_6, '6'},
                 {GDK_KP_7, '7'},        {GDK_KP_8, '8'},   {GDK_KP_9, '9'}};
-            const auto printed = keypad.find(symbol);
-            const guint byte = printed != keypad.end() ? static_cast<guint>(printed->second) : low;
+            const auto printed = KEYPAD.find(symbol);
+            const guint byte = printed != KEYPAD.end() ? static_cast<guint>(printed->second) : low;
             const bool half = byte >= 161 && byte <= 254;
             const bool printable = byte >= 0x20 && byte < 0x7F;
             EXPECT_EQ(text(), printable ? std::string(1, static_cast<char>(byte)) : "") << symbol;

@@ -13,9 +13,9 @@ namespace
 class KeyDisplay : public KeyEdit
 {
   protected:
-    static constexpr int shown = HEDR_EDIT_COLOR; ///< colours of the cursor
-    static constexpr int hidden = HEDR_EDIT_BACK;
-    static constexpr int none = -1;
+    static constexpr int SHOWN = HEDR_EDIT_COLOR; ///< colours of the cursor
+    static constexpr int HIDDEN = HEDR_EDIT_BACK;
+    static constexpr int NONE = -1;
 
     void SetUp() override
     {
@@ -43,17 +43,17 @@ class KeyDisplay : public KeyEdit
 TEST_F(KeyDisplay, the_field_is_drawn_at_once_in_the_pattern_s_colours_for_editing)
 {
     edit(TEXT);
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, none)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, NONE)));
     edit(NUMBER);
-    EXPECT_TRUE(same(drawn(NUMBER), inEdit(5, "   12", 5, none)));
+    EXPECT_TRUE(same(drawn(NUMBER), inEdit(5, "   12", 5, NONE)));
 }
 
 TEST_F(KeyDisplay, the_cursor_appears_at_the_next_tick_and_is_on_the_screen)
 {
     edit(TEXT);
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, shown)));
-    EXPECT_EQ(pixel(AppliWnd, left, top(TEXT) + 8), color(HEDR_EDIT_COLOR));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, SHOWN)));
+    EXPECT_EQ(pixel(AppliWnd, LEFT, top(TEXT) + 8), color(HEDR_EDIT_COLOR));
 }
 
 TEST_F(KeyDisplay, the_cursor_is_shown_for_5_ticks_and_hidden_for_2)
@@ -69,11 +69,11 @@ TEST_F(KeyDisplay, the_blinking_cursor_is_drawn_and_wiped)
 {
     edit(TEXT);
     tick(5);
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, SHOWN)));
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, hidden)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, HIDDEN)));
     tick(2);
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, SHOWN)));
 }
 
 TEST_F(KeyDisplay, a_key_redraws_the_text_without_the_cursor)
@@ -81,11 +81,11 @@ TEST_F(KeyDisplay, a_key_redraws_the_text_without_the_cursor)
     edit(TEXT);
     tick();
     type("X");
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xabc", 1, none)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xabc", 1, NONE)));
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xabc", 1, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xabc", 1, SHOWN)));
     key(XK_Delete);
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xbc", 1, none)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "Xbc", 1, NONE)));
 }
 
 TEST_F(KeyDisplay, a_cursor_that_moves_leaves_no_trace)
@@ -93,10 +93,10 @@ TEST_F(KeyDisplay, a_cursor_that_moves_leaves_no_trace)
     edit(TEXT);
     tick();
     key(XK_Right);
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, hidden))) << "wiped where it was";
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "abc", 0, HIDDEN))) << "wiped where it was";
     tick();
-    Picture expected = inEdit(8, "abc", 1, shown);
-    for (int y = 0; y < line; y++) // the line that was wiped after the text was drawn
+    Picture expected = inEdit(8, "abc", 1, SHOWN);
+    for (int y = 0; y < LINE; y++) // the line that was wiped after the text was drawn
         expected.set(0, y, color(HEDR_EDIT_BACK));
     EXPECT_TRUE(same(drawn(TEXT), expected));
 }
@@ -115,20 +115,20 @@ TEST_F(KeyDisplay, each_bit_of_the_mode_draws_its_own_part)
 {
     edit(TEXT);
     key(XK_Right);
-    Canvas canvas(100, line + 4);
+    Canvas canvas(100, LINE + 4);
     const PaintDrawPtr draw(new CPaintDraw(AppliWnd->Pixmap));
     const auto expectDrawn = [&](int mode) {
         AppliWnd->KeyInputDisp(draw.get(), mode);
         EXPECT_TRUE(same(drawn(TEXT), canvas.picture())) << mode;
     };
-    canvas->DrawRect(0, 0, 100, line + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
-    canvas->DrawRect(0, 0, 64, line, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
+    canvas->DrawRect(0, 0, 100, LINE + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
+    canvas->DrawRect(0, 0, 64, LINE, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
     expectDrawn(1);
     canvas->DrawText(0, 0, 0, HEDR_EDIT_COLOR, HEDR_EDIT_BACK, "abc");
     expectDrawn(2);
-    canvas->DrawLine(cell, 0, cell, line, 0, 1, 0, HEDR_EDIT_COLOR);
+    canvas->DrawLine(CELL, 0, CELL, LINE, 0, 1, 0, HEDR_EDIT_COLOR);
     expectDrawn(4);
-    canvas->DrawLine(cell, 0, cell, line, 0, 1, 0, HEDR_EDIT_BACK);
+    canvas->DrawLine(CELL, 0, CELL, LINE, 0, 1, 0, HEDR_EDIT_BACK);
     expectDrawn(8);
 }
 
@@ -137,7 +137,7 @@ TEST_F(KeyDisplay, two_byte_characters_are_two_cells_wide)
     edit(TEXT);
     sendBytes("漢");
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "漢abc", 2, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "漢abc", 2, SHOWN)));
 }
 
 TEST_F(KeyDisplay, a_field_without_background_is_drawn_over_what_was_in_edit)
@@ -146,11 +146,11 @@ TEST_F(KeyDisplay, a_field_without_background_is_drawn_over_what_was_in_edit)
     tick();
     key(XK_Escape);
     // The cursor is wiped, then the item's text drawn.
-    Canvas canvas(100, line + 4);
-    canvas->DrawRect(0, 0, 100, line + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
-    canvas->DrawRect(0, 0, 64, line, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
+    Canvas canvas(100, LINE + 4);
+    canvas->DrawRect(0, 0, 100, LINE + 4, 0, 0, HEDR_BODY_COLOR, HEDR_BODY_COLOR);
+    canvas->DrawRect(0, 0, 64, LINE, 0, 0, HEDR_EDIT_BACK, HEDR_EDIT_BACK);
     canvas->DrawText(0, 0, 0, HEDR_EDIT_COLOR, HEDR_EDIT_BACK, "abc");
-    canvas->DrawLine(0, 0, 0, line, 0, 1, 0, HEDR_EDIT_BACK);
+    canvas->DrawLine(0, 0, 0, LINE, 0, 1, 0, HEDR_EDIT_BACK);
     canvas->DrawText(0, 0, 0, TEXT_COLOR4, -1, "abc");
     EXPECT_TRUE(same(drawn(TEXT), canvas.picture()));
 }
@@ -159,7 +159,7 @@ TEST_F(KeyDisplay, a_field_with_background_shows_what_was_stored)
 {
     know(Pattern("q")
              .size(300, 200)
-             .item(PTRN_CHAR, left, top(TEXT), left + 60, top(TEXT) + line)
+             .item(PTRN_CHAR, LEFT, top(TEXT), LEFT + 60, top(TEXT) + LINE)
              .parm(FIELD_WIDTH, 8)
              .parm(FIELD_KEYENTRY, 1)
              .parm(TEXT_BACKED, 1)
@@ -169,13 +169,13 @@ TEST_F(KeyDisplay, a_field_with_background_shows_what_was_stored)
     tick();
     type("zz");
     key(XK_Return);
-    Canvas canvas(64, line);
-    canvas->DrawRect(0, 0, 64, line, 0, 0, TEXT_BACK4, TEXT_BACK4);
+    Canvas canvas(64, LINE);
+    canvas->DrawRect(0, 0, 64, LINE, 0, 0, TEXT_BACK4, TEXT_BACK4);
     canvas->DrawText(0, 0, 0, TEXT_COLOR4, TEXT_BACK4, "zzabc");
-    EXPECT_TRUE(same(bufferPicture(AppliWnd, left, top(TEXT), 64, line), canvas.picture()))
+    EXPECT_TRUE(same(bufferPicture(AppliWnd, LEFT, top(TEXT), 64, LINE), canvas.picture()))
         << "at once, not at the next tick";
     tick();
-    EXPECT_TRUE(same(bufferPicture(AppliWnd, left, top(TEXT), 64, line), canvas.picture()));
+    EXPECT_TRUE(same(bufferPicture(AppliWnd, LEFT, top(TEXT), 64, LINE), canvas.picture()));
 }
 
 TEST_F(KeyDisplay, a_change_of_the_cell_does_not_disturb_the_field_in_edit)
@@ -184,7 +184,7 @@ TEST_F(KeyDisplay, a_change_of_the_cell_does_not_disturb_the_field_in_edit)
     type("x");
     Set_sData(TEXT, "other", nullptr, 0);
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, SHOWN)));
     key(XK_Escape);
     EXPECT_EQ(string(TEXT), "other");
 }
@@ -194,9 +194,9 @@ TEST_F(KeyDisplay, a_repaint_keeps_the_field_in_edit)
     edit(TEXT);
     type("x");
     AppliWnd->PaintEvent();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, none)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, NONE)));
     tick();
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, shown)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "xabc", 1, SHOWN)));
 }
 
 TEST_F(KeyDisplay, an_edit_may_be_started_before_the_window_is_painted)
@@ -205,7 +205,7 @@ TEST_F(KeyDisplay, an_edit_may_be_started_before_the_window_is_painted)
     hooks.init = [](CPtrnDisp& wnd) { wnd.KeyInputStart(TEXT, nullptr, 0); };
     openTop("q");
     EXPECT_TRUE(editing());
-    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "", 0, none)));
+    EXPECT_TRUE(same(drawn(TEXT), inEdit(8, "", 0, NONE)));
     type("hi");
     EXPECT_EQ(text(), "hi");
 }
@@ -215,11 +215,11 @@ TEST_F(KeyDisplay, the_field_in_edit_is_not_hit_and_a_press_on_it_ends_the_input
     edit(TEXT);
     tick();
     PTRNDATA item{};
-    EXPECT_EQ(AppliWnd->PtrnTestData({left + 5, top(TEXT) + 5}, &item), 0);
-    click(AppliWnd, left + 5, top(TEXT) + 5);
+    EXPECT_EQ(AppliWnd->PtrnTestData({LEFT + 5, top(TEXT) + 5}, &item), 0);
+    click(AppliWnd, LEFT + 5, top(TEXT) + 5);
     EXPECT_FALSE(editing());
     tick();
-    click(AppliWnd, left + 5, top(TEXT) + 5);
+    click(AppliWnd, LEFT + 5, top(TEXT) + 5);
     EXPECT_TRUE(editing());
 }
 

@@ -19,15 +19,15 @@ inline constexpr int TEXT = 103;    ///< eight bytes at 20,110
 class KeyEdit : public Screen
 {
   protected:
-    static constexpr int left = 20;
-    static constexpr int cell = 8;
-    static constexpr int line = 16;
+    static constexpr int LEFT = 20;
+    static constexpr int CELL = 8;
+    static constexpr int LINE = 16;
 
     void SetUp() override { project.code("SYSTEM", 99).code("D", 20).flag(NUMBER).flag(TEXT); }
 
     static Pattern fields(const std::string& name, int navigation = 0)
     {
-        const auto box = [](int y) { return SetRect(left, y, left + 60, y + line); };
+        const auto box = [](int y) { return SetRect(LEFT, y, LEFT + 60, y + LINE); };
         Pattern pattern(name);
         pattern.size(300, 200).header(tessary::HEDR_KIND, 2);
         pattern.item(PTRN_NUMR, box(20)).code("D", 0);
@@ -60,7 +60,7 @@ class KeyEdit : public Screen
     /// Clicks into a field of the window.
     void edit(int number, CPtrnDisp* wnd = AppliWnd)
     {
-        click(wnd, left + 5, top(number) + 5);
+        click(wnd, LEFT + 5, top(number) + 5);
         // A window manager may look at the click first.
         ASSERT_TRUE(user.waitFor([&] { return wnd->KeyInputMode == 1; }, "the edit"));
         ASSERT_EQ(edited(wnd), number);
@@ -99,15 +99,15 @@ class KeyEdit : public Screen
 
     /// The field and what surrounds it, as drawn and as a field in edit has to look.
     /// @param cursorColor  -1 none
-    static Picture drawn(int no) { return bufferPicture(AppliWnd, left, top(no), 100, line + 4); }
+    static Picture drawn(int no) { return bufferPicture(AppliWnd, LEFT, top(no), 100, LINE + 4); }
     static Picture inEdit(int width, const std::string& shown, int at, int cursorColor)
     {
-        Canvas canvas(100, line + 4);
-        canvas->DrawRect(0, 0, 100, line + 4, 0, 0, tessary::HEDR_BODY_COLOR, tessary::HEDR_BODY_COLOR);
-        canvas->DrawRect(0, 0, cell * width, line, 0, 0, tessary::HEDR_EDIT_BACK, tessary::HEDR_EDIT_BACK);
+        Canvas canvas(100, LINE + 4);
+        canvas->DrawRect(0, 0, 100, LINE + 4, 0, 0, tessary::HEDR_BODY_COLOR, tessary::HEDR_BODY_COLOR);
+        canvas->DrawRect(0, 0, CELL * width, LINE, 0, 0, tessary::HEDR_EDIT_BACK, tessary::HEDR_EDIT_BACK);
         canvas->DrawText(0, 0, 0, tessary::HEDR_EDIT_COLOR, tessary::HEDR_EDIT_BACK, shown.c_str());
         if (cursorColor >= 0)
-            canvas->DrawLine(cell * at, 0, cell * at, line, 0, 1, 0, cursorColor);
+            canvas->DrawLine(CELL * at, 0, CELL * at, LINE, 0, 1, 0, cursorColor);
         return canvas.picture();
     }
 

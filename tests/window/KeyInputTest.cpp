@@ -19,7 +19,7 @@ class KeyInput : public KeyEdit
 {
 };
 
-constexpr char here[] = "screen.cpp";
+constexpr char HERE[] = "screen.cpp";
 
 } // namespace
 
@@ -211,7 +211,7 @@ TEST_F(KeyInput, a_value_beyond_its_limits_stays_in_edit_with_its_message)
     EXPECT_EQ(string(DTNO_SYSEROR), "too high");
     EXPECT_EQ(Get_wData(DTNO_SYSEROR, nullptr, 0) & STATE_COLOR, 1);
     EXPECT_THAT(callsOf({"keyfunc"}), IsEmpty());
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_TAB, 0, here, 1), 0);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_TAB, 0, HERE, 1), 0);
 
     key(XK_BackSpace);
     EXPECT_EQ(text(), "  06 ");
@@ -390,7 +390,7 @@ TEST_F(KeyInput, does_nothing_with_keys_while_no_field_is_in_edit)
     for (const unsigned long symbol : {XK_Return, XK_Escape, XK_Tab, XK_Left, XK_Delete, XK_BackSpace, XK_Up})
         key(symbol);
     EXPECT_THAT(callsOf({"keystart", "keyfunc"}), IsEmpty());
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_RETURN, 0, here, 1), 1);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_RETURN, 0, HERE, 1), 1);
     EXPECT_THAT(project.log(), IsEmpty());
 }
 

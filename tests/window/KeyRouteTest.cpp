@@ -179,14 +179,14 @@ TEST_F(KeyRoute, shift_and_tab_arrive_as_such)
 namespace
 {
 
-constexpr unsigned long nobody = 0;
-constexpr unsigned long underPointer = 1;
+constexpr unsigned long NOBODY = 0;
+constexpr unsigned long UNDER_POINTER = 1;
 
 } // namespace
 
 TEST_F(KeyRoute, keys_arrive_at_the_window_under_the_pointer)
 {
-    EXPECT_EQ(keyboardOwner(), underPointer);
+    EXPECT_EQ(keyboardOwner(), UNDER_POINTER);
     edit(TEXT);
     type("a");
     EXPECT_EQ(text(), "a");
@@ -194,9 +194,9 @@ TEST_F(KeyRoute, keys_arrive_at_the_window_under_the_pointer)
 
 TEST_F(KeyRoute, a_keyboard_that_nobody_has_is_freed_when_a_window_opens)
 {
-    setKeyboardOwner(nobody);
+    setKeyboardOwner(NOBODY);
     openTop("other");
-    EXPECT_EQ(keyboardOwner(), underPointer);
+    EXPECT_EQ(keyboardOwner(), UNDER_POINTER);
     edit(TEXT);
     type("a");
     EXPECT_EQ(text(), "a");
@@ -209,7 +209,7 @@ TEST_F(KeyRoute, another_program_keeps_its_keyboard_until_a_panel_window_is_pres
     openTop("other");
     EXPECT_EQ(keyboardOwner(), other.id());
     edit(TEXT);
-    EXPECT_EQ(keyboardOwner(), underPointer);
+    EXPECT_EQ(keyboardOwner(), UNDER_POINTER);
     type("a");
     EXPECT_EQ(text(), "a");
 }

@@ -15,7 +15,7 @@ class KeyInputStart : public KeyEdit
 {
 };
 
-constexpr char here[] = "screen.cpp";
+constexpr char HERE[] = "screen.cpp";
 
 } // namespace
 
@@ -25,7 +25,7 @@ TEST_F(KeyInputStart, happens_by_a_click_with_the_value_and_the_cursor_at_the_en
     Set_fData(NUMBER, 12, nullptr, 0);
     tick();
     calls.clear();
-    click(AppliWnd, left + 5, top(NUMBER) + 5);
+    click(AppliWnd, LEFT + 5, top(NUMBER) + 5);
     EXPECT_TRUE(editing());
     EXPECT_EQ(text(), "   12");
     EXPECT_EQ(cursor(), 5);
@@ -39,7 +39,7 @@ TEST_F(KeyInputStart, of_a_text_puts_the_cursor_at_its_start)
     open(fields("p"));
     Set_sData(TEXT, "abc", nullptr, 0);
     tick();
-    click(AppliWnd, left + 5, top(TEXT) + 5);
+    click(AppliWnd, LEFT + 5, top(TEXT) + 5);
     EXPECT_EQ(text(), "abc");
     EXPECT_EQ(cursor(), 0);
     EXPECT_TRUE(frozen(TEXT));
@@ -50,7 +50,7 @@ TEST_F(KeyInputStart, may_be_refused_by_the_hook)
     open(fields("p"));
     for (const int answer : {0, 2, -1}) {
         hooks.keyStart = [=](CPtrnDisp&, PTRNDATA*) { return answer; };
-        click(AppliWnd, left + 5, top(NUMBER) + 5);
+        click(AppliWnd, LEFT + 5, top(NUMBER) + 5);
         EXPECT_FALSE(editing());
         EXPECT_FALSE(frozen(NUMBER));
     }
@@ -85,15 +85,15 @@ TEST_F(KeyInputStart, started_by_the_hook_itself_ends_for_the_field_that_was_ask
 TEST_F(KeyInputStart, from_code_says_so)
 {
     open(fields("p"));
-    AppliWnd->KeyInputStart(NUMBER, here, 5);
+    AppliWnd->KeyInputStart(NUMBER, HERE, 5);
     EXPECT_TRUE(editing());
     const auto log = project.log();
     ASSERT_EQ(log.size(), 1u);
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
     EXPECT_EQ(log[0].mesg2, "キー入力開始  [D+0]");
-    EXPECT_EQ(log[0].file, here);
+    EXPECT_EQ(log[0].file, HERE);
     EXPECT_EQ(log[0].line, 5);
-    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_ESCAPE, 0, here, 6), 1);
+    EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_ESCAPE, 0, HERE, 6), 1);
     EXPECT_EQ(project.messages().back(), "キー入力終了  [D+0]");
     AppliWnd->KeyInputStart(NUMBER, nullptr, 0);
     EXPECT_EQ(AppliWnd->KeyInputStop(KEYVAL_ESCAPE, 0, nullptr, 0), 1);
@@ -117,7 +117,7 @@ TEST_F(KeyInputStart, from_code_logs_a_number_without_a_field_always)
 {
     open(Pattern("p").item(PTRN_BUTN, 20, 20, 60, 36).code("D", 0));
     AppliWnd->KeyInputStart(NUMBER, nullptr, 0);
-    AppliWnd->KeyInputStart(12345, here, 1);
+    AppliWnd->KeyInputStart(12345, HERE, 1);
     const auto log = project.log();
     ASSERT_EQ(log.size(), 2u);
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
@@ -133,14 +133,14 @@ TEST_F(KeyInputStart, from_code_is_silently_refused_by_a_field_that_may_not_be_e
     for (const int state : {STATE_DISABLE, STATE_HIDDEN, STATE_DISABLE | STATE_HIDDEN}) {
         Set_wData(NUMBER, static_cast<WORD>(state), nullptr, 0);
         tick();
-        AppliWnd->KeyInputStart(NUMBER, here, 1);
+        AppliWnd->KeyInputStart(NUMBER, HERE, 1);
         EXPECT_FALSE(editing());
     }
     Set_wData(NUMBER, STATE_FLICKER | STATE_FROZEN | 3, nullptr, 0);
     tick();
     AppliWnd->KeyInputStart(NUMBER, nullptr, 0);
     EXPECT_TRUE(editing()) << "only disabled and hidden fields refuse";
-    AppliWnd->KeyInputStart(104, here, 1); // key entry is 2
+    AppliWnd->KeyInputStart(104, HERE, 1); // key entry is 2
     EXPECT_EQ(edited(), NUMBER);
     EXPECT_THAT(project.log(), IsEmpty());
     EXPECT_THAT(callsOf({"keystart"}), ElementsAre("keystart 100"));

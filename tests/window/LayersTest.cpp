@@ -38,12 +38,12 @@ TEST_F(WindowLayers, keep_a_field_in_edit_above)
     tick();
     edit(TEXT);
     tick();
-    const Picture before = bufferPicture(AppliWnd, left, top(TEXT), cell * 8, line);
+    const Picture before = bufferPicture(AppliWnd, LEFT, top(TEXT), CELL * 8, LINE);
     setState(BOX, 2);
     tick();
     EXPECT_EQ(bufferPixel(AppliWnd, 5, 5), color(42)) << "the box has changed";
-    EXPECT_EQ(bufferPixel(AppliWnd, left - 1, top(TEXT)), color(42));
-    EXPECT_TRUE(same(bufferPicture(AppliWnd, left, top(TEXT), cell * 8, line), before));
+    EXPECT_EQ(bufferPixel(AppliWnd, LEFT - 1, top(TEXT)), color(42));
+    EXPECT_TRUE(same(bufferPicture(AppliWnd, LEFT, top(TEXT), CELL * 8, LINE), before));
 }
 
 TEST_F(WindowLayers, are_restored_where_a_screen_class_redraws_a_number)
@@ -55,7 +55,7 @@ TEST_F(WindowLayers, are_restored_where_a_screen_class_redraws_a_number)
         CPaintDraw draw(AppliWnd->Pixmap);
         AppliWnd->PtrnDispData(&draw, TEXT, PTRN_CHAR);
         g_object_unref(draw.gc);
-        return bufferPicture(AppliWnd, left, top(TEXT), 64, line);
+        return bufferPicture(AppliWnd, LEFT, top(TEXT), 64, LINE);
     };
     open(fieldsOverBox());
     const Picture printedOver = redrawn();
@@ -64,7 +64,7 @@ TEST_F(WindowLayers, are_restored_where_a_screen_class_redraws_a_number)
     const UseEdition edition;
     openTop("p");
     EXPECT_FALSE(same(redrawn(), printedOver));
-    Canvas expected(64, line);
+    Canvas expected(64, LINE);
     expected->ClearScreen(40);
     expected->DrawText(0, 0, 0, 4, -1, "O");
     EXPECT_TRUE(same(redrawn(), expected.picture()));

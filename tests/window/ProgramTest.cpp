@@ -14,8 +14,8 @@ using testing::HasSubstr;
 namespace
 {
 
-const char* const child1 = "子ウィンドウ (1)";
-const char* const child2 = "子ウィンドウ (2)";
+const char* const CHILD1 = "子ウィンドウ (1)";
+const char* const CHILD2 = "子ウィンドウ (2)";
 
 /// The parameter tells whether a window manager runs.
 class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
@@ -29,7 +29,7 @@ class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
             manager.emplace();
             manager->waitReady();
         }
-        Pattern(child1)
+        Pattern(CHILD1)
             .size(200, 120)
             .header(HEDR_KIND, 1)
             .header(HEDR_REMEMBER, 1)
@@ -38,22 +38,22 @@ class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
             .text("close")
             .action(9)
             .save(project);
-        Pattern(child2)
+        Pattern(CHILD2)
             .size(150, 80)
             .header(HEDR_KIND, 2)
             .header(HEDR_LEFT, 900)
             .header(HEDR_MODELESS, 1)
             .save(project);
-        Pattern(notice).size(100, 60).header(HEDR_KIND, 2).header(HEDR_LEFT, 600).save(project);
-        Pattern(menu)
+        Pattern(NOTICE).size(100, 60).header(HEDR_KIND, 2).header(HEDR_LEFT, 600).save(project);
+        Pattern(MENU)
             .size(500, 300)
             .header(HEDR_KIND, 0)
             .item(PTRN_BUTN, 10, 10, 90, 40)
             .text("child")
-            .action(5, child1)
+            .action(5, CHILD1)
             .item(PTRN_BUTN, 110, 10, 190, 40)
             .text("second")
-            .action(6, child2)
+            .action(6, CHILD2)
             .item(PTRN_BUTN, 210, 10, 290, 40)
             .text("stop")
             .action(16)
@@ -68,7 +68,7 @@ class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
             .code("DATA", 150)
             .save(project);
         run();
-        user.waitForWindow(menu);
+        user.waitForWindow(MENU);
         user.waitFor([&] { return user.pixel(12, 152) == color(TEXT_BACK4); }, "the menu to be painted");
     }
 
@@ -116,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Desktops, ProgramWindows, testing::Bool(), managed);
 
 TEST_P(ProgramWindows, opens_drags_and_closes_a_child_and_remembers_its_place)
 {
-    const ScreenWindow first = open(50, 25, child1);
+    const ScreenWindow first = open(50, 25, CHILD1);
     EXPECT_EQ(first.x, (1280 - 200) / 2);
     EXPECT_EQ(first.y, (1024 - 120) / 2);
 
@@ -125,18 +125,18 @@ TEST_P(ProgramWindows, opens_drags_and_closes_a_child_and_remembers_its_place)
     user.press();
     for (int i = 1; i <= 6; i++) {
         user.move(first.x + 100 - i * 5, first.y + 10 + i);
-        user.waitFor([&] { return user.waitForWindow(child1).x == first.x - i * 5; }, "the window");
+        user.waitFor([&] { return user.waitForWindow(CHILD1).x == first.x - i * 5; }, "the window");
     }
     user.release();
     user.clickAt(first.x - 30 + 50, first.y + 6 + 45);
-    waitGone(child1);
+    waitGone(CHILD1);
     EXPECT_THAT(readFile(project.profile()),
                 HasSubstr("=" + std::to_string(first.x - 30) + "," + std::to_string(first.y + 6) + "\n"));
-    const ScreenWindow second = open(50, 25, child1);
+    const ScreenWindow second = open(50, 25, CHILD1);
     EXPECT_EQ(second.x, first.x - 30);
     EXPECT_EQ(second.y, first.y + 6);
     user.clickAt(second.x + 50, second.y + 45);
-    waitGone(child1);
+    waitGone(CHILD1);
     stop();
 }
 
@@ -177,21 +177,21 @@ TEST_P(ProgramWindows, repeats_a_held_control_by_its_own_ticks)
 
 TEST_P(ProgramWindows, a_modal_child_blocks_the_menu_but_not_itself)
 {
-    const ScreenWindow child = open(50, 25, child1);
+    const ScreenWindow child = open(50, 25, CHILD1);
     user.clickAt(150, 25); // would open the second child
     user.clickAt(child.x + 50, child.y + 45);
-    waitGone(child1);
+    waitGone(CHILD1);
     for (const ScreenWindow& window : user.windows())
-        EXPECT_NE(window.title, child2);
-    open(150, 25, child2);
+        EXPECT_NE(window.title, CHILD2);
+    open(150, 25, CHILD2);
     stop();
 }
 
 TEST_P(ProgramWindows, shows_the_notice_while_it_stops)
 {
-    project.set("PTRN", "PTRNSTOP", notice);
+    project.set("PTRN", "PTRNSTOP", NOTICE);
     user.clickAt(250, 25);
-    const ScreenWindow window = user.waitForWindow(notice);
+    const ScreenWindow window = user.waitForWindow(NOTICE);
     EXPECT_EQ(window.x, 600);
     EXPECT_EQ(waitEnd(), 0) << program->output();
 }

@@ -20,15 +20,15 @@ using namespace tessary;
 namespace
 {
 
-constexpr int cells = 40;  ///< of the code "D", from 100 on
-constexpr int fieldNo = 0; ///< offsets of the items that the rules speak of
-constexpr int barNo = 10;
-constexpr int spinNo = 20;
-constexpr int visible = 10;
-constexpr int total = 40;
-constexpr int spinMaximum = 7;
+constexpr int CELLS = 40;   ///< of the code "D", from 100 on
+constexpr int FIELD_NO = 0; ///< offsets of the items that the rules speak of
+constexpr int BAR_NO = 10;
+constexpr int SPIN_NO = 20;
+constexpr int VISIBLE = 10;
+constexpr int TOTAL = 40;
+constexpr int SPIN_MAXIMUM = 7;
 
-const char* const names[] = {"one", "two", "three", "no such screen"};
+const char* const NAMES[] = {"one", "two", "three", "no such screen"};
 
 /// A bit of everything: fields of all kinds, bars, spin buttons, controls and every action.
 Pattern busy(const std::string& name, int number)
@@ -52,18 +52,18 @@ Pattern busy(const std::string& name, int number)
             .parm(FIELD_KEYENTRY, 1)
             .parm(FIELD_NAVIGATION, 5 * i)
             .parm(TEXT_BACKED, i < 3)
-            .code("D", fieldNo + i)
+            .code("D", FIELD_NO + i)
             .action(1);
     }
     for (int i = 0; i < 2; i++)
         pattern.item(PTRN_SBAR, i ? 100 : 330, i ? 200 : 30, i ? 320 : 346, i ? 216 : 190)
             .parm(SBAR_VERTICAL, !i)
             .parm(SBAR_PAGES, i)
-            .parm(SBAR_VISIBLE, visible)
-            .parm(SBAR_TOTAL, total)
-            .code("D", barNo + i)
+            .parm(SBAR_VISIBLE, VISIBLE)
+            .parm(SBAR_TOTAL, TOTAL)
+            .code("D", BAR_NO + i)
             .action(1);
-    pattern.item(PTRN_SPIN, 90, 30, 106, 62).parm(SPIN_MAXIMUM, spinMaximum).code("D", spinNo).action(1);
+    pattern.item(PTRN_SPIN, 90, 30, 106, 62).parm(SPIN_MAXIMUM, SPIN_MAXIMUM).code("D", SPIN_NO).action(1);
     pattern.item(PTRN_CHCK, 90, 80, 150, 96).text("check").code("D", 21).action(1);
     pattern.item(PTRN_RDIO, 90, 100, 150, 116).text("radio").code("D", 22).action(1);
     pattern.item(PTRN_RECT, 90, 120, 150, 140).parm(SHAPE_FILLED, 1).code("D", 23).action(1);
@@ -72,7 +72,7 @@ Pattern busy(const std::string& name, int number)
             .item(PTRN_BUTN, 160 + (action - 1) % 5 * 32, 30 + (action - 1) / 5 * 30,
                   188 + (action - 1) % 5 * 32, 55 + (action - 1) / 5 * 30)
             .code("D", 24 + action % 4)
-            .action(action, names[action % 4]);
+            .action(action, NAMES[action % 4]);
     return pattern;
 }
 
@@ -83,9 +83,9 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
     {
         random.seed(GetParam());
         std::printf("%s\n", seedText(GetParam()).c_str()); // should the walk end in a crash
-        project.code("SYSTEM", 99).code("D", cells);
+        project.code("SYSTEM", 99).code("D", CELLS);
         for (int i = 0; i < 3; i++)
-            know(busy(names[i], i));
+            know(busy(NAMES[i], i));
         for (const char* name : {"バージョン情報", "メンテナンス"})
             busy(name, 1).save(project);
         project.set("PTRN", "PTRNSTOP", "two");
@@ -134,7 +134,7 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
 
     void deed(CPtrnDisp& wnd)
     {
-        const char* const name = names[below(4)];
+        const char* const name = NAMES[below(4)];
         switch (below(10)) {
         case 0:
             wnd.PtrnCloseWnd(below(4), nullptr, 0);
@@ -158,7 +158,7 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
             wnd.PtrnSetOffset(below(4), below(300) - 100, below(200) - 100, nullptr, 0);
             break;
         case 7:
-            wnd.PtrnSetScroll(100 + barNo, total, below(60) - 10, nullptr, 0);
+            wnd.PtrnSetScroll(100 + BAR_NO, TOTAL, below(60) - 10, nullptr, 0);
             break;
         case 8:
             wnd.KeyInputStart(100 + below(8), nullptr, 0);
@@ -213,12 +213,12 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
 
     void type()
     {
-        static const unsigned long symbols[] = {
+        static const unsigned long SYMBOLS[] = {
             XK_Return, XK_Escape, XK_Tab,  XK_Left,   XK_Right,    XK_Up,        XK_Down,  XK_BackSpace,
             XK_Delete, XK_1,      XK_9,    XK_a,      XK_F,        XK_period,    XK_minus, XK_space,
             XK_F1,     XK_Home,   XK_KP_5, XK_KP_Add, XK_KP_Enter, XK_KP_Decimal};
         for (int i = below(8); i >= 0; i--)
-            user.key(symbols[below(static_cast<int>(std::size(symbols)))]);
+            user.key(SYMBOLS[below(static_cast<int>(std::size(SYMBOLS)))]);
         user.settle();
     }
 
@@ -249,10 +249,10 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
             if (!open.empty())
                 deed(*open[static_cast<std::size_t>(below(static_cast<int>(open.size())))]);
         } else if (what == 16) {
-            Set_wData(100 + below(cells), static_cast<WORD>((below(8) << 13 | below(4)) & 0xE003), nullptr,
+            Set_wData(100 + below(CELLS), static_cast<WORD>((below(8) << 13 | below(4)) & 0xE003), nullptr,
                       0);
         } else if (what == 17) {
-            Set_sData(100 + below(cells), std::string(static_cast<std::size_t>(below(300)), 'x').c_str(),
+            Set_sData(100 + below(CELLS), std::string(static_cast<std::size_t>(below(300)), 'x').c_str(),
                       nullptr, 0);
         } else if (what == 18) {
             if (rarely())
@@ -336,14 +336,14 @@ class RandomWalk : public Screen, public testing::WithParamInterface<unsigned>
 
     static void checkCells(const std::set<int>& edited)
     {
-        for (int no = 100; no < 100 + cells; no++) {
+        for (int no = 100; no < 100 + CELLS; no++) {
             const int word = Get_wData(no, nullptr, 0);
             // Several windows may edit one field: the first that ends takes the mark away.
             EXPECT_TRUE(!(word & STATE_FROZEN) || edited.count(no)) << no << " is frozen for ever";
         }
-        for (int no = 100 + barNo; no < 100 + barNo + 2; no++) {
+        for (int no = 100 + BAR_NO; no < 100 + BAR_NO + 2; no++) {
             EXPECT_GE(Get_iData(no, nullptr, 0), 0);
-            EXPECT_LE(Get_iData(no, nullptr, 0), total - visible);
+            EXPECT_LE(Get_iData(no, nullptr, 0), TOTAL - VISIBLE);
         }
     }
 

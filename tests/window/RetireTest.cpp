@@ -19,7 +19,7 @@ namespace
 class Retire : public Screen
 {
   protected:
-    static constexpr std::size_t kept = 16;
+    static constexpr std::size_t KEPT = 16;
 
     void SetUp() override
     {
@@ -39,7 +39,7 @@ class Retire : public Screen
     /// Opens and closes child 2 so often that whatever was closed before is deleted.
     void outlive()
     {
-        for (std::size_t i = 0; i <= kept; i++) {
+        for (std::size_t i = 0; i <= KEPT; i++) {
             AppliWnd->PtrnDispChild(2, "a", nullptr, 0);
             AppliWnd->PtrnCloseWnd(2, nullptr, 0);
         }
@@ -63,7 +63,7 @@ TEST_F(Retire, the_newest_windows_stay_and_older_ones_are_deleted_at_a_tick)
     }
     EXPECT_EQ(RecordingWnd::alive.size(), 101u);
     tick();
-    EXPECT_EQ(RecordingWnd::alive.size(), kept + 1);
+    EXPECT_EQ(RecordingWnd::alive.size(), KEPT + 1);
 }
 
 TEST_F(Retire, replaced_windows_are_deleted_as_well)
@@ -76,7 +76,7 @@ TEST_F(Retire, replaced_windows_are_deleted_as_well)
     }
     WaitTimer = 0;
     tick();
-    EXPECT_EQ(RecordingWnd::alive.size(), kept + 3) << "with the three that are open";
+    EXPECT_EQ(RecordingWnd::alive.size(), KEPT + 3) << "with the three that are open";
 }
 
 TEST_F(Retire, an_application_window_takes_its_exited_children_with_it)
@@ -96,7 +96,7 @@ TEST_F(Retire, nothing_is_deleted_while_a_tick_interrupts_a_handler)
     const CPtrnDisp* victim = AppliWnd->ChildWnd1;
     hooks.mesg = [&](CPtrnDisp& wnd, int) {
         wnd.PtrnCloseWnd(0, nullptr, 0);
-        for (std::size_t i = 0; i < 2 * kept; i++) {
+        for (std::size_t i = 0; i < 2 * KEPT; i++) {
             AppliWnd->PtrnDispChild(1, "a", nullptr, 0);
             AppliWnd->PtrnCloseWnd(1, nullptr, 0);
             Timer_Event(nullptr);

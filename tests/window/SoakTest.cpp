@@ -10,8 +10,8 @@ namespace
 class Soak : public KeyEdit
 {
   protected:
-    static constexpr int warm = 60; ///< until every cache is filled and the oldest windows are being deleted
-    static constexpr int rounds = 440;
+    static constexpr int WARM = 60; ///< until every cache is filled and the oldest windows are being deleted
+    static constexpr int ROUNDS = 440;
 
     void SetUp() override
     {
@@ -32,9 +32,9 @@ class Soak : public KeyEdit
             }
             calls.shrink_to_fit();
         };
-        run(warm);
+        run(WARM);
         const Footprint before = footprint();
-        run(rounds);
+        run(ROUNDS);
         EXPECT_TRUE(holdsNoMore(footprint(), before));
     }
 };

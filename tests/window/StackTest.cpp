@@ -16,7 +16,7 @@ using testing::Not;
 namespace
 {
 
-constexpr char here[] = "screen.cpp";
+constexpr char HERE[] = "screen.cpp";
 
 class Stack : public Screen
 {
@@ -40,8 +40,8 @@ class Stack : public Screen
 
 TEST_F(Stack, opens_children_in_their_slots_and_says_so)
 {
-    AppliWnd->PtrnDispChild(1, "a", here, 7);
-    AppliWnd->PtrnDispChild(2, "b", here, 8);
+    AppliWnd->PtrnDispChild(1, "a", HERE, 7);
+    AppliWnd->PtrnDispChild(2, "b", HERE, 8);
     EXPECT_STREQ(AppliWnd->ChildWnd1->PtrnName, "a");
     EXPECT_STREQ(AppliWnd->ChildWnd2->PtrnName, "b");
     EXPECT_EQ(AppliWnd->ChildWnd1->PtrnType, KIND_CHILD1);
@@ -50,7 +50,7 @@ TEST_F(Stack, opens_children_in_their_slots_and_says_so)
     ASSERT_EQ(log.size(), 2u);
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
     EXPECT_EQ(log[0].mesg2, "子ウィンドウ（１）表示  [a]");
-    EXPECT_EQ(log[0].file, here);
+    EXPECT_EQ(log[0].file, HERE);
     EXPECT_EQ(log[0].line, 7);
     EXPECT_EQ(log[1].mesg2, "子ウィンドウ（２）表示  [b]");
 }
@@ -156,16 +156,16 @@ TEST_F(Stack, closes_children_by_slot_and_says_so)
 {
     AppliWnd->PtrnDispChild(1, "a", nullptr, 0);
     AppliWnd->PtrnDispChild(2, "b", nullptr, 0);
-    AppliWnd->PtrnCloseWnd(2, here, 3);
-    AppliWnd->PtrnCloseWnd(1, here, 4);
+    AppliWnd->PtrnCloseWnd(2, HERE, 3);
+    AppliWnd->PtrnCloseWnd(1, HERE, 4);
     EXPECT_EQ(AppliWnd->ChildWnd1, nullptr);
     EXPECT_EQ(AppliWnd->ChildWnd2, nullptr);
     EXPECT_THAT(project.messages(),
                 ElementsAre("子ウィンドウ（２）を閉じる。", "子ウィンドウ（１）を閉じる。"));
     EXPECT_EQ(project.log()[0].line, 3);
     EXPECT_THAT(callsOf({"exit"}), ElementsAre("exit", "exit"));
-    AppliWnd->PtrnCloseWnd(1, here, 5);
-    AppliWnd->PtrnCloseWnd(2, here, 5);
+    AppliWnd->PtrnCloseWnd(1, HERE, 5);
+    AppliWnd->PtrnCloseWnd(2, HERE, 5);
     EXPECT_EQ(project.log().size(), 2u) << "nothing is there to close";
 }
 
@@ -173,9 +173,9 @@ TEST_F(Stack, closes_itself_through_the_parent)
 {
     CPtrnDisp* first = openChild(AppliWnd, 1, "a");
     CPtrnDisp* second = openChild(AppliWnd, 2, "b");
-    first->PtrnCloseWnd(0, here, 1);
-    second->PtrnCloseWnd(0, here, 2);
-    openSystem("a")->PtrnCloseWnd(0, here, 3);
+    first->PtrnCloseWnd(0, HERE, 1);
+    second->PtrnCloseWnd(0, HERE, 2);
+    openSystem("a")->PtrnCloseWnd(0, HERE, 3);
     EXPECT_EQ(SystmWnd, nullptr);
     EXPECT_THAT(project.messages(),
                 ElementsAre("子ウィンドウ（１）を閉じる。", "子ウィンドウ（２）を閉じる。",
@@ -185,9 +185,9 @@ TEST_F(Stack, closes_itself_through_the_parent)
 
 TEST_F(Stack, closes_the_system_window_from_anywhere)
 {
-    AppliWnd->PtrnCloseWnd(3, here, 1); // none is open
+    AppliWnd->PtrnCloseWnd(3, HERE, 1); // none is open
     openSystem("a");
-    AppliWnd->PtrnCloseWnd(3, here, 2);
+    AppliWnd->PtrnCloseWnd(3, HERE, 2);
     EXPECT_EQ(SystmWnd, nullptr);
     openSystem("a");
     AppliWnd->PtrnCloseWnd(3, nullptr, 0);
@@ -202,13 +202,13 @@ TEST_F(Stack, does_not_close_the_application_window_nor_anything_by_another_numb
 {
     AppliWnd->PtrnDispChild(1, "a", nullptr, 0);
     for (const int which : {4, -1, 100})
-        AppliWnd->PtrnCloseWnd(which, here, 1);
+        AppliWnd->PtrnCloseWnd(which, HERE, 1);
     EXPECT_THAT(project.log(), IsEmpty());
-    AppliWnd->PtrnCloseWnd(0, here, 2);
+    AppliWnd->PtrnCloseWnd(0, HERE, 2);
     AppliWnd->PtrnCloseWnd(0, nullptr, 0);
     EXPECT_THAT(project.messages(), ElementsAre("最上位ウィンドウを閉じることはできません。",
                                                 "最上位ウィンドウを閉じることはできません。"));
-    EXPECT_EQ(project.log()[0].file, here);
+    EXPECT_EQ(project.log()[0].file, HERE);
     EXPECT_EQ(project.log()[1].file, "");
     EXPECT_THAT(callsOf({"exit"}), IsEmpty());
 }
@@ -217,7 +217,7 @@ TEST_F(Stack, a_window_of_kind_0_with_a_parent_is_not_closed)
 {
     RecordingWnd wnd(calls, hooks);
     wnd.PtrnDispInit(AppliWnd, "a", KIND_APPLICATION);
-    wnd.PtrnCloseWnd(0, here, 1);
+    wnd.PtrnCloseWnd(0, HERE, 1);
     EXPECT_TRUE(wnd.Widget);
     EXPECT_THAT(project.log(), IsEmpty());
 }
@@ -285,12 +285,12 @@ TEST_F(Stack, sends_messages_by_number)
 
 TEST_F(Stack, logs_a_message_whose_number_has_a_name_also_when_nobody_gets_it)
 {
-    AppliWnd->PtrnSendMessage(0, 5, here, 1);
-    AppliWnd->PtrnSendMessage(2, 5, here, 2);
-    AppliWnd->PtrnSendMessage(0, 6, here, 3);     // without a name
+    AppliWnd->PtrnSendMessage(0, 5, HERE, 1);
+    AppliWnd->PtrnSendMessage(2, 5, HERE, 2);
+    AppliWnd->PtrnSendMessage(0, 6, HERE, 3);     // without a name
     AppliWnd->PtrnSendMessage(0, 5, nullptr, 0);  // silent
-    AppliWnd->PtrnSendMessage(0, 1000, here, 4);  // outside the store
-    AppliWnd->PtrnSendMessage(0, -1000, here, 5); // likewise
+    AppliWnd->PtrnSendMessage(0, 1000, HERE, 4);  // outside the store
+    AppliWnd->PtrnSendMessage(0, -1000, HERE, 5); // likewise
     const auto log = project.log();
     ASSERT_EQ(log.size(), 2u);
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
@@ -381,8 +381,8 @@ TEST_F(Popup, is_centred_for_a_point_without_room_on_either_side)
 
 TEST_F(Popup, logs_one_line_of_its_own)
 {
-    AppliWnd->PtrnDispPopup(1, "popup", area(0, 0, 10, 10), here, 5);
-    AppliWnd->PtrnDispPopup(2, "popup", POINT{0, 0}, here, 6);
+    AppliWnd->PtrnDispPopup(1, "popup", area(0, 0, 10, 10), HERE, 5);
+    AppliWnd->PtrnDispPopup(2, "popup", POINT{0, 0}, HERE, 6);
     EXPECT_TRUE(AppliWnd->ChildWnd2);
     const auto log = project.log();
     ASSERT_EQ(log.size(), 2u);
@@ -405,7 +405,7 @@ TEST_F(Popup, of_an_unreadable_pattern_is_logged_and_leaves_the_slot_alone)
 TEST_F(Popup, of_a_pattern_that_only_the_registry_lacks_logs_both)
 {
     Pattern("stranger").size(30, 20).save(project);
-    AppliWnd->PtrnDispPopup(1, "stranger", POINT{0, 0}, here, 5);
+    AppliWnd->PtrnDispPopup(1, "stranger", POINT{0, 0}, HERE, 5);
     EXPECT_THAT(project.messages(), ElementsAre("ポップアップウィンドウ表示  [stranger]",
                                                 "子ウィンドウ（１）表示に失敗  [stranger]"));
 }

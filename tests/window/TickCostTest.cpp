@@ -24,9 +24,9 @@ using CreatePixmap = unsigned long(void* display, unsigned long drawable, unsign
 extern "C" unsigned long XCreatePixmap(void* display, unsigned long drawable, unsigned width, unsigned height,
                                        unsigned depth)
 {
-    static const auto next = reinterpret_cast<CreatePixmap*>(dlsym(RTLD_NEXT, "XCreatePixmap"));
+    static const auto NEXT = reinterpret_cast<CreatePixmap*>(dlsym(RTLD_NEXT, "XCreatePixmap"));
     largestPixmap = std::max(largestPixmap, width * height);
-    return next(display, drawable, width, height, depth);
+    return NEXT(display, drawable, width, height, depth);
 }
 
 namespace

@@ -17,7 +17,7 @@ using testing::IsEmpty;
 namespace
 {
 
-constexpr char here[] = "screen.cpp";
+constexpr char HERE[] = "screen.cpp";
 
 class View : public Screen
 {
@@ -45,13 +45,13 @@ TEST_F(View, scrolls_this_window_a_child_or_the_parent)
     open(Pattern("top"));
     CPtrnDisp* first = openChild(AppliWnd, 1, "child");
     CPtrnDisp* second = openChild(AppliWnd, 2, "child");
-    AppliWnd->PtrnSetOffset(0, 1, 2, here, 1);
-    AppliWnd->PtrnSetOffset(1, 3, 4, here, 2);
-    AppliWnd->PtrnSetOffset(2, 5, 6, here, 3);
+    AppliWnd->PtrnSetOffset(0, 1, 2, HERE, 1);
+    AppliWnd->PtrnSetOffset(1, 3, 4, HERE, 2);
+    AppliWnd->PtrnSetOffset(2, 5, 6, HERE, 3);
     EXPECT_THAT(offset(AppliWnd), ElementsAre(1, 2));
     EXPECT_THAT(offset(first), ElementsAre(3, 4));
     EXPECT_THAT(offset(second), ElementsAre(5, 6));
-    second->PtrnSetOffset(3, 7, 8, here, 4);
+    second->PtrnSetOffset(3, 7, 8, HERE, 4);
     EXPECT_THAT(offset(AppliWnd), ElementsAre(7, 8));
     EXPECT_EQ(AppliWnd->PtrnGetOffset().x, 7);
 
@@ -59,7 +59,7 @@ TEST_F(View, scrolls_this_window_a_child_or_the_parent)
     ASSERT_EQ(log.size(), 1u) << "what is handed on is silent";
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
     EXPECT_EQ(log[0].mesg2, "表示開始位置設定  [0 / (1,2)]");
-    EXPECT_EQ(log[0].file, here);
+    EXPECT_EQ(log[0].file, HERE);
 }
 
 TEST_F(View, does_not_scroll_what_is_not_there)
@@ -67,7 +67,7 @@ TEST_F(View, does_not_scroll_what_is_not_there)
     open(Pattern("top"));
     AppliWnd->PtrnSetOffset(0, 1, 2, nullptr, 0);
     for (const int target : {1, 2, 3, 4, -1, 100})
-        AppliWnd->PtrnSetOffset(target, 9, 9, here, 1);
+        AppliWnd->PtrnSetOffset(target, 9, 9, HERE, 1);
     EXPECT_THAT(offset(AppliWnd), ElementsAre(1, 2));
     EXPECT_THAT(project.log(), IsEmpty());
 }
@@ -160,8 +160,8 @@ TEST_F(ScrollSetting, works_with_any_total)
 
 TEST_F(ScrollSetting, logs_total_and_position_as_they_were_taken)
 {
-    AppliWnd->PtrnSetScroll(100, 25, 20, here, 9);
-    AppliWnd->PtrnSetScroll(100, 8, 3, here, 10);
+    AppliWnd->PtrnSetScroll(100, 25, 20, HERE, 9);
+    AppliWnd->PtrnSetScroll(100, 8, 3, HERE, 10);
     const auto log = project.log();
     ASSERT_EQ(log.size(), 2u);
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
@@ -173,12 +173,12 @@ TEST_F(ScrollSetting, logs_total_and_position_as_they_were_taken)
 TEST_F(ScrollSetting, logs_a_missing_bar_always)
 {
     AppliWnd->PtrnSetScroll(101, 25, 0, nullptr, 0);
-    AppliWnd->PtrnSetScroll(5000, 25, 0, here, 2);
+    AppliWnd->PtrnSetScroll(5000, 25, 0, HERE, 2);
     const auto log = project.log();
     ASSERT_EQ(log.size(), 2u);
     EXPECT_EQ(log[0].mesg2, "スクロールバー設定エラー  []") << "a number without a name";
     EXPECT_EQ(log[0].mesg1, "PTRNDISP");
-    EXPECT_EQ(log[1].file, here);
+    EXPECT_EQ(log[1].file, HERE);
 }
 
 TEST_F(ScrollSetting, names_the_number_of_a_missing_bar)
