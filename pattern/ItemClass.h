@@ -37,6 +37,19 @@ struct ItemDraft {
     int longestText() const;
 };
 
+/// A field that shows the number of its cell.
+struct NumberField {
+    int width = 0; ///< half-width characters
+    int decimals = 0;
+    bool hexadecimal = false;
+    bool grouping = false;
+    bool entry = false; ///< an operator may edit it
+    double minimum = 0; ///< of what may be entered; both 0: the limit table tells
+    double maximum = 0;
+
+    bool limited() const { return minimum != 0 || maximum != 0; }
+};
+
 /// Receives what is wrong with an item, as a sentence that goes on from its name.
 using ItemRemark = std::function<void(const std::string&)>;
 
@@ -87,8 +100,14 @@ struct ItemClass {
     bool (*fits)(const ItemDraft& draft) = nullptr;
     /// Whatever else is wrong with its values.
     void (*check)(const ItemDraft& draft, const ItemRemark& remark) = nullptr;
-    bool frames = false; ///< other items are laid out in it
-    int choiceParm = -1; ///< entry that no other item of the type with the same cell may share; -1 none
+    /// The number that it shows; null: none.
+    NumberField (*numberField)(const ItemDraft& draft) = nullptr;
+    /// Whether a new value is drawn over the one before without wiping it; null: never.
+    bool (*overprints)(const ItemDraft& draft) = nullptr;
+    bool wheelSteps = false; ///< the wheel over it steps its value
+    int keyParm = -1;        ///< entry that is not 0 where keys of the keyboard operate it; -1 none
+    bool frames = false;     ///< other items are laid out in it
+    int choiceParm = -1;     ///< entry that no other item of the type with the same cell may share; -1 none
     const char* cornerHelp = "."; ///< ends the message about corners that are exchanged
 
     /// An attribute, its own or a common one; null when there is none.
@@ -149,6 +168,16 @@ class ItemRow : public ItemClass
         return with(&ItemClass::opaque, function);
     }
     constexpr ItemRow fitsWhen(decltype(fits) function) const { return with(&ItemClass::fits, function); }
+    constexpr ItemRow numberOf(decltype(numberField) function) const
+    {
+        return with(&ItemClass::numberField, function);
+    }
+    constexpr ItemRow overprintsWhen(decltype(overprints) function) const
+    {
+        return with(&ItemClass::overprints, function);
+    }
+    constexpr ItemRow stepsByWheel() const { return with(&ItemClass::wheelSteps, true); }
+    constexpr ItemRow keysAt(int index) const { return with(&ItemClass::keyParm, index); }
     constexpr ItemRow checkedBy(decltype(check) function) const { return with(&ItemClass::check, function); }
     constexpr ItemRow framesOthers() const { return with(&ItemClass::frames, true); }
     constexpr ItemRow choiceAt(int index) const { return with(&ItemClass::choiceParm, index); }

@@ -4,9 +4,11 @@
 
 #include "base/Constants.h"
 #include "base/Limits.h"
+#include "config/Edition.h"
 
 #include <cstddef>
 #include <limits>
+#include <optional>
 
 namespace tessary
 {
@@ -22,6 +24,8 @@ enum class ParmKind {
     Choice,        ///< one of a few named values
     Bits,          ///< any sum of a few named bits
     Number,        ///< a value of the application
+    Real,          ///< a value with decimals, held as the bits of a float
+    Message,       ///< message number, or 0 for none
 };
 
 /// A named value of a Choice, or a named bit of Bits.
@@ -53,11 +57,15 @@ struct ParmSchema {
     int enable = -1;                 ///< entry of the flag without which this one has no effect; -1 none
     bool fatal = false;              ///< drawing ends the program when the value is out of its range
     bool written = false;            ///< the program writes it; what a screen says has no effect
+    std::optional<Correction> since; ///< has an effect only with it
     SchemaTable<ParmChoice> choices; ///< of Choice and Bits
     const char* help = "";           ///< one line
 
     constexpr bool accepts(int value) const
     {
+        constexpr int exponent = 0x7F800000; // all of it set: infinite, or no number
+        if (kind == ParmKind::Real && (value & exponent) == exponent)
+            return false;
         return kind == ParmKind::Bits ? (value & ~maximum) == 0 : value >= minimum && value <= maximum;
     }
 };
@@ -101,6 +109,16 @@ class ParmRow
     {
         return number(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     }
+    constexpr ParmRow real() const
+    {
+        return kind(ParmKind::Real, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    }
+    /// A number above 0, or 0 for none: the bits of floats are in the order of the numbers.
+    constexpr ParmRow positiveReal() const
+    {
+        return kind(ParmKind::Real, 0, std::numeric_limits<int>::max());
+    }
+    constexpr ParmRow message() const { return kind(ParmKind::Message, 0, CONT_MESGDATA); }
 
     template <std::size_t N> constexpr ParmRow choice(const ParmChoice (&choices)[N]) const
     {
@@ -153,6 +171,14 @@ class ParmRow
     {
         ParmRow made = *this;
         made.row_.written = true;
+        return made;
+    }
+
+    /// Has no effect in the editions before that of the correction.
+    constexpr ParmRow since(Correction correction) const
+    {
+        ParmRow made = *this;
+        made.row_.since = correction;
         return made;
     }
 

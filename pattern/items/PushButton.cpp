@@ -28,6 +28,14 @@ constexpr ParmSchema PARMS[] = {
     parm("font", BUTN_FONT).font().help("the caption's font"),
     parm("edge", BUTN_WIDTH).thickness().initial(2).help("thickness of the edges"),
     parm("key", BUTN_KEY).number(0, 12).help("function key that presses the button; 0 for none"),
+    parm("default", BUTN_DEFAULT)
+        .flag()
+        .since(Correction::KeysToFront)
+        .help("whether Return presses it while nothing is in edit"),
+    parm("cancel", BUTN_CANCEL)
+        .flag()
+        .since(Correction::KeysToFront)
+        .help("whether Escape presses it while nothing is in edit"),
 };
 
 void Draw(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
@@ -62,6 +70,7 @@ extern constexpr ItemClass PUSH_BUTTON = item(PTRN_BUTN)
                                              .helped("push button")
                                              .shows(ItemText::Caption)
                                              .schema(PARMS)
+                                             .keysAt(BUTN_KEY)
                                              .fontAt(BUTN_FONT)
                                              .drawnBy(Draw)
                                              .erasedBy(EraseRect)

@@ -14,7 +14,9 @@ enum ButtonParm {
     BUTN_POST = 14, ///< caption offset from the left edge
     BUTN_FONT = 15,
     BUTN_WIDTH = 16,
-    BUTN_KEY = 27, ///< function key 1..12
+    BUTN_DEFAULT = 17, ///< Return presses it
+    BUTN_CANCEL = 18,  ///< Escape presses it
+    BUTN_KEY = 27,     ///< function key 1..12
 };
 
 } // namespace tessary

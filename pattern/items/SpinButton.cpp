@@ -18,6 +18,8 @@ namespace
 constexpr ParmSchema PARMS[] = {
     parm("minimum", SPIN_MINIMUM).number().help("lower bound; both 0: from the limit table, on clicks only"),
     parm("maximum", SPIN_MAXIMUM).number().initial(100).help("upper bound"),
+    parm("step", SPIN_STEP).positiveReal().since(Correction::SpinWheel).help("by which it steps; 0: by 1"),
+    parm("message", SPIN_MESSAGE).message().since(Correction::SpinWheel).help("message at a bound"),
 };
 
 } // namespace
@@ -108,6 +110,7 @@ extern constexpr ItemClass SPIN_BUTTON = item(PTRN_SPIN)
                                              .hitBy(HitRect)
                                              .pressedBy(Press)
                                              .turnedBy(Wheel)
+                                             .stepsByWheel()
                                              .heldBy(PartAt, StepSpinButn)
                                              .opaqueWhen(AlwaysOpaque)
                                              .checkedBy(Check);

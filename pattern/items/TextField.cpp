@@ -6,6 +6,7 @@
 #include "draw/HitTest.h"
 #include "pattern/items/ItemDraw.h"
 #include "pattern/Press.h"
+#include "pattern/RealParm.h"
 
 #include <algorithm>
 #include <cstring>
@@ -59,6 +60,22 @@ constexpr ParmSchema NUMERIC_PARMS[] = {
     parm("zero-fill", FIELD_ZEROFILL).flag().help("leading zeros instead of blanks"),
     parm("grouping", FIELD_GROUPING).flag().help("a comma for every three digits, without decimals only"),
     parm("hex", FIELD_HEX).flag().help("hexadecimal"),
+    parm("minimum", FIELD_MINIMUM)
+        .real()
+        .since(Correction::LimitsBind)
+        .help("lowest number that may be entered; minimum and maximum both 0: from the limit table"),
+    parm("maximum", FIELD_MAXIMUM)
+        .real()
+        .since(Correction::LimitsBind)
+        .help("highest number that may be entered"),
+    parm("step", FIELD_STEP)
+        .positiveReal()
+        .since(Correction::LimitsBind)
+        .help("between two numbers that may be entered; 0: any"),
+    parm("message", FIELD_MESSAGE)
+        .message()
+        .since(Correction::LimitsBind)
+        .help("message about a number that is refused"),
     NAVIGATION,
 };
 
@@ -204,6 +221,24 @@ void CheckNumeric(const ItemDraft& draft, const ItemRemark& remark)
                " or more. Make 'width' larger.");
 }
 
+NumberField Number(const ItemDraft& draft)
+{
+    NumberField field;
+    field.width = draft.parm[FIELD_WIDTH];
+    field.decimals = draft.parm[FIELD_DECIMALS];
+    field.hexadecimal = draft.parm[FIELD_HEX] != 0;
+    field.grouping = draft.parm[FIELD_GROUPING] != 0;
+    field.entry = draft.parm[FIELD_KEYENTRY] == 1;
+    field.minimum = static_cast<double>(RealParm(draft.parm[FIELD_MINIMUM]));
+    field.maximum = static_cast<double>(RealParm(draft.parm[FIELD_MAXIMUM]));
+    return field;
+}
+
+bool HasNoBackground(const ItemDraft& draft)
+{
+    return draft.parm[TEXT_BACKED] == 0;
+}
+
 constexpr ItemRow TextItem(PtrnType type)
 {
     return item(type)
@@ -238,6 +273,7 @@ extern constexpr ItemClass VARIABLE_TEXT = TextItem(PTRN_CHAR)
                                                .pressedBy(PressField)
                                                .takesEntry()
                                                .covers(FieldSize)
+                                               .overprintsWhen(HasNoBackground)
                                                .checkedBy(CheckEntry);
 
 extern constexpr ItemClass NUMERIC_FIELD = TextItem(PTRN_NUMR)
@@ -248,6 +284,8 @@ extern constexpr ItemClass NUMERIC_FIELD = TextItem(PTRN_NUMR)
                                                .pressedBy(PressField)
                                                .takesEntry()
                                                .covers(FieldSize)
+                                               .numberOf(Number)
+                                               .overprintsWhen(HasNoBackground)
                                                .checkedBy(CheckNumeric);
 
 } // namespace items

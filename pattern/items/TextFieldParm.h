@@ -16,6 +16,10 @@ enum TextParm {
     FIELD_ZEROFILL = 19,
     FIELD_GROUPING = 20,
     FIELD_HEX = 21,
+    FIELD_MINIMUM = 22, ///< of what may be entered, a float's bits; both 0: from the limit table
+    FIELD_MAXIMUM = 23,
+    FIELD_STEP = 24,       ///< of what may be entered, a float's bits; 0: any number
+    FIELD_MESSAGE = 25,    ///< message for a value that is refused; 0 none
     FIELD_NAVIGATION = 27, ///< Navigation
 };
 

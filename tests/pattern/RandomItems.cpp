@@ -33,6 +33,9 @@ int randomParm(const ParmSchema& parm, Random& random)
     case ParmKind::Pixels:
     case ParmKind::Count:
         return random.between(parm.minimum, std::min(parm.maximum, random.oneIn(10) ? 98 : 6));
+    case ParmKind::Real:
+    case ParmKind::Message:
+        return 0; // they are about entry, which draws nothing
     case ParmKind::Number:
         return random.between(std::max(parm.minimum, -20), std::min(parm.maximum, 100));
     default:

@@ -116,7 +116,9 @@ TEST_F(SampleVariants, every_type_is_in_use_with_each_of_its_choices_and_flags)
     for (const ItemClass& item : ItemClasses()) {
         EXPECT_THAT(missing(item.type, {}), IsEmpty());
         for (const ParmSchema& parm : item.parms)
-            EXPECT_THAT(missing(item.type, {valuesOf(parm)}), IsEmpty());
+            if (!parm.since) { // the sample is of edition 1
+                EXPECT_THAT(missing(item.type, {valuesOf(parm)}), IsEmpty());
+            }
     }
 }
 

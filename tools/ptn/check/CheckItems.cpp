@@ -1,7 +1,9 @@
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
+#include "pattern/RealParm.h"
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
@@ -32,8 +34,13 @@ class Checker
     {
         for (const ParmSchema& parm : parms) {
             const bool used = parm.enable < 0 || values[parm.enable] != 0;
-            if ((onlyFatal && !parm.fatal) || !used || parm.index == PARM_PASS || parm.written)
+            if ((onlyFatal && !parm.fatal) || !used || parm.index == PARM_PASS || parm.written ||
+                (parm.since && !has(*parm.since)))
                 continue;
+            if (parm.kind == ParmKind::Real || parm.kind == ParmKind::Message) {
+                entryValue(parm, values[parm.index]);
+                continue;
+            }
             for (int i = parm.index; i < parm.index + parm.count; ++i) {
                 if (parm.accepts(values[i]))
                     continue;
@@ -88,7 +95,22 @@ class Checker
                 row->name, row->count, item.record.ID_No < 0 ? "" : "+", item.record.ID_No);
     }
 
+    // Whether the project is of an edition that has a correction.
+    bool has(Correction row) const { return Has(row, project_.profile.edition()); }
+
   private:
+    // What numbers an operator may enter, and what is said about others.
+    void entryValue(const ParmSchema& parm, int value)
+    {
+        if (parm.kind == ParmKind::Message && value != 0 && project_.messages.names().nameOf(value).empty())
+            say("'{}' is {}, which is not among the messages, so nothing is said. Correct it, or add it to "
+                "'messages'.",
+                parm.name, value);
+        if (parm.kind == ParmKind::Real && !parm.accepts(value))
+            say("'{}' is {}. Write a number{}.", parm.name, RealParm(value),
+                parm.minimum < 0 ? "" : " above 0, or remove it");
+    }
+
     // Whether the program can be set to a language: it is, or some font has a name in it.
     bool shown(std::size_t language) const
     {
@@ -120,6 +142,15 @@ void CheckRoom(const ItemFacts& facts, Checker& checker)
     if (!facts.fits())
         checker.say("is too small for its frame and needle, which ends the panel when it is drawn. Make it "
                     "larger.");
+}
+
+void CheckEntryRange(const ItemFacts& facts, Checker& checker)
+{
+    const std::optional<NumberField> field = facts.number();
+    if (field && field->minimum > field->maximum && checker.has(Correction::LimitsBind))
+        checker.say("'minimum' is {} and 'maximum' {}, so every entry is refused. Write both, the lower one "
+                    "as 'minimum'.",
+                    field->minimum, field->maximum);
 }
 
 template <std::size_t N> std::string FieldOf(const char (&field)[N])
@@ -194,6 +225,7 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         if (!action)
             checker.say("action {} does nothing. Use one from 0 to 16.", item.record.ID_Type);
         CheckRoom(facts, checker);
+        CheckEntryRange(facts, checker);
         facts.check([&checker](const std::string& what) { checker.say("{}", what); });
     }
 }

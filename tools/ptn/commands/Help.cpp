@@ -2,9 +2,11 @@
 #include "config/Edition.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemTable.h"
+#include "pattern/RealParm.h"
 #include "tools/ptn/commands/Command.h"
 #include "tools/ptn/common/Framework.h"
 
+#include <fmt/core.h>
 #include <iomanip>
 #include <iostream>
 #include <limits>
@@ -51,6 +53,10 @@ std::string KindText(const ParmSchema& parm)
         return "list of " + Choices(parm);
     case ParmKind::Pixels:
         return "pixels " + Range(parm);
+    case ParmKind::Real:
+        return parm.minimum < 0 ? "number with decimals" : "number with decimals, above 0";
+    case ParmKind::Message:
+        return "message or none";
     case ParmKind::Count:
     case ParmKind::Number:
         break;
@@ -75,6 +81,10 @@ std::string InitialText(const ParmSchema& parm)
     case ParmKind::Font:
     case ParmKind::Mark:
         return "number " + std::to_string(parm.initial);
+    case ParmKind::Real:
+        return fmt::format("{}", RealParm(parm.initial));
+    case ParmKind::Message:
+        return parm.initial ? std::to_string(parm.initial) : "none";
     default:
         return std::to_string(parm.initial);
     }
@@ -87,7 +97,10 @@ void PrintTable(SchemaTable<ParmSchema> parms, std::ostream& out)
         if (parm.index < 4 && std::string(parm.name).size() == 2)
             continue;
         out << "  " << std::left << std::setw(16) << parm.name << parm.help << "\n"
-            << std::string(18, ' ') << KindText(parm) << "; default " << InitialText(parm) << "\n";
+            << std::string(18, ' ') << KindText(parm) << "; default " << InitialText(parm);
+        if (parm.since)
+            out << "; from edition " << RowOf(*parm.since).edition << " on";
+        out << "\n";
     }
 }
 

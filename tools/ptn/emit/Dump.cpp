@@ -32,7 +32,7 @@ FileMap SourceFiles(Compiled& compiled)
 {
     ProjectSource& project = compiled.project;
     std::string styles;
-    const Defaults defaults = CommonStyles(compiled.patterns, project.resources, styles);
+    const Defaults defaults = CommonStyles(compiled.patterns, project.vocabulary(), styles);
     if (!styles.empty()) {
         Diagnostics ignored;
         const auto sections = ParseYaml("", styles, ignored);

@@ -1,5 +1,6 @@
 #include "tools/ptn/emit/ParmText.h"
 
+#include "pattern/RealParm.h"
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
@@ -28,7 +29,7 @@ std::string BitNames(const ParmSchema& parm, int value)
 }
 
 // Empty when there is no text for the value.
-std::string ValueText(const ParmSchema& parm, int value, const Resources& resources)
+std::string ValueText(const ParmSchema& parm, int value, const Vocabulary& names)
 {
     switch (parm.kind) {
     case ParmKind::OptionalColor:
@@ -36,17 +37,24 @@ std::string ValueText(const ParmSchema& parm, int value, const Resources& resour
             return "none";
         [[fallthrough]];
     case ParmKind::Color:
-        return resources.colors().nameOf(value);
+        return names.resources.colors().nameOf(value);
     case ParmKind::Font:
-        return resources.fonts().nameOf(value);
+        return names.resources.fonts().nameOf(value);
     case ParmKind::Mark:
-        return resources.marks().nameOf(value);
+        return names.resources.marks().nameOf(value);
     case ParmKind::Choice:
         return ChoiceName(parm, value);
     case ParmKind::Flag:
         return value == 0 ? "no" : value == 1 ? "yes" : "";
     case ParmKind::Bits:
         return value & ~parm.maximum ? "" : BitNames(parm, value);
+    case ParmKind::Real:
+        // A 0 that means none can only be left out.
+        if (!parm.accepts(value) || (value == 0 && parm.minimum == 0))
+            return "";
+        return fmt::format("{}", RealParm(value));
+    case ParmKind::Message:
+        return value ? names.messages.nameOf(value) : "none";
     case ParmKind::Pixels:
     case ParmKind::Count:
     case ParmKind::Number:
@@ -97,11 +105,11 @@ Parms InitialParms(const std::vector<SchemaTable<ParmSchema>>& tables)
 }
 
 std::optional<std::string> ParmText(const ParmSchema& parm, const std::int32_t* values,
-                                    const Resources& resources)
+                                    const Vocabulary& names)
 {
     std::vector<std::string> texts;
     for (int i = 0; i < parm.count; ++i) {
-        const std::string text = ValueText(parm, values[parm.index + i], resources);
+        const std::string text = ValueText(parm, values[parm.index + i], names);
         if (text.empty())
             return std::nullopt;
         texts.push_back(text);
@@ -114,7 +122,7 @@ std::optional<std::string> ParmText(const ParmSchema& parm, const std::int32_t* 
 }
 
 std::vector<std::string> AttributeTexts(const std::vector<SchemaTable<ParmSchema>>& tables,
-                                        const Parms& before, const Parms& wanted, const Resources& resources,
+                                        const Parms& before, const Parms& wanted, const Vocabulary& names,
                                         const std::set<int>& skip, std::vector<std::string>& left)
 {
     Writer writer(before, wanted);
@@ -122,14 +130,14 @@ std::vector<std::string> AttributeTexts(const std::vector<SchemaTable<ParmSchema
         for (const ParmSchema& parm : table) {
             if (parm.kind == ParmKind::Flag || skip.count(parm.index) || !writer.differs(parm))
                 continue;
-            if (const auto text = ParmText(parm, wanted.data(), resources))
+            if (const auto text = ParmText(parm, wanted.data(), names))
                 writer.write(parm, *text);
         }
     }
     for (const auto& table : tables)
         for (const ParmSchema& parm : table)
             if (parm.kind == ParmKind::Flag && !skip.count(parm.index) && writer.differs(parm))
-                if (const auto text = ParmText(parm, wanted.data(), resources))
+                if (const auto text = ParmText(parm, wanted.data(), names))
                     writer.write(parm, *text);
     for (int index = 0; index < CONT_PARM; ++index)
         if (!skip.count(index) && writer.now(index) != writer.wanted(index))

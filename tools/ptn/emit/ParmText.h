@@ -2,7 +2,7 @@
 #pragma once
 
 #include "pattern/ItemTable.h"
-#include "tools/ptn/model/Resources.h"
+#include "tools/ptn/model/Attributes.h"
 
 #include <array>
 #include <cstdint>
@@ -21,13 +21,13 @@ Parms InitialParms(const std::vector<SchemaTable<ParmSchema>>& tables);
 
 /// The value of an attribute as a source has it; none when its name can not say it.
 std::optional<std::string> ParmText(const ParmSchema& parm, const std::int32_t* values,
-                                    const Resources& resources);
+                                    const Vocabulary& names);
 
 /// "name: value" for each attribute that leads from `before` to `wanted`.
 /// @param skip  parameters that are said in another way
 /// @param left  receives "index: value" of those that no attribute can say
 std::vector<std::string> AttributeTexts(const std::vector<SchemaTable<ParmSchema>>& tables,
-                                        const Parms& before, const Parms& wanted, const Resources& resources,
+                                        const Parms& before, const Parms& wanted, const Vocabulary& names,
                                         const std::set<int>& skip, std::vector<std::string>& left);
 
 } // namespace ptn

@@ -175,7 +175,7 @@ std::string ItemWriter::text()
     std::vector<std::string> left;
     const auto attributesFrom = [&](const Parms& before) {
         left.clear();
-        return AttributeTexts(TablesOf(type), before, wanted, project_.resources, corners, left);
+        return AttributeTexts(TablesOf(type), before, wanted, project_.vocabulary(), corners, left);
     };
     // The build measures a text without a width, unless its corners or texts are exact: those come later.
     Parms measured = before_;
@@ -233,7 +233,7 @@ std::string WindowText(const Pattern& pattern, const ProjectSource& project, con
     pair("at", HEDR_LEFT, -32768);
     std::vector<std::string> left;
     for (const std::string& part :
-         AttributeTexts({HeaderParms()}, before, wanted, project.resources, windowPlace, left))
+         AttributeTexts({HeaderParms()}, before, wanted, project.vocabulary(), windowPlace, left))
         text += "  " + part + "\n";
     if (!left.empty())
         text += "  parm: " + YamlMap(left) + "\n";
@@ -295,7 +295,7 @@ std::string HeaderPatches(const HEDRFILE& built, const HEDRFILE& wanted)
 
 } // namespace
 
-Defaults CommonStyles(const std::vector<Pattern>& patterns, const Resources& resources, std::string& text)
+Defaults CommonStyles(const std::vector<Pattern>& patterns, const Vocabulary& names, std::string& text)
 {
     Defaults defaults;
     std::string styles;
@@ -314,7 +314,7 @@ Defaults CommonStyles(const std::vector<Pattern>& patterns, const Resources& res
             }
         }
         std::vector<std::string> left;
-        const std::vector<std::string> parts = AttributeTexts(tables, initial, common, resources, skip, left);
+        const std::vector<std::string> parts = AttributeTexts(tables, initial, common, names, skip, left);
         if (parts.empty() || examples.size() < 2)
             return;
         styles += "  " + name + ":\n";

@@ -18,7 +18,7 @@ using Defaults = std::map<std::string, std::array<std::int32_t, CONT_PARM>>;
 
 /// Finds out what most items of a type and most windows have in common.
 /// @param text  receives the section "styles" that says so; empty when there is nothing in common
-Defaults CommonStyles(const std::vector<Pattern>& patterns, const Resources& resources, std::string& text);
+Defaults CommonStyles(const std::vector<Pattern>& patterns, const Vocabulary& names, std::string& text);
 
 /// The source of a screen. Building it gives the same bytes; what attributes can not say stands in "exact".
 /// @param patterns  names of all patterns of the project

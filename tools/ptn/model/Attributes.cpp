@@ -1,13 +1,14 @@
 #include "tools/ptn/model/Attributes.h"
 
+#include "pattern/RealParm.h"
 #include "tools/ptn/common/Names.h"
 
 namespace ptn
 {
 
 Attributes::Attributes(std::vector<SchemaTable<ParmSchema>> parms, std::int32_t* values,
-                       const Resources& resources, Diagnostics& diagnostics)
-    : parms_(std::move(parms)), values_(values), resources_(resources), diagnostics_(diagnostics)
+                       const Vocabulary& names, Diagnostics& diagnostics)
+    : parms_(std::move(parms)), values_(values), names_(names), diagnostics_(diagnostics)
 {
     for (const auto& table : parms_)
         for (const ParmSchema& parm : table)
@@ -75,23 +76,41 @@ std::optional<int> Attributes::value(const ParmSchema& parm, const Source& sourc
             return -1;
         [[fallthrough]];
     case ParmKind::Color:
-        return resources_.colors().find(source, what, diagnostics_);
+        return names_.resources.colors().find(source, what, diagnostics_);
     case ParmKind::Font:
-        return resources_.fonts().find(source, what, diagnostics_);
+        return names_.resources.fonts().find(source, what, diagnostics_);
     case ParmKind::Mark:
-        return resources_.marks().find(source, what, diagnostics_);
+        return names_.resources.marks().find(source, what, diagnostics_);
     case ParmKind::Flag:
         return Boolean(source, what, diagnostics_);
     case ParmKind::Choice:
         return choice(parm, source, what);
     case ParmKind::Bits:
         return bits(parm, source, what);
+    case ParmKind::Real:
+        return real(parm, source, what);
+    case ParmKind::Message:
+        if (source.text() == "none")
+            return 0;
+        return names_.messages.find(source, what, diagnostics_);
     case ParmKind::Pixels:
     case ParmKind::Count:
     case ParmKind::Number:
         break;
     }
     return Integer(source, parm.minimum, parm.maximum, what, diagnostics_);
+}
+
+std::optional<int> Attributes::real(const ParmSchema& parm, const Source& source, const Subject& what)
+{
+    const std::optional<double> number = Real(source, what, diagnostics_);
+    if (!number)
+        return std::nullopt;
+    if (const std::int32_t bits = ParmOfReal(static_cast<float>(*number)); parm.minimum < 0 || bits > 0)
+        return bits;
+    diagnostics_.error(source.place(), what, " is {}. Write a number above 0, or remove the line.",
+                       source.text());
+    return std::nullopt;
 }
 
 std::optional<int> Attributes::choice(const ParmSchema& parm, const Source& source, const Subject& what)

@@ -18,13 +18,19 @@ struct Layer {
     std::vector<Entry> entries;
 };
 
+/// What the names in the values of attributes stand for.
+struct Vocabulary {
+    const Resources& resources;
+    const NameTable& messages;
+};
+
 /// Fills one Parm array from layers of attributes.
 class Attributes
 {
   public:
     /// @param parms   what the attributes of this type are called; several tables may share one array
     /// @param values  CONT_PARM entries, owned by the caller; the defaults are put in at once
-    Attributes(std::vector<SchemaTable<ParmSchema>> parms, std::int32_t* values, const Resources& resources,
+    Attributes(std::vector<SchemaTable<ParmSchema>> parms, std::int32_t* values, const Vocabulary& names,
                Diagnostics& diagnostics);
 
     /// The attribute of that name; null when this type has none.
@@ -39,12 +45,13 @@ class Attributes
   private:
     void set(const ParmSchema& parm, const Entry& entry, const Subject& label);
     std::optional<int> value(const ParmSchema& parm, const Source& source, const Subject& what);
+    std::optional<int> real(const ParmSchema& parm, const Source& source, const Subject& what);
     std::optional<int> choice(const ParmSchema& parm, const Source& source, const Subject& what);
     std::optional<int> bits(const ParmSchema& parm, const Source& source, const Subject& what);
 
     std::vector<SchemaTable<ParmSchema>> parms_;
     std::int32_t* values_;
-    const Resources& resources_;
+    Vocabulary names_;
     Diagnostics& diagnostics_;
 };
 

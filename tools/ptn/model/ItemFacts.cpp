@@ -34,6 +34,17 @@ RECT ItemFacts::drawnRect() const
     return SetRect(parm[PARM_X1], parm[PARM_Y1], end(parm[PARM_X1], size.cx), end(parm[PARM_Y1], size.cy));
 }
 
+std::optional<NumberField> ItemFacts::number() const
+{
+    return type_ && type_->numberField ? std::optional(type_->numberField(draft_)) : std::nullopt;
+}
+
+int ItemFacts::drawOrder() const
+{
+    const int rank = type_ ? ItemRank(type_->type) : -1;
+    return draft_.parm[PARM_PASS] == 1 ? CONT_PTRN + rank : rank;
+}
+
 void ItemFacts::check(const ItemRemark& remark) const
 {
     if (type_ && type_->check)

@@ -39,6 +39,21 @@ class ItemFacts
     int captionWidth() const { return type_ && type_->captionWidth ? type_->captionWidth(draft_) : 0; }
     /// Its font; -1 for none.
     int font() const { return type_ && type_->fontParm >= 0 ? draft_.parm[type_->fontParm] : -1; }
+    /// The number that it shows; none for items that show none.
+    std::optional<NumberField> number() const;
+    /// Whether a new value of its cell is drawn over the one before.
+    bool overprints() const
+    {
+        return draft_.bound && type_ && type_->overprints && type_->overprints(draft_);
+    }
+    /// Whether the wheel over it steps a value.
+    bool wheelSteps() const { return type_ && type_->wheelSteps; }
+    /// Whether keys of the keyboard operate it.
+    bool takesKeys() const { return type_ && type_->keyParm >= 0 && draft_.parm[type_->keyParm] != 0; }
+    /// Whether it blinks from the start.
+    bool blinks() const { return type_ && type_->blinkParm >= 0 && draft_.parm[type_->blinkParm] != 0; }
+    /// Its place in the order of drawing; those of the same place are drawn in the order of the file.
+    int drawOrder() const;
     /// Tells what is wrong with its values beside their ranges.
     void check(const ItemRemark& remark) const;
 

@@ -36,7 +36,7 @@ class ItemReader
                const Source& source)
         : project_(context.project), styles_(context.styles), diagnostics_(context.diagnostics),
           schema_(schema), label_(std::move(label)),
-          attributes_({schema.parms, CommonParms()}, item_.record.Parm, project_.resources, diagnostics_)
+          attributes_({schema.parms, CommonParms()}, item_.record.Parm, project_.vocabulary(), diagnostics_)
     {
         item_.record.Type = type;
         item_.place = source.place();

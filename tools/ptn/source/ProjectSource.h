@@ -1,6 +1,7 @@
 // The sources that all screens share.
 #pragma once
 
+#include "tools/ptn/model/Attributes.h"
 #include "tools/ptn/model/CodeTable.h"
 #include "tools/ptn/model/Groups.h"
 #include "tools/ptn/model/OwnSection.h"
@@ -32,6 +33,9 @@ struct ProjectSource {
     std::map<std::string, std::unique_ptr<OwnSection>> own; ///< of the application, by name of the section
     std::optional<std::set<std::string>> registry; ///< patterns that the program knows; none when not told
     FileMap bitmaps;                               ///< by EUC-JP name
+
+    /// What the values of attributes may name; refers to this.
+    Vocabulary vocabulary() const { return {resources, messages.names()}; }
 };
 
 /// The texts in quotes of a C++ source file, or of all those of a folder, in EUC-JP: the patterns that a

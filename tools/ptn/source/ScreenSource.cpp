@@ -33,7 +33,7 @@ class ScreenReader
   public:
     ScreenReader(const ProjectSource& project, Diagnostics& diagnostics)
         : project_(project), diagnostics_(diagnostics),
-          window_({HeaderParms()}, pattern_.header.Parm1, project.resources, diagnostics)
+          window_({HeaderParms()}, pattern_.header.Parm1, project.vocabulary(), diagnostics)
     {
         pattern_.header.Version = PATTERN_VERSION;
     }

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <set>
@@ -206,6 +208,20 @@ std::optional<int> ParseInteger(const std::string& text)
     if (errno || value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
         return std::nullopt;
     return static_cast<int>(value);
+}
+
+std::optional<double> Real(const Source& source, const Subject& what, Diagnostics& diagnostics)
+{
+    const std::string text = source.text();
+    const char* end = text.data() + text.size();
+    double value = 0;
+    const auto [at, problem] = std::from_chars(text.data(), end, value);
+    if (text.empty() || at != end || problem != std::errc() || !std::isfinite(static_cast<float>(value))) {
+        diagnostics.error(source.place(), what, " can not be '{}'. Write a number, such as 10 or -2.5.",
+                          text);
+        return std::nullopt;
+    }
+    return value;
 }
 
 std::optional<int> Integer(const Source& source, int minimum, int maximum, const Subject& what,

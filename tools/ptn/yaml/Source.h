@@ -86,6 +86,9 @@ std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostic
 void ReportUnknown(const Entry& entry, const Subject& what, const std::vector<std::string>& known,
                    const std::string& remedy, Diagnostics& diagnostics);
 
+/// A number, which may have decimals and an exponent, within what a panel's numbers can be.
+std::optional<double> Real(const Source& source, const Subject& what, Diagnostics& diagnostics);
+
 /// A whole number within a range, decimal or with 0x hexadecimal.
 std::optional<int> Integer(const Source& source, int minimum, int maximum, const Subject& what,
                            Diagnostics& diagnostics);
