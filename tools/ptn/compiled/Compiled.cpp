@@ -109,6 +109,7 @@ Compiled ReadCompiled(const fs::path& given, Diagnostics& diagnostics)
     const fs::path folder = path.has_filename() ? path : path.parent_path();
     Compiled compiled;
     ProjectSource& project = compiled.project;
+    LoadProfile(folder, compiled); // first, since its edition tells how to read the others
 
     for (const fs::path& file : FilesOf(folder, ".ptn"))
         if (auto pattern =
@@ -124,7 +125,6 @@ Compiled ReadCompiled(const fs::path& given, Diagnostics& diagnostics)
                           {ReadBytes(folder / name), used, {(given / name).string(), 0}, diagnostics});
     for (const fs::path& file : FilesOf(folder / "Bitmap", ""))
         project.bitmaps[file.filename().string()] = ReadBytes(file).value_or("");
-    LoadProfile(folder, compiled);
     return compiled;
 }
 

@@ -1,6 +1,7 @@
 #include "tools/ptn/model/Tables.h"
 
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "config/Profile.h"
 #include "config/ProfileField.h"
 #include "config/ProfileText.h"
@@ -9,6 +10,8 @@
 #include "tools/ptn/yaml/YamlText.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace ptn
@@ -142,8 +145,39 @@ std::string MessageTable::yaml() const
 
 // --- limits --------------------------------------------------------------------------------------------
 
+LimitForm LimitFormOf(int edition)
+{
+    return Has(Correction::LimitsBind, edition) ? LimitForm::Decimals : LimitForm::Words;
+}
+
+namespace
+{
+
+double ReadLimit(const Source& source, const Subject& what, LimitForm form, Diagnostics& diagnostics)
+{
+    if (form == LimitForm::Words)
+        return Integer(source, 0, MAX_LIMIT, what, diagnostics).value_or(0);
+    return Real(source, what, diagnostics).value_or(0);
+}
+
+std::string LimitText(double limit, LimitForm form)
+{
+    return form == LimitForm::Words ? HexText(static_cast<int>(limit)) : fmt::format("{}", limit);
+}
+
+// As the panel reads it.
+double LimitNumber(const std::string& field, LimitForm form)
+{
+    if (form == LimitForm::Words)
+        return HexNumber(field);
+    const double limit = std::strtod(field.c_str(), nullptr);
+    return std::isfinite(limit) ? limit : 0;
+}
+
+} // namespace
+
 void LimitTable::readRow(const Source& source, int& number, const CodeTable& codes,
-                         const MessageTable& messages, Diagnostics& diagnostics)
+                         const MessageTable& messages, LimitForm form, Diagnostics& diagnostics)
 {
     const std::vector<Entry> entries = Entries(source, "limit " + std::to_string(number), diagnostics);
     for (const Entry& entry : entries)
@@ -156,8 +190,8 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
     const auto message = [&](const Entry& entry) {
         return messages.names().find(entry.value, what + ": " + Quoted(entry.name), diagnostics).value_or(0);
     };
-    const auto limit = [&](const Entry& entry, int maximum) {
-        return Integer(entry.value, 0, maximum, what + ": " + Quoted(entry.name), diagnostics).value_or(0);
+    const auto limit = [&](const Entry& entry) {
+        return ReadLimit(entry.value, what + ": " + Quoted(entry.name), form, diagnostics);
     };
     bool bound = false;
     for (const Entry& entry : entries) {
@@ -167,11 +201,11 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
         if (entry.name == "data")
             cell = codes.find(entry.value, what + ": 'data'", diagnostics);
         else if (entry.name == "count")
-            count = std::max(1, limit(entry, 999999));
+            count = std::max(1, Integer(entry.value, 0, 999999, what + ": 'count'", diagnostics).value_or(0));
         else if (entry.name == "minimum")
-            row.limits[0] = limit(entry, MAX_LIMIT);
+            row.limits.minimum = limit(entry);
         else if (entry.name == "maximum")
-            row.limits[1] = limit(entry, MAX_LIMIT);
+            row.limits.maximum = limit(entry);
         else if (entry.name == "below")
             row.errors[0] = message(entry);
         else if (entry.name == "above")
@@ -185,6 +219,10 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
         diagnostics.error(source.place(), what + " has no cells. Name the first one with 'data'.");
     if (!cell)
         return;
+    if (form == LimitForm::Decimals && row.limits.minimum > row.limits.maximum)
+        diagnostics.error(
+            source.place(),
+            what + " has a 'minimum' above its 'maximum', so every entry is refused. Exchange them.");
     if (count > cell->count - cell->offset)
         diagnostics.error(source.place(), what, " ends beyond its code. Lower 'count' to {}.",
                           cell->count - cell->offset);
@@ -196,31 +234,38 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
 }
 
 void LimitTable::read(const Source& section, const CodeTable& codes, const MessageTable& messages,
-                      Diagnostics& diagnostics)
+                      LimitForm form, Diagnostics& diagnostics)
 {
     if (!section.isEmpty() && !section.isList())
         diagnostics.error(section.place(), "'limits' must be a list. Begin each limit with '-'.");
     int number = 1;
     for (const Source& member : section.members()) {
-        readRow(member, number, codes, messages, diagnostics);
+        readRow(member, number, codes, messages, form, diagnostics);
         ++number;
     }
 }
 
-std::string LimitTable::bytes() const
+std::optional<ValueRange> LimitTable::rangeOf(const std::string& code, int offset) const
+{
+    for (const auto& [number, row] : rows_)
+        if (row.code == code && offset >= row.offsets[1] && offset <= row.offsets[0])
+            return row.limits;
+    return std::nullopt;
+}
+
+std::string LimitTable::bytes(LimitForm form) const
 {
     std::string bytes = "[LIMTDATA]\n";
     for (const auto& entry : rows_) {
         const Row& row = entry.second;
-        bytes += "LIMT" + std::to_string(entry.first) + "=" + row.code + "," +
-                 std::to_string(row.offsets[0]) + "," + std::to_string(row.offsets[1]) + "," +
-                 HexText(row.limits[0]) + "," + HexText(row.limits[1]) + "," + std::to_string(row.errors[0]) +
-                 "," + std::to_string(row.errors[1]) + "\n";
+        bytes += fmt::format("LIMT{}={},{},{},{},{},{},{}\n", entry.first, row.code, row.offsets[0],
+                             row.offsets[1], LimitText(row.limits.minimum, form),
+                             LimitText(row.limits.maximum, form), row.errors[0], row.errors[1]);
     }
     return bytes;
 }
 
-void LimitTable::load(const std::string& bytes)
+void LimitTable::load(const std::string& bytes, LimitForm form)
 {
     for (const auto& key : ProfileValues(bytes, "LIMTDATA")) {
         const std::optional<int> number = KeyNumber(key.first, "LIMT");
@@ -229,7 +274,7 @@ void LimitTable::load(const std::string& bytes)
         const std::vector<std::string> fields = ProfileFields(key.second);
         rows_[*number] = {Field(fields, 0),
                           {Number(Field(fields, 1)), Number(Field(fields, 2))},
-                          {HexNumber(Field(fields, 3)), HexNumber(Field(fields, 4))},
+                          {LimitNumber(Field(fields, 3), form), LimitNumber(Field(fields, 4), form)},
                           {Number(Field(fields, 5)), Number(Field(fields, 6))}};
     }
 }
@@ -243,7 +288,7 @@ std::string LimitTable::yaml(const MessageTable& messages) const
             "no: " + std::to_string(entry.first),
             "data: " + YamlScalar(EucToUtf8(row.code) + "+" + std::to_string(row.offsets[1])),
             "count: " + std::to_string(1LL + row.offsets[0] - row.offsets[1]),
-            "minimum: " + std::to_string(row.limits[0]), "maximum: " + std::to_string(row.limits[1])};
+            fmt::format("minimum: {}", row.limits.minimum), fmt::format("maximum: {}", row.limits.maximum)};
         if (row.errors[0])
             parts.push_back("below: " + YamlScalar(messages.names().nameOf(row.errors[0])));
         if (row.errors[1])

@@ -39,30 +39,49 @@ class MessageTable
     std::map<int, Row> rows_;
 };
 
+/// From a lowest to a highest number.
+struct ValueRange {
+    double minimum = 0;
+    double maximum = 0;
+};
+
+/// How the file "LimtData.prf" holds limits.
+enum class LimitForm {
+    Words,    ///< whole numbers from 0 to 65535, in hexadecimal
+    Decimals, ///< any numbers, where limits bind
+};
+
+/// The form of an edition.
+LimitForm LimitFormOf(int edition);
+
 /// The file "LimtData.prf".
 class LimitTable
 {
   public:
     /// Reads the section "limits", a list of "{data: cell, count: cells, minimum, maximum, below: message,
-    /// above: message}". Limits are whole numbers from 0 to 65535, which the file holds in hexadecimal.
-    void read(const Source& section, const CodeTable& codes, const MessageTable& messages,
+    /// above: message}".
+    void read(const Source& section, const CodeTable& codes, const MessageTable& messages, LimitForm form,
               Diagnostics& diagnostics);
 
     bool empty() const { return rows_.empty(); }
 
-    std::string bytes() const;
-    void load(const std::string& bytes);
+    /// The limits of the first row for a cell of a code; none without one.
+    /// @param code  EUC-JP
+    std::optional<ValueRange> rangeOf(const std::string& code, int offset) const;
+
+    std::string bytes(LimitForm form) const;
+    void load(const std::string& bytes, LimitForm form);
     std::string yaml(const MessageTable& messages) const;
 
   private:
     struct Row {
         std::string code;
         std::array<int, 2> offsets{}; ///< last and first: a row covers the cells from the second to the first
-        std::array<int, 2> limits{};
+        ValueRange limits;
         std::array<int, 2> errors{};
     };
     void readRow(const Source& source, int& number, const CodeTable& codes, const MessageTable& messages,
-                 Diagnostics& diagnostics);
+                 LimitForm form, Diagnostics& diagnostics);
     std::map<int, Row> rows_;
 };
 

@@ -164,14 +164,20 @@ class LimitSection : public Section
     LimitSection() : Section("limits", "LimtData.prf", ProjectFile::Made) {}
     void read(P& to, const SectionSource& from) const override
     {
-        to.limits.read(from.value(), to.codes, to.messages, from.diagnostics);
+        to.limits.read(from.value(), to.codes, to.messages, FormOf(to), from.diagnostics);
     }
-    Bytes bytes(const P& of) const override { return of.limits.empty() ? Bytes() : of.limits.bytes(); }
-    void load(P& to, const SectionFile& from) const override { to.limits.load(from.text()); }
+    Bytes bytes(const P& of) const override
+    {
+        return of.limits.empty() ? Bytes() : of.limits.bytes(FormOf(of));
+    }
+    void load(P& to, const SectionFile& from) const override { to.limits.load(from.text(), FormOf(to)); }
     void emit(const P& of, FileMap& sources) const override
     {
         sources["tables.yaml"] += of.limits.yaml(of.messages);
     }
+
+  private:
+    static LimitForm FormOf(const P& project) { return LimitFormOf(project.profile.edition()); }
 };
 
 class FlagSection : public Section
