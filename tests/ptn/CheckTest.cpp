@@ -51,6 +51,7 @@ class Check : public testing::Test
 
 TEST_F(Check, finds_nothing_in_a_screen_without_mistakes)
 {
+    sources.write("edition.yaml", "edition: 2\n"); // of which there is nothing to warn about
     sources.screen(screen("  - { type: group-box, rect: [0, 0, 320, 240] }\n"
                           "  - { type: text, at: [8, 8], text: Speed }\n"
                           "  - { type: numeric, at: [80, 8], width: 5, data: A+1, entry: yes }\n"

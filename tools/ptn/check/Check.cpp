@@ -23,7 +23,7 @@ Subject ItemName(const PatternItem& item, std::size_t index)
                           std::to_string(item.record.Parm[PARM_Y1]));
 }
 
-int Check(const fs::path& folder, const std::string& registry, Diagnostics& diagnostics)
+int Check(const fs::path& folder, const std::string& registry, Diagnostics& diagnostics, Diagnostics& remarks)
 {
     Compiled read;
     if (IsCompiled(folder)) {
@@ -41,6 +41,7 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
         CheckItems(pattern, read.project, diagnostics);
         CheckLayout(pattern, read.project, diagnostics);
     }
+    CheckEditions(read.patterns, read.project, remarks);
     if (read.complete)
         CheckScreens(read.patterns, read.project, {folder.string(), 0}, diagnostics);
     return static_cast<int>(read.patterns.size());

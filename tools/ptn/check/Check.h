@@ -13,8 +13,10 @@ namespace ptn
 /// Checks a folder of sources or a compiled project.
 /// @param registry  C++ source, or folder of sources, of the program that knows the patterns; empty when the
 ///                  project's own section "registry" is to tell
+/// @param remarks   receives what is no mistake: what the screens use although a later edition corrects it
 /// @return number of patterns that were looked at
-int Check(const std::filesystem::path& folder, const std::string& registry, Diagnostics& diagnostics);
+int Check(const std::filesystem::path& folder, const std::string& registry, Diagnostics& diagnostics,
+          Diagnostics& remarks);
 
 // --- the parts of it -------------------------------------------------------------------------------------
 
@@ -31,5 +33,9 @@ void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnosti
 /// @param whole  the place of what is nowhere in particular
 void CheckScreens(const std::vector<Pattern>& patterns, const ProjectSource& project, const Place& whole,
                   Diagnostics& diagnostics);
+
+/// What screens use of the project's edition although a later one corrects it: for each screen and row of the
+/// table of editions that is marked so, the first place.
+void CheckEditions(const std::vector<Pattern>& patterns, const ProjectSource& project, Diagnostics& remarks);
 
 } // namespace ptn

@@ -2,11 +2,10 @@
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
 #include "tools/ptn/check/Check.h"
-#include "tools/ptn/model/ItemFacts.h"
+#include "tools/ptn/check/PlacedItems.h"
 
 #include <algorithm>
 #include <map>
-#include <memory>
 
 namespace ptn
 {
@@ -24,12 +23,8 @@ class Layout
 {
   public:
     Layout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
-        : pattern_(pattern), diagnostics_(diagnostics)
+        : pattern_(pattern), diagnostics_(diagnostics), placed_(pattern, project.resources)
     {
-        for (const PatternItem& item : pattern.items) {
-            facts_.push_back(std::make_unique<ItemFacts>(item, project.resources));
-            rects_.push_back(facts_.back()->drawnRect());
-        }
     }
 
     void checkPlaces();
@@ -44,12 +39,12 @@ class Layout
         const PatternItem& item = pattern_.items[index];
         diagnostics_.error(item.place, ItemName(item, index) + ": ", text, std::forward<Values>(values)...);
     }
-    std::size_t rank(std::size_t index) const;
 
     const Pattern& pattern_;
     Diagnostics& diagnostics_;
-    std::vector<std::unique_ptr<ItemFacts>> facts_;
-    std::vector<RECT> rects_;
+    PlacedItems placed_;
+    const std::vector<std::unique_ptr<ItemFacts>>& facts_ = placed_.facts;
+    const std::vector<RECT>& rects_ = placed_.rects;
 };
 
 void Layout::checkPlaces()
@@ -117,14 +112,6 @@ void Layout::checkChoices()
     }
 }
 
-// The place of an item of a known type in the order of drawing.
-std::size_t Layout::rank(std::size_t index) const
-{
-    const PTRNFILE& record = pattern_.items[index].record;
-    const int drawn = (record.Parm[PARM_PASS] == 1 ? CONT_PTRN : 0) + ItemRank(record.Type);
-    return static_cast<std::size_t>(drawn) * pattern_.items.size() + index;
-}
-
 void Layout::checkHidden()
 {
     for (std::size_t i = 0; i < rects_.size(); ++i) {
@@ -137,7 +124,7 @@ void Layout::checkHidden()
             // An item with a cell of its own may be hidden while the program runs.
             const bool stays =
                 above.code.empty() || (above.code == below.code && above.record.ID_No == below.record.ID_No);
-            if (i == j || !stays || !facts_[j]->isOpaque() || rank(j) < rank(i) ||
+            if (i == j || !stays || !facts_[j]->isOpaque() || placed_.isDrawnBefore(j, i) ||
                 !Contains(rects_[j], rects_[i]))
                 continue;
             say(i,

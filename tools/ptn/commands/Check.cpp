@@ -34,17 +34,25 @@ void CheckCommand::addOptions(CLI::App& line)
                     "C++ source, or folder of sources, that knows the patterns by name; instead of the\n"
                     "project's section 'registry'")
         ->check(CLI::ExistingPath);
-    line.footer("Ends with status 1 when it has found something.");
+    line.footer(
+        "Ends with status 1 when it has found something. Where a screen depends on what a later edition\n"
+        "corrects, a warning says so before the result (ptn help editions); it does not count.");
 }
 
 int CheckCommand::run()
 {
     Diagnostics diagnostics;
-    const int patterns = Check(folder_, registry_, diagnostics);
+    Diagnostics remarks;
+    const int patterns = Check(folder_, registry_, diagnostics, remarks);
     diagnostics.print(std::cerr);
+    remarks.print(std::cout);
     const int found = diagnostics.errors() + diagnostics.warnings();
     std::cout << folder_ << ": " << patterns << (patterns == 1 ? " screen, " : " screens, ")
-              << (found ? std::to_string(found) : std::string("nothing")) << " found.\n";
+              << (found ? std::to_string(found) : std::string("nothing")) << " found";
+    if (remarks.warnings())
+        std::cout << ", " << remarks.warnings() << (remarks.warnings() == 1 ? " warning" : " warnings")
+                  << " about its edition";
+    std::cout << ".\n";
     return found ? 1 : 0;
 }
 
