@@ -1,7 +1,11 @@
 #include "dialogs/MessageBox.h"
 
 #include "base/EucText.h"
+#include "config/Edition.h"
+#include "config/Settings.h"
+#include "dialogs/BoxPlace.h"
 
+#include <gdk/gdkkeysyms.h>
 #include <gtk/gtk.h>
 #include <string>
 #include <vector>
@@ -21,12 +25,28 @@ struct Button {
     void (*clicked)(GtkWidget*, gpointer);
 };
 
+/// Texts of the buttons.
+struct Labels {
+    const char* confirm;
+    const char* yes;
+    const char* no;
+    const char* cancel;
+};
+
+Labels ButtonLabels()
+{
+    if (Has(Correction::MessageBox) && Language != 0)
+        return {" OK ", " Yes ", " No ", " Cancel "};
+    return {" 確認 ", " はい ", " いいえ ", " キャンセル "};
+}
+
 std::vector<Button> ButtonsOf(int type)
 {
-    const Button confirm{" 確認 ", Message_Button1};
-    const Button yes{" はい ", Message_Button1};
-    const Button no{" いいえ ", Message_Button2};
-    const Button cancel{" キャンセル ", Message_Button3};
+    const Labels labels = ButtonLabels();
+    const Button confirm{labels.confirm, Message_Button1};
+    const Button yes{labels.yes, Message_Button1};
+    const Button no{labels.no, Message_Button2};
+    const Button cancel{labels.cancel, Message_Button3};
     switch (type) {
     case 1:
         return {confirm};
@@ -104,6 +124,24 @@ void Close(int button, gpointer window)
     gtk_widget_destroy(GTK_WIDGET(window));
 }
 
+/// Escape presses the last button, whose number is that of the type. Return is the toolkit's business: it
+/// presses the first button unless the focus has been moved to another.
+gboolean PressKey(GtkWidget* window, GdkEventKey* event, gpointer type)
+{
+    const int last = GPOINTER_TO_INT(type);
+    if (event->keyval != GDK_Escape || ButtonsOf(last).empty())
+        return FALSE;
+    Close(last, window);
+    return TRUE;
+}
+
+/// What the box does beside edition 1.
+void Correct(GtkWidget* window, int type)
+{
+    g_signal_connect(window, "key-press-event", G_CALLBACK(PressKey), GINT_TO_POINTER(type));
+    PlaceOverPanel(GTK_WINDOW(window));
+}
+
 } // namespace
 
 int MessageBox(const char* title, const char* text, int, int type)
@@ -115,6 +153,8 @@ int MessageBox(const char* title, const char* text, int, int type)
     Pack(column, NewButtonRow(type, window));
     gtk_container_add(GTK_CONTAINER(window), column);
     gtk_widget_show(column);
+    if (Has(Correction::MessageBox))
+        Correct(window, type);
     gtk_widget_show(window);
     gtk_grab_add(window);
     gtk_main();

@@ -8,6 +8,10 @@ extern int MessageButnNo;
 
 /// Shows a title, a line of text and the buttons of a type, and waits for one in a nested main loop.
 /// The tick and the windows behind go on running; their input is blocked. One box at a time.
+/// From edition 2 on the buttons are " OK ", " Yes ", " No " and " Cancel " unless the language is 0, which
+/// it is until the drawing resources are loaded; Escape presses the last button, and Return the first unless
+/// the focus has been moved to another; and the box stands over the panel's front window, see
+/// dialogs/BoxPlace.h.
 /// @param title    EUC-JP; null counts as empty
 /// @param text     EUC-JP; null counts as empty, 1,000 bytes are shown. A text wider than the screen is
 /// wrapped.

@@ -72,6 +72,8 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
 {
     const std::string pattern(name ? name : ""); // what it points to may be replaced here
     DestroyWidget();
+    static unsigned opened = 0; // only their order counts, so that it may go on for ever
+    Opened = ++opened;
     Exited = false;
     Closed = false;
     ParentWnd = parent;

@@ -13,6 +13,8 @@
 constexpr int KEYCURSOR_ON = 5;
 constexpr int KEYCURSOR_OFF = 2;
 
+class CPtrnDisp;
+
 namespace tessary
 {
 
@@ -25,6 +27,7 @@ enum PtrnKind {
 };
 
 struct WindowSignals;
+CPtrnDisp* FrontWnd();
 
 } // namespace tessary
 
@@ -200,6 +203,7 @@ class CPtrnDisp
 
   private:
     friend struct tessary::WindowSignals;
+    friend CPtrnDisp* tessary::FrontWnd();
     friend int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
     friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
@@ -212,6 +216,7 @@ class CPtrnDisp
     POINT Placed{};          ///< where it was put or found before
     bool Shown = false;      ///< the window has come up on the screen
     int Hidden = 0;          ///< ticks until it does
+    unsigned Opened = 0;     ///< grows from window to window, in the order of their opening
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
     void ReleasePattern();

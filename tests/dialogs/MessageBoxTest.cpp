@@ -2,15 +2,14 @@
 
 #include "base/EucText.h"
 #include "base/Types.h"
+#include "tests/dialogs/BoxWidgets.h"
 #include "tests/support/Toolkit.h"
 #include "tests/support/XDriver.h"
 
 #include <algorithm>
-#include <functional>
 #include <gdk/gdkkeysyms.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <memory>
 
 using namespace tessary;
 
@@ -22,34 +21,6 @@ namespace
 
 const char* const TITLE = "起動不可";
 const char* const MESSAGE = "環境設定ファイル(/opt/panel.ini)が存在しません。";
-
-/// Runs a function once from the main loop, when nothing else is to do.
-void later(const std::function<void()>& task)
-{
-    g_idle_add(
-        [](gpointer data) -> gboolean {
-            const std::unique_ptr<std::function<void()>> owned(static_cast<std::function<void()>*>(data));
-            (*owned)();
-            return FALSE;
-        },
-        new std::function<void()>(task));
-}
-
-/// The widgets of a type below a container, in their order.
-std::vector<GtkWidget*> widgets(GtkWidget* top, GType type)
-{
-    std::vector<GtkWidget*> found;
-    if (g_type_is_a(G_OBJECT_TYPE(top), type))
-        found.push_back(top);
-    if (!GTK_IS_CONTAINER(top))
-        return found;
-    GList* children = gtk_container_get_children(GTK_CONTAINER(top));
-    for (GList* child = children; child; child = child->next)
-        for (GtkWidget* widget : widgets(GTK_WIDGET(child->data), type))
-            found.push_back(widget);
-    g_list_free(children);
-    return found;
-}
 
 std::vector<std::string> warnings;
 
@@ -91,28 +62,11 @@ class Box : public testing::Test
         return MessageBox(TITLE, text, ignored, type);
     }
 
-    GtkWidget* window()
-    {
-        GtkWidget* found = nullptr;
-        GList* list = gtk_window_list_toplevels();
-        for (GList* entry = list; entry; entry = entry->next) {
-            const char* name = gtk_window_get_title(GTK_WINDOW(entry->data));
-            if (name && Utf8ToEuc(name) == TITLE)
-                found = GTK_WIDGET(entry->data);
-        }
-        g_list_free(list);
-        return found;
-    }
+    GtkWidget* window() { return findBox(TITLE); }
 
     std::vector<GtkWidget*> buttons() { return widgets(window(), GTK_TYPE_BUTTON); }
 
-    std::vector<std::string> labels()
-    {
-        std::vector<std::string> texts;
-        for (GtkWidget* button : buttons())
-            texts.push_back(Utf8ToEuc(gtk_button_get_label(GTK_BUTTON(button))));
-        return texts;
-    }
+    std::vector<std::string> labels() { return buttonLabels(window()); }
 
     GtkLabel* label() { return GTK_LABEL(widgets(window(), GTK_TYPE_LABEL).at(0)); }
 
