@@ -1,6 +1,7 @@
 // Font sets by number, and what the log says when one is missing.
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "draw/FontProblem.h"
 #include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
 #include "draw/ToolkitPtr.h"
@@ -30,6 +31,8 @@ std::array<FontPtr, CONT_FONT>& Fonts()
     return fonts;
 }
 
+std::string problem; ///< see FontProblem
+
 /// Name of the profile key; 64 bits, because a language number may be as large as the profile can write it.
 std::string FontKey(int no)
 {
@@ -55,6 +58,12 @@ std::string MissingCharsets(GdkFont* font)
     return names;
 }
 
+/// Appends a font set that is not as it should be to what FontProblem tells.
+void NoteProblem(const std::string& key, const std::string& what)
+{
+    problem += "The font set " + key + " " + what + ". ";
+}
+
 /// @return false when something of the font is missing
 bool LoadFont(int no, const std::string& key, const std::string& name)
 {
@@ -65,6 +74,7 @@ bool LoadFont(int no, const std::string& key, const std::string& name)
     if (!font) {
         LogText(CATEGORY_SYSTEM, __FILE__, __LINE__, "フォントの読込みに失敗 [%s=%s]", key.c_str(),
                 name.c_str());
+        NoteProblem(key, "(" + name + ") can not be loaded");
         return false;
     }
     const std::string missing = MissingCharsets(font.get());
@@ -72,6 +82,7 @@ bool LoadFont(int no, const std::string& key, const std::string& name)
         return true;
     LogText(CATEGORY_SYSTEM, __FILE__, __LINE__, "フォントに文字集合がない [%s: %s]", key.c_str(),
             missing.c_str());
+    NoteProblem(key, "lacks the character sets " + missing);
     return false;
 }
 
@@ -79,6 +90,7 @@ bool LoadFont(int no, const std::string& key, const std::string& name)
 
 void tessary::FontInit()
 {
+    problem.clear();
     int named = 0;
     bool complete = true;
     for (int no = 0; no < CONT_FONT; ++no) {
@@ -90,16 +102,30 @@ void tessary::FontInit()
         complete = LoadFont(no, key, name) && complete;
     }
 
-    if (!named)
+    if (!named) {
+        const std::string first = FontKey(0);
+        const std::string last = FontKey(CONT_FONT - 1);
         LogText(CATEGORY_SYSTEM, __FILE__, __LINE__,
-                "文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない",
-                FontKey(0).c_str(), FontKey(CONT_FONT - 1).c_str());
-    if (!complete)
+                "文字を表示できない: 環境設定ファイルの [FONT] に %s から %s のどのキーもない", first.c_str(),
+                last.c_str());
+        problem = "No text can be shown: name a font set with one of the keys " + first + " to " + last +
+                  " in the profile's section [FONT].";
+    }
+    if (!complete) {
+        problem +=
+            "Install the packages xfonts-base and xfonts-intl-japanese and start the X server anew, or "
+            "correct the name in the profile's section [FONT].";
         LogfileWrite(
             CATEGORY_SYSTEM,
             "xfonts-base, xfonts-intl-japanese を導入してXサーバーを再起動するか、[FONT] の名前を直すこと "
             "(名前はコンマで終わる。一つの名前が * で全文字集合に合うこと)",
             __FILE__, __LINE__);
+    }
+}
+
+std::string tessary::FontProblem()
+{
+    return problem;
 }
 
 void tessary::FontExit()

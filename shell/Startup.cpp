@@ -6,13 +6,15 @@
 #include "config/FileCntl.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
-#include "dialogs/MessageBox.h"
 #include "dialogs/PtrnMente.h"
+#include "draw/FontProblem.h"
 #include "draw/Resource.h"
 #include "log/Category.h"
 #include "log/Clock.h"
 #include "log/Logfile.h"
 #include "shell/Locale.h"
+#include "shell/ProgramEnd.h"
+#include "shell/Refusal.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
 #include "window/Request.h"
@@ -20,8 +22,8 @@
 #include "window/WindowExit.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <gtk/gtk.h>
+#include <optional>
+#include <string>
 
 using namespace tessary;
 
@@ -43,10 +45,33 @@ void FindProfile(const char* program)
     MakePath(ProfName, dir, base, "ini");
 }
 
-int RefuseStart(const char* text)
+/// What is wrong with the profile; nothing when a start can be made with it.
+std::optional<Refusal> ProfileProblem()
 {
-    MessageBox("起動不可", text, 1, 1);
-    return 0;
+    const std::string profile = ProfName;
+    if (!FileExist(ProfName, ""))
+        return Refusal{"環境設定ファイル(" + profile + ")が存在しません。",
+                       "The profile '" + profile +
+                           "' does not exist. Put it beside the program, under the program's "
+                           "name with the extension \"ini\"; \"ptn build\" makes it.",
+                       0};
+    const int edition = ReadEdition();
+    if (edition > LATEST_EDITION)
+        return Refusal{"このプログラムは EDITION=" + std::to_string(edition) +
+                           " のプロジェクトを実行できません。",
+                       "'" + profile + "' asks for edition " + std::to_string(edition) +
+                           ", but this program knows no edition above " + std::to_string(LATEST_EDITION) +
+                           ". Install a newer program, or correct EDITION in the section [TESSARY].",
+                       1};
+    SetEdition(edition);
+    CopyText(ProjPath, ProfileReadAsc(ProfName, "TESSARY", "PROJECT"));
+    if (!ProjPath[0])
+        return Refusal{"プロジェクトへのパスが設定されていません。",
+                       "'" + profile +
+                           "' names no project. Set PROJECT in the section [TESSARY] to the "
+                           "project's folder.",
+                       Has(Correction::StartStatus) ? 1 : 0};
+    return std::nullopt;
 }
 
 } // namespace
@@ -56,15 +81,10 @@ int TessaryInit(char* path)
     Platform = 3;
 
     FindProfile(path);
-    if (!FileExist(ProfName, "")) {
-        char text[SIZE_PATH + 64];
-        std::snprintf(text, sizeof text, "環境設定ファイル(%s)が存在しません。", ProfName);
-        return RefuseStart(text);
+    if (const auto problem = ProfileProblem()) {
+        RefuseStart(*problem);
+        return 0;
     }
-
-    CopyText(ProjPath, ProfileReadAsc(ProfName, "TESSARY", "PROJECT"));
-    if (!ProjPath[0])
-        return RefuseStart("プロジェクトへのパスが設定されていません。");
 
     LogfileInit();
     LogfileWrite("", "システム起動", nullptr, 0);
@@ -74,6 +94,8 @@ int TessaryInit(char* path)
     if (ComnDataInit() != 1)
         return 0;
     DrawCntlInit();
+    if (const std::string problem = FontProblem(); !problem.empty())
+        Tell(problem);
     return 1;
 }
 
@@ -110,26 +132,12 @@ void TessaryTimr()
 namespace
 {
 
-/// Ends the main loops around one that has been ended.
-gboolean QuitOuter(void*)
-{
-    gtk_main_quit();
-    return gtk_main_level() > 1;
-}
-
 /// Counts the stop request down; at zero the windows go and the main loop ends, also when the stop finds the
-/// operator in front of a message box, which has a main loop of its own.
+/// operator in front of a message box.
 void CountStop()
 {
-    if (WaitTimer == 0 || --WaitTimer != 0)
-        return;
-    if (SystmWnd)
-        SystmWnd->PtrnExit();
-    if (AppliWnd)
-        AppliWnd->PtrnExit();
-    if (gtk_main_level() > 1)
-        g_timeout_add(1, QuitOuter, nullptr);
-    gtk_main_quit();
+    if (WaitTimer != 0 && --WaitTimer == 0)
+        EndProgram();
 }
 
 } // namespace

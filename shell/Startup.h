@@ -4,8 +4,8 @@
 /// Set to 3 by TessaryInit; the framework does not read it.
 extern int Platform;
 
-/// Starts the framework: finds the profile beside the program, opens the log, loads the common data and
-/// the drawing resources.
+/// Starts the framework: finds the profile beside the program, takes its edition, opens the log, loads the
+/// common data and the drawing resources. What is missing is told on standard error too.
 /// @param path  the program's own path (argv[0]); the profile has its folder and base name, extension "ini"
 /// @return 1 on success; 0 after a message box has told what is missing, or when the data can not be loaded
 int TessaryInit(char* path);

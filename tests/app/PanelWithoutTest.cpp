@@ -125,6 +125,9 @@ TEST_F(PanelWithout, fonts_on_the_server_draws_everything_else)
     stop();
     EXPECT_EQ(told("フォントの読込みに失敗 [FONTNAME0="), 1);
     EXPECT_EQ(told("xfonts-base, xfonts-intl-japanese を導入"), 1);
+    EXPECT_THAT(program->output(),
+                AllOf(HasSubstr("panel: The font set FONTNAME0 ("),
+                      HasSubstr("Install the packages xfonts-base and xfonts-intl-japanese")));
 }
 
 TEST_F(PanelWithout, a_character_set_in_its_font_names_the_set)
@@ -134,6 +137,8 @@ TEST_F(PanelWithout, a_character_set_in_its_font_names_the_set)
     stop();
     EXPECT_EQ(told("フォントに文字集合がない [FONTNAME0: JISX0208"), 1);
     EXPECT_EQ(told("xfonts-base, xfonts-intl-japanese を導入"), 1);
+    EXPECT_THAT(program->output(),
+                HasSubstr("panel: The font set FONTNAME0 lacks the character sets JISX0208"));
 }
 
 TEST_F(PanelWithout, font_names_for_its_language_names_the_keys)
@@ -143,6 +148,7 @@ TEST_F(PanelWithout, font_names_for_its_language_names_the_keys)
     stop();
     EXPECT_EQ(told("文字を表示できない: 環境設定ファイルの [FONT] に FONTNAME20 から FONTNAME39"), 1);
     EXPECT_EQ(told("導入"), 0) << "nothing to install";
+    EXPECT_THAT(program->output(), HasSubstr("with one of the keys FONTNAME20 to FONTNAME39"));
 }
 
 TEST_F(PanelWithout, colors_shows_black_and_names_the_file)

@@ -2,6 +2,8 @@
 #include "tessary.h"
 
 #include <cstdio>
+#include <string>
+#include <unistd.h>
 
 namespace
 {
@@ -10,6 +12,13 @@ void tell(const char* call)
 {
     std::puts(call);
     std::fflush(stdout);
+}
+
+/// Shows a message box where the profile asks for one.
+void ask(const char* key)
+{
+    if (ProfileReadInt(ProfName, "TEST", key))
+        MessageBox(key, "", 1, 3);
 }
 
 } // namespace
@@ -24,12 +33,18 @@ CPtrnDisp* GetPtrnWnd(const char*)
 int UserInit()
 {
     tell("init");
+    ask("ASKINIT");
     return ProfileReadInt(ProfName, "TEST", "INIT");
 }
 
+/// Returns when the file that the profile names is there.
 void UserExit()
 {
     tell("exit");
+    ask("ASKEXIT");
+    const std::string file = ProfileReadAsc(ProfName, "TEST", "WAIT");
+    while (!file.empty() && access(file.c_str(), F_OK) != 0)
+        usleep(1000);
 }
 
 void UserTimr()

@@ -1,0 +1,15 @@
+// What the program answers on its command line, and the toolkit's start.
+#pragma once
+
+namespace tessary
+{
+
+/// Answers --help and --version on standard output, without a display.
+/// @return whether one of them was asked for, so that the program has nothing more to do
+bool AnswerOption(int argc, char** argv);
+
+/// Starts the toolkit, which takes its own arguments out of the list.
+/// @return false when the display can not be opened, which standard error tells
+bool StartToolkit(int* argc, char*** argv);
+
+} // namespace tessary

@@ -1,0 +1,20 @@
+// The end of the program: by the stop countdown or by a signal.
+#pragma once
+
+namespace tessary
+{
+
+/// Exits the windows, the system window first, and ends every main loop that runs: a message box has one of
+/// its own.
+void EndProgram();
+
+/// From now on SIGTERM, SIGINT and SIGHUP end the program as the end of the stop countdown does, without its
+/// stop pattern and its delay; an entry in progress is discarded. Main loops that begin after that, as of a
+/// message box, end at once. A second signal changes nothing. To be called once, before the toolkit starts.
+/// Signals that come before a main loop runs are obeyed by the first one.
+void WatchSignals();
+
+/// Whether a signal has ended the program.
+bool EndedBySignal();
+
+} // namespace tessary
