@@ -12,7 +12,7 @@ namespace
 using testing::HasSubstr;
 using testing::Not;
 
-const char* const summary = "src: 1 screen, nothing found";
+const char* const SUMMARY = "src: 1 screen, nothing found";
 
 class EditionWarning : public testing::Test
 {
@@ -44,9 +44,9 @@ class EditionWarning : public testing::Test
     void expectWarns(const std::string& message)
     {
         const std::string line = "src/screens/a.yaml:" + message + ". Set 'edition: 2' in project.yaml.\n";
-        EXPECT_EQ(check(1), message.empty() ? std::string(summary) + ".\n"
-                                            : line + summary + ", 1 warning about its edition.\n");
-        EXPECT_EQ(check(2), std::string(summary) + ".\n");
+        EXPECT_EQ(check(1), message.empty() ? std::string(SUMMARY) + ".\n"
+                                            : line + SUMMARY + ", 1 warning about its edition.\n");
+        EXPECT_EQ(check(2), std::string(SUMMARY) + ".\n");
     }
 
     Sources sources;
@@ -63,7 +63,7 @@ TEST_P(EditionWarningOf, names_the_row_the_place_and_what_happens)
     expectWarns(GetParam().message);
 }
 
-const MessageCase cases[] = {
+const MessageCase CASES[] = {
     {"wheel", "  - { type: spin, rect: [1, 1, 20, 20], data: A }\n",
      "4: warning: spin at 1,1: [edition 2: spin-wheel] the wheel over it changes what was pressed last"},
     {"wheel_of_two",
@@ -146,7 +146,7 @@ const MessageCase cases[] = {
      "4: warning: button at 1,1: [edition 2: keys-to-front] 'default' has no effect"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ptn, EditionWarningOf, testing::ValuesIn(cases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Ptn, EditionWarningOf, testing::ValuesIn(CASES), CaseName);
 
 TEST_F(EditionWarning, counts_an_item_once_and_names_each_row)
 {
