@@ -1,5 +1,6 @@
 // Fixed text, variable text and numeric field. Text colours are 4..7, backgrounds 8..11, clear colour 29.
 #include "tests/pattern/ItemCanvas.h"
+#include "tests/support/UseEdition.h"
 
 using namespace tessary;
 
@@ -166,6 +167,24 @@ TEST_F(VariableText, looks_at_the_two_bytes_of_the_cut_only)
     EXPECT_EQ(shown(2, "\xA1\xA0\xA1"), std::string("\xA1\xA0")); // 160 is none
     EXPECT_EQ(shown(2, "\xFE\xFE\xFE"), std::string("\xFE"));     // 254 is the last
     EXPECT_EQ(shown(2, "\xFE\xFF\xFE"), std::string("\xFE\xFF")); // 255 is none
+}
+
+TEST_F(VariableText, is_cut_at_the_last_whole_character_in_edition_2)
+{
+    const UseEdition edition;
+    const std::string mixed = "a漢字b列\xA0漢c";
+    for (int width = 0; width <= 12; width++) {
+        std::string fits;
+        for (const char* character : {"a", "漢", "字", "b", "列", "\xA0", "漢", "c"}) {
+            if (fits.size() + std::strlen(character) > static_cast<std::size_t>(width))
+                break;
+            fits += character;
+        }
+        EXPECT_EQ(shown(width, mixed), fits) << width;
+    }
+    EXPECT_EQ(shown(2, "漢字"), "漢");
+    EXPECT_EQ(shown(4, "漢字列"), "漢字");
+    EXPECT_EQ(shown(2, "\xFE\xFE\xFE"), "\xFE\xFE");
 }
 
 TEST_F(VariableText, paints_its_whole_field_before_its_text)

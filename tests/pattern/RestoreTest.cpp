@@ -4,6 +4,7 @@
 #include "tests/support/UseEdition.h"
 
 #include "config/Edition.h"
+#include "pattern/ItemTable.h"
 #include "pattern/Layers.h"
 
 #include <filesystem>
@@ -380,16 +381,50 @@ TEST_P(BlinkingTypes, are_away_for_three_ticks_and_shown_for_seven)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, BlinkingTypes, testing::Range(1, CONT_PTRN + 1), typeName);
-
-TEST_F(Layered, only_texts_and_marks_blink_before_that_edition)
+TEST_P(BlinkingTypes, blink_only_where_they_are_texts_or_marks_before_that_edition)
 {
+    const int type = GetParam();
+    const bool old = type == PTRN_FCHR || type == PTRN_CHAR || type == PTRN_NUMR || type == PTRN_MARK;
     setState(1, STATE_FLICKER);
-    open(plain().item(PTRN_RECT, 10, 10, 60, 40).code("A"));
+    setText(1, "abc");
+    open(twoOf(type));
+    const Picture shown = canvas.picture();
+    bool changed = false;
+    for (int count = 0; count < 20; ++count) {
+        tick();
+        changed = changed || !same(canvas.picture(), shown);
+    }
+    EXPECT_EQ(changed, old);
+}
+
+TEST_P(BlinkingTypes, that_are_disabled_do_not_blink)
+{
+    const UseEdition edition;
+    setState(1, STATE_DISABLE | STATE_FLICKER);
+    setText(1, "abc");
+    open(twoOf(GetParam()));
     const Picture shown = canvas.picture();
     for (int count = 0; count < 20; ++count) {
         tick();
         ASSERT_TRUE(same(canvas.picture(), shown)) << count;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BlinkingTypes, testing::Range(1, CONT_PTRN + 1), typeName);
+
+TEST_F(Layered, what_blinks_by_its_parameter_needs_no_state)
+{
+    const UseEdition edition;
+    for (const ItemClass& type : ItemClasses()) {
+        if (type.blinkParm < 0)
+            continue;
+        setText(1, "abc");
+        open(plain().item(type.type, 10, 10, 60, 40).text("Tank").code("A").parm(type.blinkParm, 1));
+        const Picture shown = canvas.picture();
+        for (int count = 0; count < 10; ++count)
+            tick();
+        EXPECT_FALSE(same(canvas.picture(), shown)) << type.name;
+        EXPECT_TRUE(asModelled()) << type.name << " shows the body alone";
     }
 }
 
