@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -47,7 +48,11 @@ void UserExit()
         usleep(1000);
 }
 
+/// Asks once; a box has ticks of its own.
 void UserTimr()
 {
+    static bool asked = false;
     tell("tick");
+    if (!std::exchange(asked, true))
+        ask("ASKTICK");
 }

@@ -152,6 +152,17 @@ TEST_F(Main, at_a_signal_leaves_the_box_of_its_start_and_shows_no_window)
     EXPECT_THAT(toldBesideTicks(), ElementsAre("init", "exit"));
 }
 
+TEST_F(Main, ends_at_a_signal_while_a_tick_waits_for_an_answer)
+{
+    project.set("TEST", "INIT", "1").set("TEST", "ASKTICK", "1");
+    run();
+    user.waitForWindow("ASKTICK");
+    send(SIGTERM);
+    EXPECT_EQ(waitEnd(), 0) << program->output();
+    EXPECT_THAT(toldBesideTicks(), ElementsAre("init", "window", "exit"));
+    EXPECT_EQ(project.messages().back(), "システム停止");
+}
+
 TEST_F(Main, after_a_signal_does_not_wait_for_an_answer)
 {
     project.set("TEST", "INIT", "1").set("TEST", "ASKEXIT", "1");
