@@ -43,15 +43,15 @@ gboolean StayAbove(GtkWidget* box, GdkEventVisibility* event, gpointer)
 
 } // namespace
 
-void PlaceOverPanel(GtkWindow* box)
+void PlaceOverPanel(GtkWidget* box)
 {
     const CPtrnDisp* const front = FrontWnd();
     if (front && front->Widget) {
-        gtk_window_set_transient_for(box, GTK_WINDOW(front->Widget));
-        gtk_window_set_position(box, GTK_WIN_POS_CENTER_ON_PARENT);
+        gtk_window_set_transient_for(GTK_WINDOW(box), GTK_WINDOW(front->Widget));
+        gtk_window_set_position(GTK_WINDOW(box), GTK_WIN_POS_CENTER_ON_PARENT);
     }
-    gtk_window_set_keep_above(box, TRUE);
-    gtk_widget_add_events(GTK_WIDGET(box), GDK_VISIBILITY_NOTIFY_MASK);
+    gtk_window_set_keep_above(GTK_WINDOW(box), TRUE);
+    gtk_widget_add_events(box, GDK_VISIBILITY_NOTIFY_MASK);
     g_signal_connect(box, "visibility-notify-event", G_CALLBACK(StayAbove), nullptr);
 }
 

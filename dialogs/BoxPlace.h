@@ -8,6 +8,6 @@ namespace tessary
 
 /// Puts a box that is realized but not shown yet in the middle of the panel's front window, or of the screen
 /// when there is none, and keeps it above all windows of the program, with or without a window manager.
-void PlaceOverPanel(GtkWindow* box);
+void PlaceOverPanel(GtkWidget* box);
 
 } // namespace tessary

@@ -139,7 +139,7 @@ gboolean PressKey(GtkWidget* window, GdkEventKey* event, gpointer type)
 void Correct(GtkWidget* window, int type)
 {
     g_signal_connect(window, "key-press-event", G_CALLBACK(PressKey), GINT_TO_POINTER(type));
-    PlaceOverPanel(GTK_WINDOW(window));
+    PlaceOverPanel(window);
 }
 
 } // namespace

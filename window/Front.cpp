@@ -10,6 +10,10 @@
 namespace tessary
 {
 
+struct WindowOrder {
+    static bool isLater(const CPtrnDisp& wnd, const CPtrnDisp& than) { return wnd.Opened > than.Opened; }
+};
+
 namespace
 {
 
@@ -40,7 +44,7 @@ CPtrnDisp* FrontWnd()
         waiting.pop_back();
         if (!wnd)
             continue;
-        if (wnd != root && IsBefore(*wnd) && (!front || front->Opened < wnd->Opened))
+        if (wnd != root && IsBefore(*wnd) && (!front || WindowOrder::isLater(*wnd, *front)))
             front = wnd;
         waiting.insert(waiting.end(), {wnd->ChildWnd1, wnd->ChildWnd2});
     }

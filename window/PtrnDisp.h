@@ -13,8 +13,6 @@
 constexpr int KEYCURSOR_ON = 5;
 constexpr int KEYCURSOR_OFF = 2;
 
-class CPtrnDisp;
-
 namespace tessary
 {
 
@@ -26,8 +24,8 @@ enum PtrnKind {
     KIND_SYSTEM = 3,
 };
 
+struct WindowOrder;
 struct WindowSignals;
-CPtrnDisp* FrontWnd();
 
 } // namespace tessary
 
@@ -203,7 +201,7 @@ class CPtrnDisp
 
   private:
     friend struct tessary::WindowSignals;
-    friend CPtrnDisp* tessary::FrontWnd();
+    friend struct tessary::WindowOrder;
     friend int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
     friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
