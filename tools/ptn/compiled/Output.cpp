@@ -17,10 +17,10 @@ namespace
 
 /// Lists what the build has written, one path per line, so that the next one can tell its own old files
 /// from those of others.
-const char* const listName = ".ptn-files";
+const char* const LIST_NAME = ".ptn-files";
 
 /// What the build has made of files that the program goes on writing: a check sum and the name per line.
-const char* const seedListName = ".ptn-seeds";
+const char* const SEED_LIST_NAME = ".ptn-seeds";
 
 // FNV-1a: it only has to tell whether sources have changed.
 std::string CheckSum(const std::string& bytes)
@@ -119,8 +119,8 @@ OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const Fil
         list += file.first + "\n";
         project.add(file.first, file.second);
     }
-    project.add(listName, list);
-    const std::string seedsBefore = ReadBytes(place / seedListName).value_or("");
+    project.add(LIST_NAME, list);
+    const std::string seedsBefore = ReadBytes(place / SEED_LIST_NAME).value_or("");
     std::string seedList;
     for (const auto& seed : seeds) {
         const std::string line = CheckSum(seed.second) + " " + seed.first + "\n";
@@ -129,10 +129,10 @@ OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const Fil
             project.add(seed.first, seed.second);
     }
     if (!seedList.empty())
-        project.add(seedListName, seedList);
+        project.add(SEED_LIST_NAME, seedList);
     beside.add(profile.filename().string(), profileBytes);
 
-    const std::string before = ReadBytes(place / listName).value_or("");
+    const std::string before = ReadBytes(place / LIST_NAME).value_or("");
     OutputReport report;
     // And the lists, and the profile.
     report.files = static_cast<int>(files.size() + seeds.size()) + (seedList.empty() ? 2 : 3);

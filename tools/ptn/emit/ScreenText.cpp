@@ -19,9 +19,9 @@ namespace ptn
 namespace
 {
 
-const std::set<int> corners = {PARM_X1, PARM_Y1, PARM_X2, PARM_Y2};
+const std::set<int> CORNERS = {PARM_X1, PARM_Y1, PARM_X2, PARM_Y2};
 /// What "size" and "at" of a window say.
-const std::set<int> windowPlace = {HEDR_WIDTH, HEDR_HEIGHT, HEDR_LEFT, HEDR_TOP};
+const std::set<int> WINDOW_PLACE = {HEDR_WIDTH, HEDR_HEIGHT, HEDR_LEFT, HEDR_TOP};
 
 Parms ToParms(const std::int32_t* values)
 {
@@ -175,7 +175,7 @@ std::string ItemWriter::text()
     std::vector<std::string> left;
     const auto attributesFrom = [&](const Parms& before) {
         left.clear();
-        return AttributeTexts(TablesOf(type), before, wanted, project_.vocabulary(), corners, left);
+        return AttributeTexts(TablesOf(type), before, wanted, project_.vocabulary(), CORNERS, left);
     };
     // The build measures a text without a width, unless its corners or texts are exact: those come later.
     Parms measured = before_;
@@ -233,7 +233,7 @@ std::string WindowText(const Pattern& pattern, const ProjectSource& project, con
     pair("at", HEDR_LEFT, -32768);
     std::vector<std::string> left;
     for (const std::string& part :
-         AttributeTexts({HeaderParms()}, before, wanted, project.vocabulary(), windowPlace, left))
+         AttributeTexts({HeaderParms()}, before, wanted, project.vocabulary(), WINDOW_PLACE, left))
         text += "  " + part + "\n";
     if (!left.empty())
         text += "  parm: " + YamlMap(left) + "\n";
@@ -335,10 +335,10 @@ Defaults CommonStyles(const std::vector<Pattern>& patterns, const Vocabulary& na
         for (const PatternItem& item : pattern.items)
             items[item.record.Type].push_back(item.record.Parm);
     }
-    learn("window", {HeaderParms()}, windows, windowPlace);
+    learn("window", {HeaderParms()}, windows, WINDOW_PLACE);
     for (const auto& type : items)
         if (const ItemClass* schema = FindItemClass(type.first)) {
-            std::set<int> skip = corners;
+            std::set<int> skip = CORNERS;
             if (schema->measuredParm >= 0)
                 skip.insert(schema->measuredParm);
             learn(schema->name, TablesOf(type.first), type.second, skip);

@@ -17,7 +17,7 @@ namespace ptn
 namespace
 {
 
-constexpr const char* builtinMarks[CONT_BUILTINMARK] = {"radio-off", "radio-on", "check-off", "check-on"};
+constexpr const char* BUILTIN_MARKS[CONT_BUILTINMARK] = {"radio-off", "radio-on", "check-off", "check-on"};
 
 std::optional<COLRDATA> ParseColor(const Source& source)
 {
@@ -69,7 +69,7 @@ std::optional<MARKDATA> ReadMark(const NumberedEntry& entry, SIZE size, const st
 Resources::Resources()
 {
     for (int mark = 0; mark < CONT_BUILTINMARK; ++mark)
-        marks_.add(builtinMarks[mark], CONT_MARK + mark);
+        marks_.add(BUILTIN_MARKS[mark], CONT_MARK + mark);
 }
 
 void Resources::readColors(const Source& section, Diagnostics& diagnostics)

@@ -28,7 +28,7 @@ Tables TablesOf(const std::string& style)
 }
 
 // What a style of items may say beside parameters.
-const std::set<std::string> itemKeys = {"size", "action"};
+const std::set<std::string> ITEM_KEYS = {"size", "action"};
 
 bool Knows(const Tables& tables, const std::string& name)
 {
@@ -40,7 +40,7 @@ bool Knows(const Tables& tables, const std::string& name)
 
 std::vector<std::string> Names(const Tables& tables)
 {
-    std::set<std::string> names = itemKeys;
+    std::set<std::string> names = ITEM_KEYS;
     for (const auto& table : tables)
         for (const ParmSchema& parm : table)
             names.insert(parm.name);
@@ -55,7 +55,7 @@ void Styles::read(const Source& section, Diagnostics& diagnostics)
         Layer layer{"style " + Quoted(style.name), {}};
         const Tables tables = TablesOf(style.name);
         for (const Entry& entry : Entries(style.value, layer.label, diagnostics)) {
-            if (Knows(tables, entry.name) || (style.name != "window" && itemKeys.count(entry.name)))
+            if (Knows(tables, entry.name) || (style.name != "window" && ITEM_KEYS.count(entry.name)))
                 layer.entries.push_back(entry);
             else
                 ReportUnknown(entry, layer.label + ": unknown attribute", Names(tables),

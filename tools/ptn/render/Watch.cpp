@@ -20,7 +20,7 @@ struct Unref {
 template <class T> using Owned = std::unique_ptr<T, Unref>;
 
 /// Editors save in several steps; one picture is made of them.
-constexpr guint settleMilliseconds = 150;
+constexpr guint SETTLE_MILLISECONDS = 150;
 
 class Watcher
 {
@@ -104,7 +104,7 @@ void Watcher::onChange(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointe
 {
     auto* watcher = static_cast<Watcher*>(self);
     if (!watcher->settling_)
-        watcher->settling_ = g_timeout_add(settleMilliseconds, onSettled, watcher);
+        watcher->settling_ = g_timeout_add(SETTLE_MILLISECONDS, onSettled, watcher);
 }
 
 gboolean Watcher::onSettled(gpointer self)

@@ -16,14 +16,14 @@ namespace ptn
 namespace
 {
 
-const std::vector<std::string> itemKeys = {"type",   "style",   "rect", "at",   "size",   "text",
-                                           "action", "pattern", "data", "parm", "repeat", "exact"};
+const std::vector<std::string> ITEM_KEYS = {"type",   "style",   "rect", "at",   "size",   "text",
+                                            "action", "pattern", "data", "parm", "repeat", "exact"};
 
 /// What others call the place; the first four are in the schema.
-const std::set<std::string> placeWords = {"x1", "y1", "x2", "y2", "x", "y", "from", "to", "pos", "position"};
+const std::set<std::string> PLACE_WORDS = {"x1", "y1", "x2", "y2", "x", "y", "from", "to", "pos", "position"};
 
 /// A type that only its number names has no attributes but the common ones.
-const ItemClass unknownType = [] {
+const ItemClass UNKNOWN_TYPE = [] {
     ItemClass type;
     type.name = "item of an unknown type";
     return type;
@@ -112,18 +112,18 @@ void ItemReader::applyOwn(const std::vector<Entry>& entries)
 {
     Layer own{label_, {}};
     for (const Entry& entry : entries) {
-        if (placeWords.count(entry.name)) {
+        if (PLACE_WORDS.count(entry.name)) {
             diagnostics_.error(entry.place, label_,
                                ": write its place as rect: [x1, y1, x2, y2] or at: [x, y], not as '{}'.",
                                entry.name);
-        } else if (std::find(itemKeys.begin(), itemKeys.end(), entry.name) != itemKeys.end()) {
+        } else if (std::find(ITEM_KEYS.begin(), ITEM_KEYS.end(), entry.name) != ITEM_KEYS.end()) {
             readKey(entry);
         } else if (attributes_.find(entry.name)) {
             own.entries.push_back(entry);
         } else {
-            std::vector<std::string> names = itemKeys;
+            std::vector<std::string> names = ITEM_KEYS;
             for (const std::string& name : attributes_.names())
-                if (!placeWords.count(name))
+                if (!PLACE_WORDS.count(name))
                     names.push_back(name);
             const bool cell = entry.name == "code" || entry.name == "cell";
             diagnostics_.error(entry.place, label_, ": unknown attribute '{}'.{} Correct or remove it.",
@@ -251,7 +251,7 @@ std::optional<PatternItem> ReadItem(const Source& source, const std::vector<Entr
     const std::optional<int> number = ParseInteger(name);
     const ItemClass* schema = number ? FindItemClass(*number) : FindItemClass(name.c_str());
     if (!schema && number)
-        schema = &unknownType;
+        schema = &UNKNOWN_TYPE;
     if (!schema) {
         context.diagnostics.error(type->place, label, ": no type '{}'.{} Write one of: {}.", name,
                                   Suggestion(name, names), list);

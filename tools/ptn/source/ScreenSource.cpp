@@ -25,8 +25,8 @@ namespace
 /// Nothing interprets it when a pattern is loaded; it tells which tool wrote the file.
 constexpr int PATTERN_VERSION = 1;
 
-const std::vector<std::string> screenKeys = {"name",   "title",  "logo",  "background", "window",
-                                             "styles", "groups", "items", "exact"};
+const std::vector<std::string> SCREEN_KEYS = {"name",   "title",  "logo",  "background", "window",
+                                              "styles", "groups", "items", "exact"};
 
 class ScreenReader
 {
@@ -59,8 +59,8 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
 {
     std::map<std::string, Entry> parts;
     for (const Entry& entry : Entries(source, "the screen", diagnostics_)) {
-        if (std::find(screenKeys.begin(), screenKeys.end(), entry.name) == screenKeys.end())
-            ReportUnknown(entry, "unknown", screenKeys,
+        if (std::find(SCREEN_KEYS.begin(), SCREEN_KEYS.end(), entry.name) == SCREEN_KEYS.end())
+            ReportUnknown(entry, "unknown", SCREEN_KEYS,
                           "A screen has name, title, logo, background, window, styles, groups, items.",
                           diagnostics_);
         parts.emplace(entry.name, entry);

@@ -18,9 +18,9 @@ void Replace(std::string& text, const std::string& mark, const std::string& valu
 
 bool IsName(const std::string& name)
 {
-    static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    return !name.empty() && name.find_first_of(letters) == 0 &&
-           name.find_first_not_of(letters + std::string("0123456789_-")) == std::string::npos;
+    static const char* const LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return !name.empty() && name.find_first_of(LETTERS) == 0 &&
+           name.find_first_not_of(LETTERS + std::string("0123456789_-")) == std::string::npos;
 }
 
 } // namespace

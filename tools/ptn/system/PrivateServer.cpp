@@ -15,7 +15,7 @@ namespace ptn
 namespace
 {
 
-constexpr int startSeconds = 60;
+constexpr int START_SECONDS = 60;
 
 pid_t server = -1;
 pid_t owner = -1;
@@ -40,7 +40,7 @@ pid_t owner = -1;
 std::string ReadDisplay(int pipe)
 {
     std::string number;
-    for (pollfd ready{pipe, POLLIN, 0}; poll(&ready, 1, startSeconds * 1000) == 1;) {
+    for (pollfd ready{pipe, POLLIN, 0}; poll(&ready, 1, START_SECONDS * 1000) == 1;) {
         char byte;
         if (read(pipe, &byte, 1) != 1)
             return "";
@@ -80,8 +80,8 @@ std::string StartServer()
 
 const std::string& PrivateDisplay()
 {
-    static const std::string display = StartServer();
-    return display;
+    static const std::string DISPLAY = StartServer();
+    return DISPLAY;
 }
 
 } // namespace ptn

@@ -26,11 +26,11 @@ struct Placeholder {
 
 std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t from)
 {
-    static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+    static const char* const LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
     for (std::size_t at = text.find('$', from); at != std::string::npos; at = text.find('$', at + 1)) {
         const bool braces = text.compare(at + 1, 1, "{") == 0;
         const std::size_t begin = at + (braces ? 2 : 1);
-        const std::size_t end = std::min(text.find_first_not_of(letters, begin), text.size());
+        const std::size_t end = std::min(text.find_first_not_of(LETTERS, begin), text.size());
         if (end > begin && (!braces || text.compare(end, 1, "}") == 0))
             return Placeholder{at, end + (braces ? 1 : 0) - at, text.substr(begin, end - begin)};
     }

@@ -12,14 +12,14 @@ namespace
 // Stricter than YAML, whose own rule lets through what is hard to see, such as a lone carriage return.
 bool IsPlain(const std::string& text)
 {
-    static const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    static const char* const LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     if (text.empty() || text == "null" || text == "Null" || text == "NULL")
         return false;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char byte = text[i];
         const bool high = (byte & 0x80) != 0;
         const bool first =
-            high || std::string(letters).find(byte) != std::string::npos || (byte >= '0' && byte <= '9');
+            high || std::string(LETTERS).find(byte) != std::string::npos || (byte >= '0' && byte <= '9');
         const bool later = first || std::string("_-+./() ").find(byte) != std::string::npos;
         if (!(i ? later : first))
             return false;

@@ -6,20 +6,20 @@
 namespace
 {
 
-constexpr const char* kScreens[] = {"Main", "States", "Stop"};
+constexpr const char* SCREENS[] = {"Main", "States", "Stop"};
 
 // Cells, as project.yaml numbers them.
-constexpr int kSpeed = 100;
-constexpr int kSetpoint = 101;
-constexpr int kPump = 102;
-constexpr int kPumps = 4;
+constexpr int SPEED = 100;
+constexpr int SETPOINT = 101;
+constexpr int FIRST_PUMP = 102;
+constexpr int PUMP_COUNT = 4;
 
 } // namespace
 
 // A screen that needs code of its own gets a class derived from CPtrnDisp here.
 CPtrnDisp* GetPtrnWnd(const char* name)
 {
-    for (const char* screen : kScreens)
+    for (const char* screen : SCREENS)
         if (std::strcmp(screen, name) == 0)
             return new CPtrnDisp;
     return nullptr;
@@ -27,7 +27,7 @@ CPtrnDisp* GetPtrnWnd(const char* name)
 
 int UserInit()
 {
-    Set_iData(kSetpoint, 60, nullptr, 0);
+    Set_iData(SETPOINT, 60, nullptr, 0);
     return 1;
 }
 
@@ -36,11 +36,11 @@ void UserExit() {}
 // Every 100 ms: the speed follows its setpoint, the pumps change state now and then.
 void UserTimr()
 {
-    const int speed = Get_iData(kSpeed, nullptr, 0);
-    const int setpoint = Get_iData(kSetpoint, nullptr, 0);
+    const int speed = Get_iData(SPEED, nullptr, 0);
+    const int setpoint = Get_iData(SETPOINT, nullptr, 0);
     if (speed != setpoint)
-        Set_iData(kSpeed, speed + (speed < setpoint ? 1 : -1), nullptr, 0);
+        Set_iData(SPEED, speed + (speed < setpoint ? 1 : -1), nullptr, 0);
     static int ticks = 0;
     if (++ticks % 20 == 0)
-        Set_wData(kPump + ticks / 20 % kPumps, static_cast<WORD>(ticks / 80 % 4), nullptr, 0);
+        Set_wData(FIRST_PUMP + ticks / 20 % PUMP_COUNT, static_cast<WORD>(ticks / 80 % 4), nullptr, 0);
 }
