@@ -1,13 +1,18 @@
 // "ptn new": the project that it makes builds, checks, renders and links with a program of its own.
 #include "tests/ptn/Sources.h"
+#include "tests/support/Program.h"
 #include "tests/support/Project.h"
 
 #include <cstdlib>
 #include <filesystem>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace
 {
+
+using testing::HasSubstr;
+using testing::Not;
 
 class New : public testing::Test
 {
@@ -34,6 +39,27 @@ TEST_F(New, has_values_to_render_its_screen_with)
     const PtnResult result = sources.run("render plant Main --state plant/example.state -o main.png");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "main.png\n");
+}
+
+TEST_F(New, makes_a_project_that_can_be_built_elsewhere)
+{
+    ASSERT_EQ(sources.run("new plant").status, 0);
+    int files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator("plant")) {
+        if (!entry.is_regular_file())
+            continue;
+        const std::string text = readFile(entry.path().string());
+        ++files;
+        for (const std::string& place : {sources.root(), Program::buildFolder(), Program::sourceFolder()})
+            EXPECT_THAT(text, Not(HasSubstr(place))) << entry.path();
+    }
+    EXPECT_GE(files, 8);
+}
+
+TEST_F(New, tells_the_place_of_tessary_where_that_is_not_installed)
+{
+    EXPECT_THAT(sources.run("new plant").out,
+                HasSubstr("cmake -S plant -B plant/build -DTessary_DIR=" + Program::buildFolder() + " && "));
 }
 
 TEST_F(New, refuses_a_folder_with_something_in_it_and_names_that_are_no_program)

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,7 +24,7 @@ std::string Program::sourceFolder()
 
 Program::Program(const std::string& name, const std::string& argv0, const std::vector<std::string>& arguments)
 {
-    const std::string path = buildFolder() + "/" + name;
+    const std::string path = std::filesystem::path(buildFolder()) / name;
     std::string file = "/tmp/tessary-output-XXXXXX";
     const int output = mkstemp(file.data());
     outputFile_ = file;

@@ -9,7 +9,8 @@
 class Program
 {
   public:
-    /// Starts `<build folder>/<name>` in the present working directory. What it prints is kept.
+    /// Starts `<build folder>/<name>`, or `<name>` when that begins with '/', in the present working
+    /// directory. What it prints is kept.
     /// @param argv0      what the program sees as its own path
     /// @param arguments  further arguments
     Program(const std::string& name, const std::string& argv0,

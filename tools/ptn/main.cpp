@@ -33,7 +33,7 @@ bool IsUnknownCommand(const CLI::App& app, const std::string& word)
 int Run(int argc, char** argv)
 {
     CLI::App app("Makes, checks, shows and takes apart the project of an operator panel.", "ptn");
-    app.set_version_flag("--version", PTN_VERSION);
+    app.set_version_flag("--version", TESSARY_VERSION);
     app.require_subcommand(1);
 
     int status = 0;

@@ -2,6 +2,7 @@
 #include "tools/ptn/commands/Command.h"
 #include "tools/ptn/starter/NewProject.h"
 
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -10,6 +11,17 @@ namespace ptn
 
 namespace
 {
+
+/// What cmake is to be told besides, so that it finds Tessary: nothing where that is installed, its place
+/// where this program runs in the folder that it was built in.
+std::string PlaceOption()
+{
+    std::error_code unknown;
+    const std::filesystem::path folder =
+        std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
+    const bool isPackage = std::filesystem::exists(folder / "TessaryConfig.cmake", unknown);
+    return isPackage ? " -DTessary_DIR=" + folder.string() : "";
+}
 
 class NewCommand : public Command
 {
@@ -37,8 +49,8 @@ int NewCommand::run()
         return 1;
     std::cout << folder_ << ": screens to begin with, a program that shows them, and its build.\n"
               << "To see the first screen:  ptn render " << folder_ << " Main\n"
-              << "To build and run it:      cmake -S " << folder_ << " -B " << folder_
-              << "/build && cmake --build " << folder_ << "/build\n";
+              << "To build and run it:      cmake -S " << folder_ << " -B " << folder_ << "/build"
+              << PlaceOption() << " && cmake --build " << folder_ << "/build\n";
     return 0;
 }
 

@@ -44,8 +44,7 @@ bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
     for (const EmbeddedFile& file : StarterFiles()) {
         std::string text(file.bytes);
         Replace(text, "@NAME@", name);
-        Replace(text, "@TESSARY@", PTN_TESSARY);
-        Replace(text, "@BUILD@", PTN_BUILD);
+        Replace(text, "@VERSION@", TESSARY_VERSION);
         fs::create_directories((place / file.name).parent_path());
         WriteBytes(place / file.name, text);
     }

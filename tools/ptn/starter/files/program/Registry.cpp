@@ -1,5 +1,5 @@
 // Which window class shows which screen, and what the program does on its own.
-#include "tessary.h"
+#include <tessary/tessary.h>
 
 #include <cstring>
 

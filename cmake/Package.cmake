@@ -1,0 +1,30 @@
+# What is installed, and that a folder it was built in can be used like an installed one: both have the packages
+# Tessary for find_package and tessary for pkg-config, without paths that would bind them to their place.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(PACKAGE_FOLDER ${CMAKE_INSTALL_LIBDIR}/cmake/Tessary)
+
+install(TARGETS tessary tessary_main EXPORT TessaryTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS ptn EXPORT TessaryTargets)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/include/tessary DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(EXPORT TessaryTargets NAMESPACE Tessary:: DESTINATION ${PACKAGE_FOLDER})
+export(EXPORT TessaryTargets NAMESPACE Tessary:: FILE ${PROJECT_BINARY_DIR}/TessaryTargets.cmake)
+
+set(CONFIG_FILES ${PROJECT_BINARY_DIR}/TessaryConfig.cmake ${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/TessaryConfig.cmake ${PROJECT_BINARY_DIR}/TessaryConfig.cmake COPYONLY)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CONFIG_FILES} DESTINATION ${PACKAGE_FOLDER})
+
+# write_pkgconfig(FILE LIBRARIES HEADERS LINK_OPTIONS): LIBRARIES and HEADERS are where those are seen from the file.
+function(write_pkgconfig file libraries headers link_options)
+  string(JOIN " " CFLAGS -std=c++17 ${TEXT_OPTIONS} -Wno-deprecated-declarations)
+  string(JOIN " " LIBS -ltessary_main -ltessary ${link_options})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/tessary.pc.in ${file} @ONLY)
+endfunction()
+
+file(RELATIVE_PATH libraries /${CMAKE_INSTALL_LIBDIR}/pkgconfig /${CMAKE_INSTALL_LIBDIR})
+file(RELATIVE_PATH headers /${CMAKE_INSTALL_LIBDIR}/pkgconfig /${CMAKE_INSTALL_INCLUDEDIR})
+write_pkgconfig(${PROJECT_BINARY_DIR}/installed/tessary.pc ${libraries} ${headers} "")
+install(FILES ${PROJECT_BINARY_DIR}/installed/tessary.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+write_pkgconfig(${PROJECT_BINARY_DIR}/tessary.pc . include "${INSTRUMENT_LINK_OPTIONS}")

@@ -1,0 +1,41 @@
+# Run by the build: cmake -D SOURCE=... -D FOLDER=... -P PublicHeaders.cmake
+#
+# Makes FOLDER/tessary hold tessary.h and every header below SOURCE that it reaches by its includes, and nothing
+# else. Headers name each other from SOURCE on ("base/Types.h"); in the copies they name each other relative to
+# themselves ("../base/Types.h"). So FOLDER is all that an application needs in its path, where folders called
+# "config" or "window" would take the place of its own.
+set(headers tessary.h)
+set(at 0)
+list(LENGTH headers count)
+while(at LESS count)
+  list(GET headers ${at} header)
+  get_filename_component(place /${header} DIRECTORY)
+  file(READ ${SOURCE}/${header} text)
+  string(REGEX MATCHALL "#include \"[^\"\n]+\"" includes "${text}")
+  foreach(include IN LISTS includes)
+    string(REGEX REPLACE "#include \"(.*)\"" "\\1" name "${include}")
+    if(NOT EXISTS ${SOURCE}/${name})
+      message(FATAL_ERROR "${header} includes \"${name}\", which is not below ${SOURCE}.")
+    endif()
+    list(APPEND headers ${name})
+    file(RELATIVE_PATH beside ${place} /${name})
+    string(REPLACE "${include}" "#include \"${beside}\"" text "${text}")
+  endforeach()
+  set(before "")
+  if(EXISTS ${FOLDER}/tessary/${header})
+    file(READ ${FOLDER}/tessary/${header} before)
+  endif()
+  if(NOT text STREQUAL before)
+    file(WRITE ${FOLDER}/tessary/${header} "${text}")
+  endif()
+  list(REMOVE_DUPLICATES headers)
+  list(LENGTH headers count)
+  math(EXPR at "${at} + 1")
+endwhile()
+
+file(GLOB_RECURSE present RELATIVE ${FOLDER}/tessary ${FOLDER}/tessary/*)
+list(REMOVE_ITEM present ${headers})
+list(TRANSFORM present PREPEND ${FOLDER}/tessary/)
+if(present)
+  file(REMOVE ${present})
+endif()
