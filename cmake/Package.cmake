@@ -7,6 +7,8 @@ set(PACKAGE_FOLDER ${CMAKE_INSTALL_LIBDIR}/cmake/Tessary)
 
 install(TARGETS tessary tessary_main EXPORT TessaryTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS ptn EXPORT TessaryTargets)
+install(FILES ${PROJECT_SOURCE_DIR}/tools/ptn/completion.bash RENAME ptn
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/include/tessary DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT TessaryTargets NAMESPACE Tessary:: DESTINATION ${PACKAGE_FOLDER})
 export(EXPORT TessaryTargets NAMESPACE Tessary:: FILE ${PROJECT_BINARY_DIR}/TessaryTargets.cmake)

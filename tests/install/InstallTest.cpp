@@ -4,6 +4,7 @@
 #include "tests/support/XDriver.h"
 #include "tools/ptn/system/TemporaryFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -92,6 +93,18 @@ class Install : public testing::Test
         return "";
     }
 
+    /// What bash offers for the last word of a line, with blanks between.
+    static std::string completed(const std::string& line)
+    {
+        writeFile("completed.sh", "source moved/share/bash-completion/completions/ptn\n"
+                                  "read -ra COMP_WORDS <<<\"$1\"\n"
+                                  "[[ $1 != *' ' ]] || COMP_WORDS+=('')\n"
+                                  "COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+                                  "_ptn \"${COMP_WORDS[0]}\" \"${COMP_WORDS[-1]}\" x\n"
+                                  "echo -n \"${COMPREPLY[*]}\"\n");
+        return expectRuns("bash completed.sh '" + line + "'");
+    }
+
   private:
     static std::unique_ptr<ptn::TemporaryFolder> folder_;
     static fs::path before_;
@@ -157,7 +170,7 @@ TEST_F(Install, holds_no_place_and_no_flags_of_its_build)
 {
     int texts = 0;
     for (const fs::path& file : files("moved")) {
-        if (file.extension() == ".a" || file.filename() == "ptn")
+        if (file.extension() == ".a" || file == "moved/bin/ptn")
             continue;
         ++texts;
         const std::string text = readFile(file.string());
@@ -175,8 +188,28 @@ TEST_F(Install, has_one_version)
     EXPECT_EQ(expectRuns("pkg-config --modversion tessary"), TESSARY_VERSION "\n");
     EXPECT_THAT(readFile(fileCalled("TessaryConfigVersion.cmake").string()),
                 HasSubstr("set(PACKAGE_VERSION \"" TESSARY_VERSION "\")"));
+    const std::string changes = readFile(Program::sourceFolder() + "/CHANGELOG.md");
+    const std::string newest = changes.substr(std::min(changes.find("\n## ["), changes.size()));
+    EXPECT_THAT(newest, testing::StartsWith("\n## [" TESSARY_VERSION "]"));
     EXPECT_THAT(readFile("plant/CMakeLists.txt"),
                 HasSubstr("find_package(Tessary " TESSARY_VERSION " REQUIRED)"));
+}
+
+TEST_F(Install, completes_what_is_typed_for_the_tool)
+{
+    EXPECT_EQ(completed("moved/bin/ptn re"), "render");
+    EXPECT_EQ(completed("moved/bin/ptn help edi"), "editions");
+    EXPECT_EQ(completed("moved/bin/ptn help attributes bar"), "bar-graph");
+    EXPECT_EQ(completed("moved/bin/ptn render --out"), "--output");
+    EXPECT_EQ(completed("moved/bin/ptn --ver"), "--version");
+    EXPECT_EQ(completed("moved/bin/ptn check pl"), ""); // bash itself knows of files
+    const std::string help = expectRuns("moved/bin/ptn --help");
+    std::istringstream commands(completed("moved/bin/ptn "));
+    int count = 0;
+    for (std::string command; commands >> command; ++count)
+        EXPECT_THAT(help, HasSubstr("\n  " + command + " "));
+    const std::string listed = help.substr(help.find("Subcommands:\n") + 13);
+    EXPECT_EQ(count, std::count(listed.begin(), listed.end(), '\n') - 1);
 }
 
 // It is only configured: to build the framework here would take minutes.
