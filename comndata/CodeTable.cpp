@@ -24,6 +24,9 @@ namespace
 std::vector<PTRNCODE> rows;
 std::vector<BYTE> flags;
 
+unsigned generation; // of the table that is loaded; 0 none
+unsigned loads;      // only ever grows
+
 /// Finds the first row with a code. A search through the rows for each item would make a large pattern over a
 /// large table take minutes to open.
 class CodeIndex
@@ -124,6 +127,7 @@ void tessary::LoadCodeTable()
     if (size > 0) {
         CreateCells(LoadRows(size));
         LoadFlags();
+        generation = ++loads;
     }
 }
 
@@ -136,6 +140,12 @@ void tessary::ExitCodeTable()
     PtrnCode = nullptr;
     PtrnRecd = 0;
     PtrnFlag = nullptr;
+    generation = 0;
+}
+
+unsigned tessary::CodeTableGeneration()
+{
+    return generation;
 }
 
 std::string tessary::CodeOf(const PTRNCODE& row)

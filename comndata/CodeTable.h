@@ -17,6 +17,9 @@ void LoadCodeTable();
 /// Frees table, flags and cells.
 void ExitCodeTable();
 
+/// A number that is another one after every load of the code table; 0 while there is none.
+unsigned CodeTableGeneration();
+
 /// The code of a row, which may fill its field.
 std::string CodeOf(const PTRNCODE& row);
 

@@ -2,15 +2,19 @@
 
 #include "base/EucText.h"
 #include "base/Limits.h"
+#include "comndata/CodeTable.h"
 #include "comndata/ComnData.h"
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
 #include "comndata/TableFile.h"
+#include "config/Edition.h"
 #include "config/Profile.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <deque>
 
@@ -22,6 +26,7 @@ namespace
 {
 
 std::deque<LIMTDATA> rows; // what LimtData points at; a deque never moves its rows
+unsigned boundTo;          // the code table that the rows were looked up in; 0 none
 
 /// Where a limit is read to. A profile's letter "f" reads a hexadecimal word, which fills the low half of
 /// the float; nothing ever sets the high half. The limits of a table are therefore tiny (denormal) numbers.
@@ -38,6 +43,13 @@ struct LimitArea {
     }
 };
 
+/// Where limits bind they are numbers as people write them, and what is no number is 0.
+float DecimalLimit(const char* text)
+{
+    const double value = std::strtod(text, nullptr);
+    return std::isfinite(value) ? static_cast<float>(value) : 0.0F;
+}
+
 int Resolve(const LIMTDATA& row, int offset, int number)
 {
     const int no = ConvertDtno(row.ID_Code, offset);
@@ -45,15 +57,6 @@ int Resolve(const LIMTDATA& row, int offset, int number)
         LogText(CATEGORY_LIMITS, __FILE__, __LINE__, "LimtData Error [%d / %s / %d]", number, row.ID_Code,
                 offset);
     return no;
-}
-
-/// The row that limits a data number. A row covers the numbers from `DataNo2` up to `DataNo1`.
-const LIMTDATA* FindLimits(int no)
-{
-    for (const LIMTDATA* row : LimtData)
-        if (row && row->DataNo1 >= no && row->DataNo2 <= no)
-            return row;
-    return nullptr;
 }
 
 /// True for a number that can have limits; cell 0 has none. Any other is logged when it has a name.
@@ -69,36 +72,98 @@ bool CheckNumber(int no, const char* file, int line)
 
 } // namespace
 
+namespace
+{
+
+/// What a key of the table holds.
+struct TableRow {
+    char code[PROFILE_FIELD_SIZE];
+    int offset[2];
+    int error[2];
+};
+
+/// The limits come as hexadecimal words; how they become floats is the area's business.
+int ReadWords(const char* path, int number, TableRow* read, LIMTDATA* row)
+{
+    static LimitArea minimum;
+    static LimitArea maximum;
+    if (number == 1)
+        minimum = maximum = {};
+    if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siiffii", read->code, &read->offset[0],
+                    &read->offset[1], &minimum.low, &maximum.low, &read->error[0], &read->error[1],
+                    nullptr) == 0)
+        return 0;
+    row->MIN_Data = minimum.Value();
+    row->MAX_Data = maximum.Value();
+    return 1;
+}
+
+int ReadDecimals(const char* path, int number, TableRow* read, LIMTDATA* row)
+{
+    char minimum[PROFILE_FIELD_SIZE];
+    char maximum[PROFILE_FIELD_SIZE];
+    if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siissii", read->code, &read->offset[0],
+                    &read->offset[1], minimum, maximum, &read->error[0], &read->error[1], nullptr) == 0)
+        return 0;
+    row->MIN_Data = DecimalLimit(minimum);
+    row->MAX_Data = DecimalLimit(maximum);
+    return 1;
+}
+
+} // namespace
+
 void LoadLimtData()
 {
     ExitLimtData();
+    boundTo = 0;
     char path[SIZE_PATH + 1];
     if (!TablePath(path, "LimtData", CATEGORY_LIMITS))
         return;
 
-    LimitArea minimum;
-    LimitArea maximum;
+    const bool bound = tessary::Has(tessary::Correction::LimitsBind);
     for (int number = 1; number <= CONT_LIMTDATA; number++) {
-        char code[PROFILE_FIELD_SIZE];
-        int offset[2];
-        int error[2];
-        if (ProfileRead(path, "LIMTDATA", "LIMT", number, "siiffii", code, &offset[0], &offset[1],
-                        &minimum.low, &maximum.low, &error[0], &error[1], nullptr) == 0)
+        TableRow read;
+        LIMTDATA found{};
+        if ((bound ? ReadDecimals : ReadWords)(path, number, &read, &found) == 0)
             continue;
 
-        LIMTDATA& row = rows.emplace_back();
-        code[EucCut(code, SIZE_ID_CODE)] = '\0';
-        CopyText(row.ID_Code, code);
-        row.ID_No1 = offset[0];
-        row.ID_No2 = offset[1];
-        row.DataNo1 = Resolve(row, offset[0], number);
-        row.DataNo2 = Resolve(row, offset[1], number);
-        row.MIN_Data = minimum.Value();
-        row.MAX_Data = maximum.Value();
-        row.ErrorNo1 = error[0];
-        row.ErrorNo2 = error[1];
+        LIMTDATA& row = rows.emplace_back(found);
+        read.code[EucCut(read.code, SIZE_ID_CODE)] = '\0';
+        CopyText(row.ID_Code, read.code);
+        row.ID_No1 = read.offset[0];
+        row.ID_No2 = read.offset[1];
+        row.ErrorNo1 = read.error[0];
+        row.ErrorNo2 = read.error[1];
         LimtData[number - 1] = &row;
+        if (!bound) {
+            row.DataNo1 = Resolve(row, read.offset[0], number);
+            row.DataNo2 = Resolve(row, read.offset[1], number);
+        }
     }
+}
+
+void tessary::BindLimits()
+{
+    boundTo = CodeTableGeneration();
+    for (int number = 1; number <= CONT_LIMTDATA; number++) {
+        LIMTDATA* row = LimtData[number - 1];
+        if (!row)
+            continue;
+        const auto [first, last] = std::minmax({int{row->ID_No1}, int{row->ID_No2}}); // the record is packed
+        row->DataNo1 = Resolve(*row, last, number);
+        row->DataNo2 = Resolve(*row, first, number);
+    }
+}
+
+const LIMTDATA* tessary::FindLimitRow(int no)
+{
+    if (Has(Correction::LimitsBind) && boundTo != CodeTableGeneration())
+        BindLimits();
+    // A row covers the numbers from `DataNo2` up to `DataNo1`.
+    for (const LIMTDATA* row : LimtData)
+        if (row && row->DataNo1 >= no && row->DataNo2 <= no)
+            return row;
+    return nullptr;
 }
 
 void ExitLimtData()
@@ -111,7 +176,7 @@ int ChckLimtData(int no, float value, const char* file, int line)
 {
     if (!CheckNumber(no, file, line))
         return 1;
-    const LIMTDATA* row = FindLimits(no);
+    const LIMTDATA* row = tessary::FindLimitRow(no);
     if (!row)
         return 1;
 
@@ -128,7 +193,7 @@ int ChckLimtData(int no, float value, const char* file, int line)
 
 int Get_LimtData(int no, float* min, float* max, const char* file, int line)
 {
-    const LIMTDATA* row = CheckNumber(no, file, line) ? FindLimits(no) : nullptr;
+    const LIMTDATA* row = CheckNumber(no, file, line) ? tessary::FindLimitRow(no) : nullptr;
     *min = row ? row->MIN_Data : 0.0F;
     *max = row ? row->MAX_Data : 0.0F;
     return row ? 1 : 0;

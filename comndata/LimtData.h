@@ -43,3 +43,16 @@ int ChckLimtData(int no, float value, const char* file, int line);
 /// Limits of a data number.
 /// @return 1 with the limits of the first row that covers it; 0 with both 0 when none does
 int Get_LimtData(int no, float* min, float* max, const char* file, int line);
+
+namespace tessary
+{
+
+/// The first row that covers a data number; null when none does.
+const LIMTDATA* FindLimitRow(int no);
+
+/// Where limits bind: looks the codes of all rows up again. Called after every load of the code table. A row
+/// then covers the cells between its two offsets, whichever comes first, and codes that are not known are
+/// logged here.
+void BindLimits();
+
+} // namespace tessary
