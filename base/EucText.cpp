@@ -27,13 +27,20 @@ bool AppendText(char* target, std::size_t size, const char* text)
     return CopyText(target + used, size - used, text);
 }
 
+std::size_t EucCharacter(const char* text)
+{
+    if (!*text)
+        return 0;
+    return IsEucHalf(static_cast<unsigned char>(text[0])) && IsEucHalf(static_cast<unsigned char>(text[1]))
+               ? 2
+               : 1;
+}
+
 std::size_t EucCut(const char* text, std::size_t limit)
 {
     std::size_t kept = 0;
     while (text[kept]) {
-        const bool pair = IsEucHalf(static_cast<unsigned char>(text[kept])) &&
-                          IsEucHalf(static_cast<unsigned char>(text[kept + 1]));
-        const std::size_t next = kept + (pair ? 2 : 1);
+        const std::size_t next = kept + EucCharacter(text + kept);
         if (next > limit)
             break;
         kept = next;

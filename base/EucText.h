@@ -34,6 +34,9 @@ template <std::size_t N> bool CopyText(char (&target)[N], const char* text)
 /// @return true when the whole text fitted
 bool AppendText(char* target, std::size_t size, const char* text);
 
+/// Bytes of the character that a text begins with: 2 for a two-byte character, else 1; 0 at its end.
+std::size_t EucCharacter(const char* text);
+
 /// Bytes that may be kept of an EUC-JP text so that at most `limit` remain and no two-byte
 /// character is split. The text is walked from its start, so the answer is exact for mixed text.
 std::size_t EucCut(const char* text, std::size_t limit);

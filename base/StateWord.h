@@ -54,4 +54,10 @@ constexpr bool IsUsable(WORD word)
     return !IsDisabled(word) && !IsHidden(word);
 }
 
+/// Usable, and not locked.
+constexpr bool IsOperable(WORD word)
+{
+    return IsUsable(word) && !IsLocked(word);
+}
+
 } // namespace tessary

@@ -19,6 +19,8 @@ struct PTRNDATA;
 namespace tessary
 {
 
+struct ValueLimits;
+
 /// What an item's text is.
 enum class ItemText {
     None,       ///< not shown, or written by the program
@@ -85,6 +87,9 @@ struct ItemClass {
     int (*part)(CPtrnData& data, POINT point, PTRNDATA* item) = nullptr;
     int (*step)(const PTRNDATA* item, int part) = nullptr;
     bool entry = false; ///< a field: keyboard entry may edit its cell
+    /// Fills in the limits, step and messages that the item itself gives its cell; minimum and maximum both
+    /// 0: none.
+    void (*limits)(const PTRNDATA& item, ValueLimits* limits) = nullptr;
 
     // --- for authors --------------------------------------------------------------------------------
     /// Its size when a screen gives none; none when it has to be given.
@@ -148,6 +153,10 @@ class ItemRow : public ItemClass
     constexpr ItemRow heldBy(decltype(part) partAt, decltype(step) stepOf) const
     {
         return with(&ItemClass::part, partAt).with(&ItemClass::step, stepOf);
+    }
+    constexpr ItemRow limitedBy(decltype(limits) function) const
+    {
+        return with(&ItemClass::limits, function);
     }
     constexpr ItemRow takesEntry() const { return with(&ItemClass::entry, true); }
     constexpr ItemRow sizedBy(decltype(naturalSize) function) const

@@ -2,6 +2,7 @@
 #include "window/Events.h"
 
 #include "config/Edition.h"
+#include "window/FieldEntry.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
@@ -99,7 +100,7 @@ void DragToRelease(CPtrnDisp* wnd, const GdkEventButton& event)
 
 /// The keypad types what is printed on it. Its decimal key is left as it is: only the separator key types
 /// '.'. With Shift the server gives the tabulator another name; which way it goes is told by the flags.
-guint TranslateKey(guint key)
+guint PrintedKey(guint key)
 {
     if (key >= GDK_KP_0 && key <= GDK_KP_9)
         return '0' + (key - GDK_KP_0);
@@ -121,6 +122,42 @@ guint TranslateKey(guint key)
     default:
         return key;
     }
+}
+
+/// The keypad does what the server says that it means: with Num Lock it types, the decimal key included,
+/// without it moves and removes.
+guint MeantKey(guint key)
+{
+    switch (key) {
+    case GDK_KP_Decimal:
+        return '.';
+    case GDK_KP_Left:
+        return GDK_Left;
+    case GDK_KP_Right:
+        return GDK_Right;
+    case GDK_KP_Up:
+        return GDK_Up;
+    case GDK_KP_Down:
+        return GDK_Down;
+    case GDK_KP_Home:
+        return GDK_Home;
+    case GDK_KP_End:
+        return GDK_End;
+    case GDK_KP_Page_Up:
+        return GDK_Page_Up;
+    case GDK_KP_Page_Down:
+        return GDK_Page_Down;
+    case GDK_KP_Delete:
+        return GDK_Delete;
+    default:
+        return PrintedKey(key);
+    }
+}
+
+/// With Control or Alt, whatever else is held, a letter is a command of something else.
+bool IsCommand(const GdkEventKey& event)
+{
+    return (event.state & (GDK_CONTROL_MASK | GDK_MOD1_MASK)) && !CharacterOfKey(event.keyval).empty();
 }
 
 } // namespace
@@ -225,13 +262,19 @@ int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
     // A modifier key types nothing; its effect comes with the key it modifies.
     if (event->is_modifier)
         return TRUE;
-    ReqKeyEntry(TranslateKey(event->keyval), static_cast<unsigned>(Modifiers(event->state)));
+    const bool corrected = Has(Correction::EntryKeys);
+    if (corrected && IsCommand(*event))
+        return TRUE;
+    const KeyReport report(event->hardware_keycode);
+    ReqKeyEntry((corrected ? MeantKey : PrintedKey)(event->keyval),
+                static_cast<unsigned>(Modifiers(event->state)));
     return TRUE;
 }
 
 int tessary::Key_Release(GtkWidget* widget, GdkEventKey* event, CPtrnDisp*)
 {
     const HandlerScope scope;
+    NoteKeyRelease(event->hardware_keycode);
     DesktopMethod().filter(widget, event);
     return TRUE;
 }

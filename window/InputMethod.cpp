@@ -2,10 +2,12 @@
 
 #include "base/Coord.h"
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
+#include "window/FieldEntry.h"
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 
@@ -148,6 +150,11 @@ void InputMethod::type(const char* utf8)
         const std::string euc = FieldForm(std::string(at, length));
         if (euc.empty())
             LogText(CATEGORY_WINDOW, nullptr, 0, "入力できない文字  [U+%04X]", g_utf8_get_char(at));
+        if (Has(Correction::EntryKeys)) {
+            if (!euc.empty() && edited_)
+                TypeCharacter(edited_, euc);
+            continue;
+        }
         for (const unsigned char byte : euc)
             ReqKeyEntry(byte, 0);
     }

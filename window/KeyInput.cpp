@@ -6,27 +6,25 @@
 #include "comndata/LimtData.h"
 #include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
+#include "config/Edition.h"
 #include "config/Profile.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemCell.h"
 #include "pattern/ItemParm.h"
+#include "window/FieldEditor.h"
 #include "window/InputMethod.h"
 #include "window/KeyText.h"
 #include "window/PtrnDisp.h"
+#include "window/WindowCodes.h"
 
 #include <cstdlib>
 #include <string>
 
 using namespace tessary;
 
-using namespace tessary;
-
 namespace
 {
-
-// What KeyInputDisp draws.
-enum KeyDraw { DRAW_BACK = 1, DRAW_TEXT = 2, DRAW_CURSOR = 4, DRAW_NO_CURSOR = 8 };
 
 std::string NameOf(int dataNo)
 {
@@ -60,12 +58,15 @@ void CPtrnDisp::KeyInputStart(PTRNDATA* item)
 
     KeyInputMode = 1;
     KeyInputPtrn = *item;
-    OR_wData(item->DataNo, STATE_FROZEN, nullptr, 0);
-    CopyText(KeyInputText, item->Type == PTRN_CHAR ? item->Text : ConvertNumrData(item));
-    ShowKeyInput();
-
-    KeyInputPost = item->Type == PTRN_NUMR ? KeyFieldWidth(*item) : 0;
     KeyInputCode = 0;
+    OR_wData(item->DataNo, STATE_FROZEN, nullptr, 0);
+    if (Has(Correction::EntryReplaces)) {
+        StartEditor();
+    } else {
+        CopyText(KeyInputText, item->Type == PTRN_CHAR ? item->Text : ConvertNumrData(item));
+        ShowKeyInput();
+        KeyInputPost = item->Type == PTRN_NUMR ? KeyFieldWidth(*item) : 0;
+    }
     DesktopMethod().start(this);
 }
 
@@ -79,13 +80,18 @@ int CPtrnDisp::KeyInputStop(unsigned int key, int flags, const char* file, int l
     if (file)
         LogText(CATEGORY_WINDOW, file, line, "キー入力終了  [%s]", NameOf(KeyInputPtrn.DataNo).c_str());
 
-    PTRNDATA item = KeyInputPtrn;
-    if (Draw) {
-        KeyInputDisp(Draw.get(), DRAW_NO_CURSOR);
-        ReadCell(&item);
-        PtrnData->DispPtrnData(Draw.get(), &item, 1);
+    if (Editor) {
+        DropKeyInput();
+        RestoreField();
+    } else {
+        PTRNDATA item = KeyInputPtrn;
+        if (Draw) {
+            KeyInputDisp(Draw.get(), DRAW_NO_CURSOR);
+            ReadCell(&item);
+            PtrnData->DispPtrnData(Draw.get(), &item, 1);
+        }
+        DropKeyInput();
     }
-    DropKeyInput();
     if (key != 0)
         PtrnKeyFunc(static_cast<int>(key), flags, &KeyInputPtrn);
     return 1;
@@ -96,6 +102,7 @@ void CPtrnDisp::DropKeyInput()
     if (KeyInputMode != 1)
         return;
     KeyInputMode = 0;
+    Editor.reset();
     AND_wData(KeyInputPtrn.DataNo, static_cast<WORD>(~STATE_FROZEN), nullptr, 0);
     DesktopMethod().stop(this);
 }
@@ -104,6 +111,8 @@ int CPtrnDisp::KeyInputCheck(int key)
 {
     if (key == 0 || key == KEYVAL_ESCAPE)
         return 1;
+    if (Editor)
+        return StoreEdited();
     const int no = KeyInputPtrn.DataNo;
     if (KeyInputPtrn.Type == PTRN_NUMR) {
         const float value = KeyInputPtrn.Parm[FIELD_HEX] ? static_cast<float>(atoh(KeyInputText))
@@ -126,7 +135,15 @@ void CPtrnDisp::KeyEntry(unsigned int key, int flags)
         ChildWnd2->KeyEntry(key, flags);
     if (KeyInputMode != 1)
         return;
+    if (Editor)
+        EditorKey(key, flags);
+    else
+        PlainKey(key, flags);
+}
 
+/// A key of plain entry, in which a number shifts through its field like in a calculator.
+void CPtrnDisp::PlainKey(unsigned int key, int flags)
+{
     const int nav = KeyInputPtrn.Parm[FIELD_NAVIGATION];
     switch (key) {
     case KEYVAL_BACKSPACE:
@@ -172,18 +189,33 @@ void CPtrnDisp::KeyEntry(unsigned int key, int flags)
 
 void CPtrnDisp::KeyInputInsert(unsigned int c1, unsigned int c2)
 {
+    if (Editor) {
+        std::string character(1, static_cast<char>(c1));
+        if (c2)
+            character += static_cast<char>(c2);
+        TypeCharacter(character);
+        return;
+    }
     KeyInputPost = InsertKey(KeyInputPtrn, KeyInputText, KeyInputPost, c1, c2);
     ShowKeyInput();
 }
 
 void CPtrnDisp::KeyInputDelete(unsigned int key)
 {
+    if (Editor) {
+        EditorKey(key, 0);
+        return;
+    }
     KeyInputPost = DeleteKey(KeyFieldWidth(KeyInputPtrn), KeyInputText, KeyInputPost, key);
     ShowKeyInput();
 }
 
 void CPtrnDisp::KeyInputShift(unsigned int key, int flags, int nav)
 {
+    if (Editor) {
+        EditorKey(key, flags);
+        return;
+    }
     const int moved = ShiftKey(KeyInputPtrn, KeyInputText, KeyInputPost, key);
     if (moved == KeyInputPost) {
         if (nav & (key == KEYVAL_LEFT ? NAV_LEFT : NAV_RIGHT))
@@ -225,7 +257,10 @@ void CPtrnDisp::KeyTimer(CDraw* draw)
         return;
     KeyInputFlag = !KeyInputFlag;
     KeyInputTimr = 0;
-    KeyInputDisp(draw, KeyInputFlag ? DRAW_CURSOR : DRAW_NO_CURSOR);
+    if (Editor)
+        RestoreField();
+    else
+        KeyInputDisp(draw, KeyInputFlag ? DRAW_CURSOR : DRAW_NO_CURSOR);
 }
 
 void CPtrnDisp::KeyReset()
@@ -250,12 +285,13 @@ void CPtrnDisp::KeyInputDisp(CDraw* draw, int mode)
     const int x = item.Parm[PARM_X1];
     const int y = item.Parm[PARM_Y1];
     const int bottom = Shift(y, cell.cy);
-    const int cursor = Shift(x, cell.cx * KeyInputPost);
+    const int text = Shift(x, cell.cx * EditIndent());
+    const int cursor = Shift(text, cell.cx * KeyInputPost);
 
     if (mode & DRAW_BACK)
         draw->DrawRect(x, y, Shift(x, cell.cx * KeyFieldWidth(item)), bottom, 0, 0, back, back);
     if (mode & DRAW_TEXT)
-        draw->DrawText(x, y, font, color, back, KeyInputText);
+        draw->DrawText(text, y, font, color, back, KeyInputText);
     if (mode & DRAW_CURSOR)
         draw->DrawLine(cursor, y, cursor, bottom, 0, 1, 0, color);
     if (mode & DRAW_NO_CURSOR)

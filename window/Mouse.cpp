@@ -2,9 +2,11 @@
 // before anything else.
 #include "base/Coord.h"
 #include "comndata/MesgData.h"
+#include "config/Edition.h"
 #include "pattern/ItemParm.h"
 #include "pattern/ItemTable.h"
 #include "pattern/TitleBar.h"
+#include "window/FieldEntry.h"
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 #include "window/WindowCodes.h"
@@ -60,11 +62,24 @@ void CPtrnDisp::PressTitle(POINT pt)
     }
 }
 
+/// What every press and the wheel do to an entry in progress. @return false when nothing else is to follow
+bool CPtrnDisp::BeginPress(POINT pt)
+{
+    if (Has(Correction::PressStores)) {
+        if (!EditedWnd())
+            ClearErrorMesg();
+        return StoreBeforePress(this, pt) && !Closed;
+    }
+    ClearErrorMesg();
+    ReqKeyReset();
+    return true;
+}
+
 void CPtrnDisp::LButtonDown(POINT pt, int flags)
 {
     pt = Shifted(pt, Offset);
-    ClearErrorMesg();
-    ReqKeyReset();
+    if (!BeginPress(pt))
+        return;
     if (!InTitle(pt) && PtrnMouseFunc(pt, MOUSE_LEFT, flags) == 1)
         return;
     if (Closed) // the hook has closed this window
@@ -100,8 +115,8 @@ void CPtrnDisp::LButtonDown(POINT pt, int flags)
 void CPtrnDisp::RButtonDown(POINT pt, int flags)
 {
     pt = Shifted(pt, Offset);
-    ClearErrorMesg();
-    ReqKeyReset();
+    if (!BeginPress(pt))
+        return;
     if (!InTitle(pt) && PtrnMouseFunc(pt, MOUSE_RIGHT, flags) == 1)
         return;
     if (Closed)
@@ -157,9 +172,7 @@ void CPtrnDisp::MouseMove(POINT pt, int flags)
 int CPtrnDisp::MouseWheel(POINT pt, int direction)
 {
     pt = Shifted(pt, Offset);
-    ClearErrorMesg();
-    ReqKeyReset();
-    if (MouseEnable() != 1)
+    if (!BeginPress(pt) || MouseEnable() != 1)
         return 0;
     const int index = PtrnData->TestPtrnData(pt);
     if (index < 0)

@@ -9,6 +9,7 @@
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/Buffer.h"
+#include "window/FieldEditor.h"
 #include "window/PtrnDisp.h"
 #include "window/Retire.h"
 

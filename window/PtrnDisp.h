@@ -8,6 +8,7 @@
 #include "pattern/PtrnData.h"
 
 #include <memory>
+#include <string>
 
 /// Key cursor: ticks shown and ticks hidden.
 constexpr int KEYCURSOR_ON = 5;
@@ -26,6 +27,11 @@ enum PtrnKind {
 
 struct WindowOrder;
 struct WindowSignals;
+class FieldEditor;
+
+// Parts of corrected entry that know a window from inside; window/FieldEntry.h tells what they do.
+bool StoreBeforePress(CPtrnDisp* wnd, POINT pt);
+void TypeCharacter(CPtrnDisp* wnd, const std::string& character);
 
 } // namespace tessary
 
@@ -215,6 +221,7 @@ class CPtrnDisp
     bool Shown = false;      ///< the window has come up on the screen
     int Hidden = 0;          ///< ticks until it does
     unsigned Opened = 0;     ///< grows from window to window, in the order of their opening
+    std::unique_ptr<tessary::FieldEditor> Editor; ///< of corrected entry, while a field is in edit
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
     void ReleasePattern();
@@ -236,6 +243,24 @@ class CPtrnDisp
     void DropKeyInput();
     void ShowKeyInput();
     void HideKeyCursor();
+    bool BeginPress(POINT pt);
+
+    // Corrected entry, window/FieldEntry.cpp.
+    friend bool tessary::StoreBeforePress(CPtrnDisp* wnd, POINT pt);
+    friend void tessary::TypeCharacter(CPtrnDisp* wnd, const std::string& character);
+    void PlainKey(unsigned int key, int flags);
+    void StartEditor();
+    void ShowEditor();
+    void RestoreField();
+    void ChangeText(bool (tessary::FieldEditor::*change)());
+    void MoveCursor(bool (tessary::FieldEditor::*step)());
+    void MoveOrEnd(unsigned int key, int flags, bool (tessary::FieldEditor::*step)(), int flag);
+    void TypeCharacter(const std::string& character);
+    void PlaceKeyCursor(POINT pt);
+    int EditIndent() const;
+    void EditorKey(unsigned int key, int flags);
+    void StoreAndGo(unsigned int key, int flags, int direction);
+    int StoreEdited();
     int Header(int parm) const { return PtrnData->PtrnHedr.Parm1[parm]; }
     void SystemAction(const PTRNDATA& item);
     CPtrnDisp*& Slot(int kind) { return kind == tessary::KIND_CHILD1 ? ChildWnd1 : ChildWnd2; }

@@ -2,12 +2,14 @@
 
 #include "base/BuiltIn.h"
 #include "base/Coord.h"
+#include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "log/Category.h"
 #include "log/Logfile.h"
 #include "log/LogText.h"
+#include "window/FieldEntry.h"
 #include "window/MaintenanceWnd.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
@@ -137,6 +139,10 @@ void ReqSystemStop(const char* file, int line)
 
 void ReqKeyEntry(unsigned int key, unsigned int flags)
 {
+    if (Has(Correction::KeysToFront)) {
+        PanelKey(key, static_cast<int>(flags), KeyIsHeld());
+        return;
+    }
     if (AppliWnd)
         AppliWnd->KeyEntry(key, static_cast<int>(flags));
     if (SystmWnd)

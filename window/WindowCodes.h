@@ -49,6 +49,14 @@ enum Modifier {
     MODIFIER_ALT = 4,
 };
 
+/// What CPtrnDisp::KeyInputDisp draws; bits.
+enum KeyDraw {
+    DRAW_BACK = 1,
+    DRAW_TEXT = 2,
+    DRAW_CURSOR = 4,
+    DRAW_NO_CURSOR = 8,
+};
+
 /// When CPtrnDisp::PtrnDispFunc is called.
 enum DisplayMode {
     DISPLAY_PAINT = 0, ///< at the end of a full paint

@@ -1,13 +1,20 @@
 #include "pattern/items/SpinButton.h"
 
 #include "base/Coord.h"
+#include "base/StateWord.h"
 #include "comndata/ComnData.h"
 #include "comndata/LimtData.h"
+#include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "draw/Images.h"
+#include "pattern/ItemCell.h"
 #include "pattern/items/ItemDraw.h"
+#include "pattern/Limits.h"
 #include "pattern/Press.h"
+#include "pattern/RealParm.h"
+
+#include <cmath>
 
 namespace tessary
 {
@@ -53,8 +60,56 @@ void Draw(CPtrnData&, CDraw* draw, PTRNDATA* item, int)
     draw->DrawXpm(item->Rect, XPM_SpinButn);
 }
 
+void Limits(const PTRNDATA& item, ValueLimits* limits)
+{
+    limits->minimum = item.Parm[SPIN_MINIMUM];
+    limits->maximum = item.Parm[SPIN_MAXIMUM];
+    const auto step = static_cast<double>(RealParm(item.Parm[SPIN_STEP]));
+    limits->step = step > 0 ? step : 1;
+    limits->below = limits->above = item.Parm[SPIN_MESSAGE];
+}
+
+/// Decimal steps drift as doubles: a number that should be a whole number of steps from the limit is.
+double Stepped(const ValueLimits& limits, double value, double step)
+{
+    const double origin = limits.given ? limits.minimum : 0;
+    const double steps = (value + step - origin) / limits.step;
+    const double whole = std::round(steps);
+    return limits.hold(std::abs(steps - whole) < 1e-6 ? origin + whole * limits.step : value + step);
+}
+
+/// One corrected step of the cell: within the button's limits, and by its state at this moment.
+/// @return 1 when the cell's value changed
+int CorrectedStep(const PTRNDATA* item, bool up)
+{
+    if (!IsOperable(Get_wData(item->DataNo, nullptr, 0)))
+        return 0;
+    const ValueLimits limits = LimitsOf(*item);
+    const double value = CellNumber(item->DataNo);
+    const double next = Stepped(limits, value, up ? limits.step : -limits.step);
+    if (next == value || std::isnan(value)) {
+        if (limits.below) // at its limit: there is something to say
+            AcceptByLimits(*item, value + (up ? limits.step : -limits.step));
+        return 0;
+    }
+    Set_dData(item->DataNo, next, nullptr, 0);
+    return 1;
+}
+
+int CorrectedPress(CPtrnData& data, POINT point, PTRNDATA* item)
+{
+    const int part = data.TestSpinButn(point, item);
+    if (part == SPIN_NONE || !CorrectedStep(item, part == SPIN_UP))
+        return PRESS_NOTHING;
+    StartRepeat(data, *item, part);
+    return PRESS_ACTION;
+}
+
 int Press(CPtrnData& data, POINT point, PTRNDATA* item)
 {
+    if (Has(Correction::SpinWheel))
+        return CorrectedPress(data, point, item);
+
     auto minimum = static_cast<float>(item->Parm[SPIN_MINIMUM]);
     auto maximum = static_cast<float>(item->Parm[SPIN_MAXIMUM]);
     // Only here: a button without limits of its own that is held or turned by the wheel steps to 0.
@@ -73,6 +128,9 @@ int Press(CPtrnData& data, POINT point, PTRNDATA* item)
 
 int Wheel(CPtrnData& data, int direction, PTRNDATA* item)
 {
+    if (Has(Correction::SpinWheel))
+        return CorrectedStep(item, direction == 0);
+
     if (IsHidden(*item))
         return 0;
     const float value = Get_fData(item->DataNo, nullptr, 0);
@@ -88,6 +146,11 @@ int Wheel(CPtrnData& data, int direction, PTRNDATA* item)
 int PartAt(CPtrnData& data, POINT point, PTRNDATA* item)
 {
     return data.TestSpinButn(point, item);
+}
+
+int Step(const PTRNDATA* item, int part)
+{
+    return Has(Correction::SpinWheel) ? CorrectedStep(item, part == SPIN_UP) : StepSpinButn(item, part);
 }
 
 void Check(const ItemDraft& draft, const ItemRemark& remark)
@@ -111,7 +174,8 @@ extern constexpr ItemClass SPIN_BUTTON = item(PTRN_SPIN)
                                              .pressedBy(Press)
                                              .turnedBy(Wheel)
                                              .stepsByWheel()
-                                             .heldBy(PartAt, StepSpinButn)
+                                             .heldBy(PartAt, Step)
+                                             .limitedBy(Limits)
                                              .opaqueWhen(AlwaysOpaque)
                                              .checkedBy(Check);
 

@@ -5,6 +5,7 @@
 #include "draw/DrawCntl.h"
 #include "draw/HitTest.h"
 #include "pattern/items/ItemDraw.h"
+#include "pattern/Limits.h"
 #include "pattern/Press.h"
 #include "pattern/RealParm.h"
 
@@ -194,6 +195,14 @@ std::optional<SIZE> NaturalSize(const ItemDraft& draft)
     return FieldSize(draft);
 }
 
+void Limits(const PTRNDATA& item, ValueLimits* limits)
+{
+    limits->minimum = static_cast<double>(RealParm(item.Parm[FIELD_MINIMUM]));
+    limits->maximum = static_cast<double>(RealParm(item.Parm[FIELD_MAXIMUM]));
+    limits->step = static_cast<double>(RealParm(item.Parm[FIELD_STEP]));
+    limits->below = limits->above = item.Parm[FIELD_MESSAGE];
+}
+
 void CheckFixed(const ItemDraft& draft, const ItemRemark& remark)
 {
     const int room = draft.parm[FIELD_WIDTH];
@@ -281,6 +290,7 @@ extern constexpr ItemClass NUMERIC_FIELD = TextItem(PTRN_NUMR)
                                                .helped("number of a cell")
                                                .schema(NUMERIC_PARMS)
                                                .drawnBy(DrawNumeric)
+                                               .limitedBy(Limits)
                                                .pressedBy(PressField)
                                                .takesEntry()
                                                .covers(FieldSize)

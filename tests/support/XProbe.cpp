@@ -5,6 +5,7 @@
 #include <gdk/gdkx.h>
 #include <memory>
 #include <X11/extensions/Xfixes.h>
+#include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 
 namespace
@@ -47,6 +48,38 @@ void setKeyboardOwner(unsigned long window)
 unsigned long requestsSent()
 {
     return NextRequest(GDK_DISPLAY());
+}
+
+BellWatch::BellWatch()
+{
+    Display* display = XOpenDisplay(XServer::display().c_str());
+    display_ = display;
+    int error = 0;
+    int major = XkbMajorVersion;
+    int minor = XkbMinorVersion;
+    int opcode = 0;
+    XkbQueryExtension(display, &opcode, &event_, &error, &major, &minor);
+    XkbSelectEvents(display, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
+    XSync(display, False);
+}
+
+BellWatch::~BellWatch()
+{
+    XCloseDisplay(static_cast<Display*>(display_));
+}
+
+int BellWatch::rung()
+{
+    XSync(own(), False);
+    auto* const display = static_cast<Display*>(display_);
+    XSync(display, False);
+    while (XPending(display)) {
+        XEvent event;
+        XNextEvent(display, &event);
+        if (event.type == event_)
+            ++count_;
+    }
+    return count_;
 }
 
 ForeignWindow::ForeignWindow(int x, int y, int width, int height)

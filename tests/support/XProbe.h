@@ -22,6 +22,23 @@ void setKeyboardOwner(unsigned long window);
 /// Requests that this process's toolkit has sent to the server so far.
 unsigned long requestsSent();
 
+/// Hears the bell of the screen, from its making on.
+class BellWatch
+{
+  public:
+    BellWatch();
+    ~BellWatch();
+    BellWatch(const BellWatch&) = delete;
+    BellWatch& operator=(const BellWatch&) = delete;
+    /// How often the bell was rung so far by what the server has come to.
+    int rung();
+
+  private:
+    void* display_;
+    int event_ = 0; ///< number of the server's keyboard events
+    int count_ = 0;
+};
+
 /// Opens a window of another program at a place of the screen. @return its number
 class ForeignWindow
 {

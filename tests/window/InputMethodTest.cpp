@@ -1,5 +1,6 @@
 // Japanese text entry through an input method, here one of the test's own.
 #include "window/InputMethod.h"
+#include "tests/support/UseEdition.h"
 #include "tests/support/Variable.h"
 #include "tests/window/KeyEdit.h"
 
@@ -183,6 +184,20 @@ TEST_F(AnInputMethod, is_not_asked_for_numbers_nor_without_a_field_in_edit)
     own.commit(utf8("漢"));
     EXPECT_EQ(asked, 0);
     EXPECT_FALSE(editing());
+}
+
+TEST_F(AnInputMethod, types_whole_characters_into_corrected_entry)
+{
+    const UseEdition edition;
+    open(fields("p"));
+    edit(TEXT);
+    own.commit(utf8("漢字a"));
+    EXPECT_EQ(text(), "漢字a");
+    own.commit(utf8("漢字")); // of which one still fits
+    EXPECT_EQ(text(), "漢字a漢");
+    key(XK_BackSpace);
+    key(XK_Return);
+    EXPECT_EQ(string(TEXT), "漢字a");
 }
 
 TEST_F(AnInputMethod, serves_the_field_whichever_window_has_the_keyboard)
