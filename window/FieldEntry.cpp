@@ -21,6 +21,7 @@
 #include "window/WindowCodes.h"
 
 #include <algorithm>
+#include <gdk/gdk.h>
 #include <gdk/gdkkeysyms.h>
 #include <vector>
 

@@ -14,6 +14,8 @@
 constexpr int KEYCURSOR_ON = 5;
 constexpr int KEYCURSOR_OFF = 2;
 
+class CPtrnDisp;
+
 namespace tessary
 {
 
