@@ -17,7 +17,7 @@
 #include "window/Front.h"
 #include "window/KeyText.h"
 #include "window/PtrnDisp.h"
-#include "window/Request.h"
+#include "window/Slots.h"
 #include "window/WindowCodes.h"
 
 #include <algorithm>

@@ -39,7 +39,7 @@ class OperatorSession : public testing::Test
         }
         ASSERT_EQ(sources.run("build plant out/ProjPath").err, "");
         program.emplace("starter_program", sources.root() + "/out/plant");
-        window = user.waitForDrawn("Plant");
+        window = user.waitForDrawn("Main");
         expectSetpoint("60");
     }
 
@@ -68,8 +68,9 @@ class OperatorSession : public testing::Test
         const auto shown = [&] {
             return user.picture(window.x + FIELD.x, window.y + FIELD.y, FIELD_WIDTH, FIELD_HEIGHT);
         };
-        if (!user.waitFor([&] { return shown().pixels == expected.pixels; }, "the setpoint " + value))
+        if (!user.waitFor([&] { return shown().pixels == expected.pixels; }, "the setpoint " + value)) {
             EXPECT_TRUE(same(shown(), expected));
+        }
     }
 
     void lookAtStatesAndReturn()
@@ -77,7 +78,7 @@ class OperatorSession : public testing::Test
         clickOn(STATES);
         const ScreenWindow states = user.waitForDrawn("States");
         user.clickAt(states.x + BACK.x, states.y + BACK.y);
-        window = user.waitForDrawn("Plant");
+        window = user.waitForDrawn("Main");
     }
     static constexpr Place BACK = {96, 440};
 
