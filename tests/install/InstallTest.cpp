@@ -52,7 +52,7 @@ class Install : public testing::Test
     static std::string expectRuns(const std::string& command)
     {
         const int status = std::system(("{ " + command + "; } >output 2>&1").c_str());
-        const std::string output = readFile("output");
+        std::string output = readFile("output");
         EXPECT_EQ(status, 0) << command << "\n" << output;
         return output;
     }
