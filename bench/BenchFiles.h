@@ -30,8 +30,9 @@ class BenchFiles
         std::string name = (std::filesystem::temp_directory_path() / "tessary-bench-XXXXXX").string();
         folder_ = mkdtemp(name.data());
         std::filesystem::create_directory(folder_ + "/Bitmap");
-        write("panel.ini", "[TESSARY]\nDISPSIZE=1280,1024\nPROJECT=" + folder_ +
-                               "\n[PTRN]\nPTRNSTART=" + start +
+        const char* const edition = std::getenv("BENCH_EDITION");
+        write("panel.ini", "[TESSARY]\nDISPSIZE=1280,1024\nEDITION=" + std::string(edition ? edition : "1") +
+                               "\nPROJECT=" + folder_ + "\n[PTRN]\nPTRNSTART=" + start +
                                "\n[FONT]\nLANGUAGE=0\n"
                                "FONTNAME0=-*-fixed-medium-r-normal--14-*-*-*-c-*-*-*\n");
         write("PtrnCode", codeRow("SYSTEM", FIRST_CELL - 1, 1) + codeRow("ITEM", cells, FIRST_CELL));

@@ -23,7 +23,7 @@ namespace
 
 constexpr int DAY_OF_TICKS = 864000;
 constexpr int ITEMS = 100;
-constexpr SIZE SIZE = {640, 512};
+constexpr SIZE SCREEN_SIZE = {640, 512};
 
 /// The state of an item: its four colours in turn, now and then locked, hidden or frozen.
 WORD State(int step)
@@ -71,7 +71,7 @@ int main(int argc, char** argv)
 {
     const int ticks = std::max(argc > 1 ? std::atoi(argv[1]) : DAY_OF_TICKS, 2000);
     const BenchProject project(ITEMS);
-    project.screen("busy", ITEMS, ITEMS, SIZE);
+    project.screen("busy", ITEMS, ITEMS, SCREEN_SIZE);
     PtrnDispTopWnd("busy", nullptr, 0);
     while (!AppliWnd->Pixmap)
         g_main_context_iteration(nullptr, TRUE);

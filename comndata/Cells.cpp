@@ -9,6 +9,7 @@ using namespace tessary;
 
 COMNDATA* ComnData;
 std::int32_t PtrnDataNo;
+CellDigits tessary::cellDigits;
 
 namespace
 {
@@ -39,32 +40,24 @@ void tessary::CreateCells(int count)
 {
     cells = std::vector<COMNDATA>(static_cast<std::size_t>(count));
     numbers = std::vector<double>(static_cast<std::size_t>(count));
+    cellDigits = {numbers.data(), numbers.size(), 0};
     ownTexts = std::vector<std::unique_ptr<char[]>>();
     ComnData = count ? cells.data() : nullptr;
     PtrnDataNo = count;
 }
 
-bool tessary::HasCell(int no)
-{
-    return no >= 0 && no < PtrnDataNo;
-}
-
 void tessary::StoreNumber(int no, double value)
 {
     const auto place = static_cast<std::size_t>(no);
-    if (place >= numbers.size())
+    if (place >= numbers.size()) {
         numbers.resize(static_cast<std::size_t>(PtrnDataNo));
+        cellDigits.numbers = numbers.data();
+        cellDigits.count = numbers.size();
+    }
+    cellDigits.finer -= IsFiner(numbers[place]) ? 1 : 0;
+    cellDigits.finer += IsFiner(value) ? 1 : 0;
     numbers[place] = value;
     ComnData[no].fData = static_cast<float>(value);
-}
-
-double tessary::StoredNumber(int no)
-{
-    const auto place = static_cast<std::size_t>(no);
-    const float rounded = ComnData[no].fData;
-    return place < numbers.size() && static_cast<float>(numbers[place]) == rounded
-               ? numbers[place]
-               : static_cast<double>(rounded);
 }
 
 void tessary::StoreText(int no, const char* text)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/EucText.h"
+#include "comndata/Cells.h"
 #include "comndata/ComnData.h"
 #include "config/Edition.h"
 #include "pattern/PtrnData.h"
@@ -18,7 +19,7 @@ namespace tessary
 inline const COMNDATA& CellOf(const PTRNDATA& item)
 {
     static constexpr COMNDATA NO_CELL{};
-    return CheckComnData(item.DataNo, nullptr, 0) ? ComnData[item.DataNo] : NO_CELL;
+    return HasCell(item.DataNo) ? ComnData[item.DataNo] : NO_CELL;
 }
 
 /// A cell may hold one byte more than the cached copy, which then is what Get_sData makes of it.

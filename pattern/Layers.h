@@ -3,6 +3,7 @@
 
 #include "base/Box.h"
 #include "base/Types.h"
+#include "comndata/Cells.h"
 
 #include <vector>
 
@@ -27,7 +28,14 @@ class Layers
 
     /// The number that an item has shown last.
     double number(int item) const { return numbers_[At(item)]; }
-    void setNumber(int item, double number) { numbers_[At(item)] = number; }
+    void setNumber(int item, double number)
+    {
+        finer_ -= IsFiner(numbers_[At(item)]) ? 1 : 0;
+        finer_ += IsFiner(number) ? 1 : 0;
+        numbers_[At(item)] = number;
+    }
+    /// Whether any item has shown digits that a float has not.
+    bool anyFiner() const { return finer_ != 0; }
 
     /// Where the title bar's clock was drawn last.
     Box clock;
@@ -46,6 +54,7 @@ class Layers
     SIZE cell_;
     std::vector<Box> areas_;
     std::vector<double> numbers_;
+    std::size_t finer_ = 0;
     std::vector<int> ranks_;             ///< by item: its place in the order of drawing; -1 none
     std::vector<int> ranked_;            ///< the other way round
     std::vector<Cells> entered_;         ///< by item: where the grid has it

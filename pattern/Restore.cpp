@@ -25,12 +25,17 @@ void AddBoth(std::vector<Box>& areas, const std::pair<Box, Box>& pair)
     }
 }
 
-bool ShowsItsCell(const PTRNDATA& item, double number)
+bool ShowsItsCell(const PTRNDATA& item)
 {
     const COMNDATA& cell = CellOf(item);
     return item.wData == cell.wData &&
            SameNumber(static_cast<double>(item.fData), static_cast<double>(cell.fData)) &&
-           SameNumber(number, Get_dData(item.DataNo, nullptr, 0)) && SameText(item, cell.sData);
+           SameText(item, cell.sData);
+}
+
+bool ShowsItsDigits(const PTRNDATA& item, const Layers& layers)
+{
+    return SameNumber(layers.number(item.Recd), HasCell(item.DataNo) ? StoredNumber(item.DataNo) : 0);
 }
 
 /// Keeps the layout of the scroll bar that was handled last, which may be dragged at the moment, while others
@@ -149,11 +154,13 @@ void CPtrnData::UpdtLayers(CDraw* draw, std::initializer_list<int> passes)
     Layers& layers = LayersOn(draw);
     std::vector<Box> areas;
     const KeptBar bar(*this);
+    // As long as floats tell all there is no need to look at the digits of every item.
+    const bool finer = cellDigits.finer != 0 || layers.anyFiner();
     for (const int pass : passes) {
         const auto [first, last] = PassPlaces(pass);
         for (auto place = first; place != last; ++place) {
             const PTRNDATA& shown = PtrnData[place->Recd];
-            if (!shown.ID_Code[0] || ShowsItsCell(shown, layers.number(place->Recd)))
+            if (!shown.ID_Code[0] || (ShowsItsCell(shown) && (!finer || ShowsItsDigits(shown, layers))))
                 continue;
             PTRNDATA item = shown;
             ReadCell(&item);

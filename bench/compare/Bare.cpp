@@ -52,6 +52,8 @@ void Show()
 void Tick()
 {
     const int tick = NextTick();
+    if (IsQuiet() && tick > 1)
+        return;
     for (int field = 0; field < FIELD_COUNT; field++)
         DrawField(field, " " + FieldText(tick, field));
     Show();

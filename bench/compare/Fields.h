@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <unistd.h>
 
@@ -49,6 +50,13 @@ inline std::string FieldText(int tick, int field)
     char text[32];
     std::snprintf(text, sizeof text, "%.1f", static_cast<double>(FieldValue(tick, field)));
     return text;
+}
+
+/// Whether nothing changes: the programs tick, but none has anything new to show.
+inline bool IsQuiet()
+{
+    static const bool QUIET = std::getenv("BENCH_QUIET") != nullptr;
+    return QUIET;
 }
 
 /// Begins a tick: one dot on standard output, by which the program that measures counts. @return its number

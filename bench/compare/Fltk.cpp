@@ -31,6 +31,8 @@ void Tick(void* data)
     Fl::repeat_timeout(TICK_MILLISECONDS / 1000.0, Tick, data);
     const auto& boxes = *static_cast<std::vector<Fl_Box*>*>(data);
     const int tick = NextTick();
+    if (IsQuiet() && tick > 1)
+        return;
     for (int field = 0; field < FIELD_COUNT; field++)
         boxes[static_cast<std::size_t>(field)]->copy_label(FieldText(tick, field).c_str());
 }

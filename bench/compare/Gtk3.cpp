@@ -39,6 +39,8 @@ gboolean Tick(void* data)
 {
     const auto& labels = *static_cast<std::vector<GtkWidget*>*>(data);
     const int tick = NextTick();
+    if (IsQuiet() && tick > 1)
+        return TRUE;
     for (int field = 0; field < FIELD_COUNT; field++)
         gtk_label_set_text(GTK_LABEL(labels[static_cast<std::size_t>(field)]),
                            FieldText(tick, field).c_str());

@@ -50,6 +50,8 @@ int main(int argc, char** argv)
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, [&labels] {
         const int tick = NextTick();
+        if (IsQuiet() && tick > 1)
+            return;
         for (int field = 0; field < FIELD_COUNT; field++)
             labels[static_cast<std::size_t>(field)]->setText(QString::fromStdString(FieldText(tick, field)));
     });

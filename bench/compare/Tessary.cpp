@@ -16,7 +16,8 @@ void UserExit() {}
 
 void UserTimr()
 {
-    const int tick = NextTick();
+    const int next = NextTick();
+    const int tick = IsQuiet() ? 0 : next; // the plant's values are set also when they are the same
     for (int field = 0; field < FIELD_COUNT; field++)
         Set_fData(DTNO_SYSTEM + field, FieldValue(tick, field), nullptr, 0);
 }

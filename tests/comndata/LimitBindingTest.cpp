@@ -6,8 +6,6 @@
 
 #include <gmock/gmock.h>
 
-using testing::ElementsAre;
-
 namespace
 {
 
