@@ -52,7 +52,7 @@ inline std::string FieldText(int tick, int field)
     return text;
 }
 
-/// Whether nothing changes: the programs tick, but none has anything new to show.
+/// Whether nothing changes: the programs tick and look at the numbers, but none has anything new to show.
 inline bool IsQuiet()
 {
     static const bool QUIET = std::getenv("BENCH_QUIET") != nullptr;

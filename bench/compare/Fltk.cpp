@@ -30,11 +30,14 @@ void Tick(void* data)
 {
     Fl::repeat_timeout(TICK_MILLISECONDS / 1000.0, Tick, data);
     const auto& boxes = *static_cast<std::vector<Fl_Box*>*>(data);
-    const int tick = NextTick();
-    if (IsQuiet() && tick > 1)
-        return;
+    const int next = NextTick();
+    const int tick = IsQuiet() ? 0 : next;
+    static float shown[FIELD_COUNT];
     for (int field = 0; field < FIELD_COUNT; field++)
-        boxes[static_cast<std::size_t>(field)]->copy_label(FieldText(tick, field).c_str());
+        if (shown[field] != FieldValue(tick, field)) { // a field that is the same is not touched
+            shown[field] = FieldValue(tick, field);
+            boxes[static_cast<std::size_t>(field)]->copy_label(FieldText(tick, field).c_str());
+        }
 }
 
 } // namespace
