@@ -41,7 +41,7 @@ template <typename Number> Number Median(std::vector<Number> numbers)
 /// Pushes everything out of the caches, as whatever else runs in the 100 ms between two ticks may do.
 void ForgetCaches()
 {
-    static std::vector<unsigned> other(16 * 1024 * 1024);
+    static std::vector<unsigned> other(std::size_t{16} * 1024 * 1024);
     for (std::size_t i = 0; i < other.size(); i += 16)
         other[i]++;
 }

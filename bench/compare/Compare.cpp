@@ -130,7 +130,8 @@ class Watcher
     {
         for (const int field : {0, FIELD_COUNT - 1}) {
             const auto colors = pixels(field);
-            if (std::count(colors.begin(), colors.end(), colors.front()) == FIELD_WIDTH * FIELD_HEIGHT)
+            if (std::all_of(colors.begin(), colors.end(),
+                            [&](unsigned long color) { return color == colors.front(); }))
                 return false;
         }
         return true;
