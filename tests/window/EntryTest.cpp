@@ -12,7 +12,6 @@
 using namespace tessary;
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace
