@@ -2,11 +2,9 @@
 // Edition 1's part is window/KeyInput.
 #pragma once
 
-#include "pattern/PtrnData.h"
+#include "window/PtrnDisp.h"
 
 #include <string>
-
-class CPtrnDisp;
 
 namespace tessary
 {
@@ -20,11 +18,13 @@ CPtrnDisp* EditedWnd();
 /// @param repeated  the key is being held, and this is not its first report
 void PanelKey(unsigned int key, int flags, bool repeated);
 
-/// A press of a button or the wheel in a window: the entry in progress is stored as Return does.
-/// @param pt  in pattern coordinates
-/// @return false when the press has done its work with that: it only placed the cursor, or the value was
-///         refused and the press is not one of the stop button
-bool StoreBeforePress(CPtrnDisp* wnd, POINT pt);
+// Declared by window/PtrnDisp.h, whose windows they know from inside:
+//
+// StoreBeforePress: a press of a button or the wheel at a point in pattern coordinates; the entry in progress
+// is stored as Return does. False when the press has done its work with that: it only placed the cursor, or
+// the value was refused and the press is not one of the stop button.
+//
+// TypeCharacter: what one character of EUC-JP, typed by an input method, is to the field in edit.
 
 /// Around the handling of a toolkit's key press.
 class KeyReport
@@ -40,10 +40,6 @@ class KeyReport
 void NoteKeyRelease(unsigned code);
 /// Whether the key that is being handled was reported before and has not been let go since.
 bool KeyIsHeld();
-
-/// What a text typed by an input method is to the field in edit.
-/// @param character  one character of EUC-JP
-void TypeCharacter(CPtrnDisp* wnd, const std::string& character);
 
 /// The character that a key value stands for, in EUC-JP: printable ASCII or two bytes. Empty for every other
 /// key.
