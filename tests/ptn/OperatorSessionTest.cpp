@@ -39,7 +39,7 @@ class OperatorSession : public testing::Test
         }
         ASSERT_EQ(sources.run("build plant out/ProjPath").err, "");
         program.emplace("starter_program", sources.root() + "/out/plant");
-        window = user.waitForDrawn("Main");
+        window = user.waitForWindow("Main");
         expectSetpoint("60");
     }
 
@@ -73,12 +73,13 @@ class OperatorSession : public testing::Test
         }
     }
 
+    /// Nothing here waits for a window to be drawn over again: one that is quiet does not.
     void lookAtStatesAndReturn()
     {
         clickOn(STATES);
-        const ScreenWindow states = user.waitForDrawn("States");
+        const ScreenWindow states = user.waitForWindow("States");
         user.clickAt(states.x + BACK.x, states.y + BACK.y);
-        window = user.waitForDrawn("Main");
+        window = user.waitForWindow("Main");
     }
     static constexpr Place BACK = {96, 440};
 
