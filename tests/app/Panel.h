@@ -40,6 +40,26 @@ class Panel : public testing::Test
         return part << 16 | (0xFF - part) << 8 | part / 2;
     }
 
+    /// Child window, 200 x 120, whose place is remembered.
+    static Pattern rememberedChild(const char* name)
+    {
+        return Pattern(name)
+            .size(200, 120)
+            .header(tessary::HEDR_KIND, 1)
+            .header(tessary::HEDR_REMEMBER, 1)
+            .header(tessary::HEDR_TITLE_HEIGHT, 20);
+    }
+
+    /// The system window that announces the end.
+    void saveNotice()
+    {
+        Pattern(NOTICE)
+            .size(100, 60)
+            .header(tessary::HEDR_KIND, 2)
+            .header(tessary::HEDR_LEFT, 600)
+            .save(project);
+    }
+
     void run() { program.emplace("panel", project.root() + "/panel"); }
 
     int waitEnd()

@@ -23,14 +23,8 @@ class PanelSignal : public Panel, public testing::WithParamInterface<int>
     {
         Panel::SetUp();
         project.set("TESSARY", "WAITTIMER", "60").set("PTRN", "PTRNSTOP", NOTICE);
-        Pattern(CHILD)
-            .size(200, 120)
-            .header(HEDR_KIND, 1)
-            .header(HEDR_REMEMBER, 1)
-            .header(HEDR_TITLE_HEIGHT, 20)
-            .header(HEDR_MODELESS, 1)
-            .save(project);
-        Pattern(NOTICE).size(100, 60).header(HEDR_KIND, 2).header(HEDR_LEFT, 600).save(project);
+        rememberedChild(CHILD).header(HEDR_MODELESS, 1).save(project);
+        saveNotice();
         Pattern(MENU)
             .size(300, 200)
             .item(PTRN_BUTN, 10, 10, 90, 40)

@@ -257,6 +257,19 @@ void addAnyItem(Pattern& pattern, int type, Random& random, int width, int heigh
     addParms(pattern, *FindItemClass(type), random);
 }
 
+void addAnyItems(Pattern& pattern, int count, Random& random, int width, int height)
+{
+    for (int i = 0; i < count; ++i) {
+        addAnyItem(pattern, random.between(1, CONT_PTRN), random, width, height);
+        pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
+        const int cell = random.between(0, RANDOM_CELLS + 1);
+        if (cell > RANDOM_CELLS)
+            pattern.code("unknown");
+        else if (cell > 0)
+            pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
+    }
+}
+
 CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y)
 {
     x += MARGIN;

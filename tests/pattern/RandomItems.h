@@ -33,6 +33,12 @@ float randomNumber(Random& random, const CellRules& rules);
 /// Adds an item of any parameters whose corners lie up to 30 pixels outside a drawable of that size.
 void addAnyItem(Pattern& pattern, int type, Random& random, int width, int height);
 
+/// The numbers of the codes "A" (20 cells) and "B", which the items of addAnyItems show.
+constexpr int RANDOM_CELLS = 25;
+
+/// Adds items of any type, pass and cell: also without a code, and with one that is not known.
+void addAnyItems(Pattern& pattern, int count, Random& random, int width, int height);
+
 /// Adds an item that draws nothing outside the box of 120 x 80 pixels at (x, y).
 /// @return the changes that leave nothing of an older picture
 CellRules addPlainItem(Pattern& pattern, int type, Random& random, int x, int y);

@@ -12,7 +12,6 @@ namespace
 
 constexpr int WIDTH = 160;
 constexpr int HEIGHT = 120;
-constexpr int CELL_COUNT = 25; ///< the numbers of the codes "A" and "B"
 constexpr int CLOCK_CELLS = 7; ///< the first of them
 
 class AnyRestored : public LoadedPattern
@@ -30,15 +29,7 @@ class AnyRestored : public LoadedPattern
         if (random.oneIn(4))
             pattern.bitmap("four.ppm");
         pattern.title(randomText(random, 12));
-        for (int i = 0; i < count; ++i) {
-            addAnyItem(pattern, random.between(1, CONT_PTRN), random, WIDTH, HEIGHT);
-            pattern.parm(PARM_PASS, random.oneIn(9) ? random.between(-1, 3) : random.below(2));
-            const int cell = random.between(0, CELL_COUNT + 1);
-            if (cell > CELL_COUNT)
-                pattern.code("unknown");
-            else if (cell > 0)
-                pattern.code(cell <= 20 ? "A" : "B", cell <= 20 ? cell - 1 : cell - 21);
-        }
+        addAnyItems(pattern, count, random, WIDTH, HEIGHT);
         return pattern;
     }
 
@@ -46,7 +37,7 @@ class AnyRestored : public LoadedPattern
     {
         // Cell 0 is that of the items without a code, which no tick updates; the clock only goes on as a
         // whole.
-        const int no = random.between(CLOCK_CELLS + 1, CELL_COUNT);
+        const int no = random.between(CLOCK_CELLS + 1, RANDOM_CELLS);
         switch (random.below(3)) {
         case 0:
             setState(no, static_cast<int>(random.bits() & random.bits() & 0xFFFF & ~STATE_FROZEN));
@@ -64,6 +55,15 @@ class AnyRestored : public LoadedPattern
         on.clear();
         pattern.DispTitle(on.draw());
         pattern.DispPtrnData(on.draw());
+    }
+
+    /// Displays any pattern, its cells in any state.
+    void open(Random& random)
+    {
+        load(randomPattern(random, 30));
+        for (int changes = 0; changes < 50; ++changes)
+            change(random);
+        display(data(), canvas);
     }
 
     void tick()
@@ -95,10 +95,7 @@ TEST_F(AnyRestored, looks_after_every_tick_as_if_it_had_just_been_opened)
     for (const unsigned seed : seeds(12)) {
         SCOPED_TRACE(seedText(seed));
         Random random(seed);
-        load(randomPattern(random, 30));
-        for (int changes = 0; changes < 50; ++changes)
-            change(random);
-        display(data(), canvas);
+        open(random);
         for (int ticks = 1; ticks <= 40; ++ticks) {
             for (int changes = random.below(6); changes > 0; --changes)
                 change(random);
@@ -115,10 +112,7 @@ TEST_F(AnyRestored, area_is_drawn_anew_and_nothing_else)
     for (const unsigned seed : seeds(12)) {
         SCOPED_TRACE(seedText(seed));
         Random random(seed);
-        load(randomPattern(random, 30));
-        for (int changes = 0; changes < 50; ++changes)
-            change(random);
-        display(data(), canvas);
+        open(random);
         const Picture whole = canvas.picture();
         for (int round = 0; round < 20; ++round) {
             const RECT area = SetRect(random.between(-20, WIDTH + 20), random.between(-20, HEIGHT + 20),

@@ -45,7 +45,7 @@ void UserExit()
     ask("ASKEXIT");
     const std::string file = ProfileReadAsc(ProfName, "TEST", "WAIT");
     while (!file.empty() && access(file.c_str(), F_OK) != 0)
-        usleep(1000);
+        usleep(1000); // between two looks
 }
 
 /// Asks once; a box has ticks of its own.

@@ -60,24 +60,27 @@ class FrontKey : public KeyEdit
     Calls pressed() const { return callsOf({"mesg"}); }
     static void setState(int no, int word) { Set_wData(no, static_cast<WORD>(word), nullptr, 0); }
 
-    /// A report of a key by its place on the keyboard.
+    // Reports of a key by its place on the keyboard.
     static void report(guint key, guint16 code)
     {
-        GdkEventKey event{};
-        event.type = GDK_KEY_PRESS;
-        event.window = AppliWnd->Widget->window;
-        event.keyval = key;
-        event.hardware_keycode = code;
+        auto event = reportOf(GDK_KEY_PRESS, key, code);
         Key_Press(AppliWnd->Widget, &event, AppliWnd);
     }
     static void letGo(guint key, guint16 code)
     {
+        auto event = reportOf(GDK_KEY_RELEASE, key, code);
+        Key_Release(AppliWnd->Widget, &event, AppliWnd);
+    }
+
+  private:
+    static GdkEventKey reportOf(GdkEventType type, guint key, guint16 code)
+    {
         GdkEventKey event{};
-        event.type = GDK_KEY_RELEASE;
+        event.type = type;
         event.window = AppliWnd->Widget->window;
         event.keyval = key;
         event.hardware_keycode = code;
-        Key_Release(AppliWnd->Widget, &event, AppliWnd);
+        return event;
     }
 };
 

@@ -8,7 +8,6 @@
 
 using namespace tessary;
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace
@@ -29,22 +28,14 @@ class ProgramWindows : public Panel, public testing::WithParamInterface<bool>
             manager.emplace();
             manager->waitReady();
         }
-        Pattern(CHILD1)
-            .size(200, 120)
-            .header(HEDR_KIND, 1)
-            .header(HEDR_REMEMBER, 1)
-            .header(HEDR_TITLE_HEIGHT, 20)
-            .item(PTRN_BUTN, 10, 30, 90, 60)
-            .text("close")
-            .action(9)
-            .save(project);
+        rememberedChild(CHILD1).item(PTRN_BUTN, 10, 30, 90, 60).text("close").action(9).save(project);
         Pattern(CHILD2)
             .size(150, 80)
             .header(HEDR_KIND, 2)
             .header(HEDR_LEFT, 900)
             .header(HEDR_MODELESS, 1)
             .save(project);
-        Pattern(NOTICE).size(100, 60).header(HEDR_KIND, 2).header(HEDR_LEFT, 600).save(project);
+        saveNotice();
         Pattern(MENU)
             .size(500, 300)
             .header(HEDR_KIND, 0)

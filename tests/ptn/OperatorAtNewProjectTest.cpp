@@ -12,7 +12,7 @@
 namespace
 {
 
-class OperatorSession : public testing::Test
+class OperatorAtNewProject : public testing::Test
 {
   protected:
     struct Place {
@@ -99,7 +99,7 @@ class OperatorSession : public testing::Test
 
 } // namespace
 
-TEST_F(OperatorSession, of_the_first_edition)
+TEST_F(OperatorAtNewProject, of_the_first_edition)
 {
     begin(1);
     enter("85");
@@ -115,7 +115,7 @@ TEST_F(OperatorSession, of_the_first_edition)
     stop();
 }
 
-TEST_F(OperatorSession, of_the_second_edition)
+TEST_F(OperatorAtNewProject, of_the_second_edition)
 {
     begin(2);
     enter("85");
@@ -135,6 +135,6 @@ TEST_F(OperatorSession, of_the_second_edition)
     enter("7");
     lookAtStatesAndReturn();
     expectSetpoint("7");
-    user.save(Program::buildFolder() + "/session-edition2.png");
+    user.save(Program::buildFolder() + "/operator-edition2.png");
     stop();
 }
