@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 
 struct tm LocalTime;
@@ -29,15 +30,29 @@ int ToInt(std::int64_t value)
         std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
+/// Without TZ in the environment localtime() looks at each call whether the system has got another time zone,
+/// which is a file: once a second is enough.
+bool ToLocal(std::time_t time, tm& local)
+{
+    static std::time_t looked = -1;
+    static bool systemsZone = false;
+    const bool sameSecond = time == looked && systemsZone;
+    looked = time;
+    systemsZone = !std::getenv("TZ");
+    if (!sameSecond || !systemsZone)
+        tzset();
+    return localtime_r(&time, &local) != nullptr;
+}
+
 } // namespace
 
 void GetLocalTime()
 {
     const std::time_t now = std::time(nullptr);
-    const struct tm* local = std::localtime(&now);
-    if (!local)
+    tm local{};
+    if (!ToLocal(now, local))
         return;
-    LocalTime = *local;
+    LocalTime = local;
     LocalTime.tm_year += 1900;
     LocalTime.tm_mon += 1;
 }

@@ -1,4 +1,4 @@
-// The same screen of 500 changing numbers in this framework, FLTK, GTK 3 and Qt, as far as they are
+// The same screen of 500 changing numbers in this framework, FLTK, GTK+ 2, GTK 3 and Qt, as far as they are
 // installed, and drawn by bare calls: processor time of program and X server together for a tick, resident
 // memory, and the time from the start to the first painted window. The programs run one after another,
 // several times in turn.
@@ -41,10 +41,8 @@ struct Limits {
     double start;
 };
 constexpr Limits LIMITS[] = {
-    {"bare", 0, 0, 0},
-    {"fltk", 1.0, 0, 1.3},
-    {"gtk3", 0.5, 1.0 / 3, 1.0},
-    {"qt", 0.5, 1.0 / 3, 1.0},
+    {"bare", 0, 0, 0},           {"fltk", 1.0, 0, 1.3},     {"gtk2", 0, 0, 0},
+    {"gtk3", 0.5, 1.0 / 3, 1.0}, {"qt", 0.5, 1.0 / 3, 1.0},
 };
 
 struct Cost {
@@ -318,7 +316,7 @@ Costs Compare(int rounds, int ticks)
 
     Costs costs;
     for (int round = 0; round < rounds; round++)
-        for (const char* name : {"bare", FRAMEWORK, "fltk", "gtk3", "qt"})
+        for (const char* name : {"bare", FRAMEWORK, "fltk", "gtk2", "gtk3", "qt"})
             if (std::filesystem::exists(ProgramFile(name)))
                 costs[name].push_back(Measure(screen, name, panel, ticks));
     return costs;
