@@ -3,6 +3,7 @@
 
 #include "config/FileStream.h"
 #include "config/PathName.h"
+#include "config/Replacement.h"
 
 #include <algorithm>
 #include <climits>
@@ -27,6 +28,12 @@ std::optional<struct stat> Status(const char* dir, const char* name)
     return status;
 }
 
+bool IsRegularFile(FILE* fp)
+{
+    struct stat status = {};
+    return fstat(fileno(fp), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 std::string FromTo(const char* from, const char* to)
 {
     return TextOf(from) + " → " + TextOf(to);
@@ -49,16 +56,53 @@ int ReadWhole(const char* dir, const char* name, const FilePlace& place, void* b
     return ReadBytes(reader, place, buffer, size, report);
 }
 
-int WriteWhole(const char* dir, const char* name, const FilePlace& place, const void* buffer, int size,
-               const FileEvent& event, const FileReport& report)
+/// Directs a writer to the file that is to replace the one it has open.
+bool WriteBeside(CFileWrite& writer, const Replacement& replacement)
 {
-    CFileWrite writer;
-    const FileReport opening = report.failuresOnly();
-    if (!OpenFile(writer, dir, name, opening) && !CreateFile(writer, dir, name, opening)) {
+    FILE* const fp = std::fopen(replacement.path().c_str(), "r+e");
+    if (!fp)
+        return false;
+    std::setvbuf(fp, nullptr, _IONBF, 0);
+    if (writer.fp)
+        std::fclose(writer.fp);
+    writer.fp = fp;
+    return true;
+}
+
+int WriteInPlace(CFileWrite& writer, const char* dir, const char* name, const FilePlace& place,
+                 const void* buffer, int size, const FileEvent& event, const FileReport& report)
+{
+    if (!writer.fp && !CreateFile(writer, dir, name, report.failuresOnly())) {
         report.failure(event, writer.FileName);
         return -1;
     }
     return WriteBytes(writer, place, buffer, size, event, report);
+}
+
+/// The file is replaced as a whole. Where its folder takes no new file it is written in place: better than
+/// not at all.
+int WriteWhole(const char* dir, const char* name, const FilePlace& place, const void* buffer, int size,
+               const FileEvent& event, const FileReport& report)
+{
+    CFileWrite writer;
+    const bool exists = OpenFile(writer, dir, name, report.failuresOnly()) == 1;
+    if (exists && !IsRegularFile(writer.fp)) { // a pipe, a device
+        report.failure(event, writer.FileName);
+        return -1;
+    }
+    Replacement replacement;
+    const bool beside = (exists || !FileExist(dir, name)) && replacement.begin(JoinPath(dir, name)) &&
+                        WriteBeside(writer, replacement);
+    if (!beside)
+        return WriteInPlace(writer, dir, name, place, buffer, size, event, report);
+    const int written = WriteBytes(writer, place, buffer, size, event, report.failuresOnly());
+    if (written == 1 && !replacement.commit()) {
+        report.failure(event, writer.FileName);
+        return -1;
+    }
+    if (written == 1)
+        report.success(event, writer.FileName);
+    return written;
 }
 
 bool CopyBytes(const char* srcdir, const char* srcname, const char* dstdir, const char* dstname,
