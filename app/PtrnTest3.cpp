@@ -127,7 +127,8 @@ void CPtrnTest3::InitHaisenhyo()
 void CPtrnTest3::PtrnMesgFunc(int no)
 {
     if (no == TABLE_SAVE_CELL) {
-        SaveHaisenhyo();
+        if (!SaveHaisenhyo())
+            DispErrorMesg(Language == 0 ? "配線表を保存できません" : "The wiring table could not be saved");
     } else if (no == TABLE_PRINT_CELL) {
         PtrnSetCursor(CURSOR_BUSY, nullptr, 0);
         PrintHaisenhyo();

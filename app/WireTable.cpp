@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr char FILE_NAME[] = "Haisenhyo";
+bool tableIsKnown = true; // else the file holds another one, which could not be read
 
 /// Where a column's text lies in its record. The length is a number and has none.
 struct Field {
@@ -61,6 +62,7 @@ void LoadHaisenhyo()
     FreeHaisenhyo();
     CFileRead reader(ProjPath, FILE_NAME, nullptr, 0);
     reader.ReadBlock(&HaisenHedr, sizeof HaisenHedr, 0, nullptr, 0);
+    tableIsKnown = !IsUnreadable(ProjPath, FILE_NAME);
 
     const std::int32_t claimed = HaisenHedr.datacount;
     ReadRecords(reader, std::min({claimed, RecordsInFile(), CONT_HAISENDATA}));
@@ -76,14 +78,18 @@ void LoadHaisenhyo()
         HaisenIndx.push_back(i);
 }
 
-void SaveHaisenhyo()
+bool SaveHaisenhyo()
 {
-    CFileWrite writer(ProjPath, FILE_NAME, nullptr, 0);
-    if (writer.WriteBlock(&HaisenHedr, sizeof HaisenHedr, 0, nullptr, 0) != 1)
-        return;
-    for (const HAISENDATA& wire : HaisenData)
-        if (writer.WriteBlock(&wire, sizeof wire, 0, nullptr, 0) != 1)
-            return;
+    if (!tableIsKnown)
+        return false;
+    CFileWrite there(ProjPath, FILE_NAME, nullptr, 0); // a table that is missing is not made
+    if (!there.fp)
+        return false;
+    const auto header = reinterpret_cast<const char*>(&HaisenHedr);
+    const auto wires = reinterpret_cast<const char*>(HaisenData.data());
+    std::string bytes(header, sizeof HaisenHedr);
+    bytes.append(wires, HaisenData.size() * sizeof(HAISENDATA));
+    return FileWrite(ProjPath, FILE_NAME, bytes.data(), static_cast<int>(bytes.size()), 0, nullptr, 0) == 1;
 }
 
 void FreeHaisenhyo()

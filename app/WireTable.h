@@ -79,8 +79,9 @@ extern std::vector<std::int32_t> HaisenIndx; ///< records in display order
 void LoadHaisenhyo();
 
 /// Writes header and records, in storage order, over the existing file; what lies behind them stays. A file
-/// that does not exist is not made; the log tells.
-void SaveHaisenhyo();
+/// that does not exist is not made, and one that could not be read is left alone; the log tells.
+/// @return whether the table is saved
+bool SaveHaisenhyo();
 
 /// Releases the records; the header stays.
 void FreeHaisenhyo();

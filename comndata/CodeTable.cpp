@@ -26,6 +26,8 @@ std::vector<BYTE> flags;
 
 unsigned generation; // of the table that is loaded; 0 none
 unsigned loads;      // only ever grows
+constexpr char FLAG_FILE[] = "PtrnFlag";
+bool flagsAreKnown = false; // else the file holds others, which could not be read
 
 /// Finds the first row with a code. A search through the rows for each item would make a large pattern over a
 /// large table take minutes to open.
@@ -114,11 +116,17 @@ void LoadFlags()
 {
     flags.resize(static_cast<std::size_t>(PtrnDataNo));
     PtrnFlag = flags.data();
-    FileRead(ProjPath, "PtrnFlag", PtrnFlag, PtrnDataNo, 0, nullptr, 0);
-    FileWrite(ProjPath, "PtrnFlag", PtrnFlag, PtrnDataNo, 0, nullptr, 0);
+    const bool read = FileRead(ProjPath, FLAG_FILE, PtrnFlag, PtrnDataNo, 0, nullptr, 0) == 1;
+    flagsAreKnown = read || !IsUnreadable(ProjPath, FLAG_FILE);
+    SaveFlags();
 }
 
 } // namespace
+
+bool tessary::SaveFlags()
+{
+    return flagsAreKnown && FileWrite(ProjPath, FLAG_FILE, PtrnFlag, PtrnDataNo, 0, nullptr, 0) == 1;
+}
 
 void tessary::LoadCodeTable()
 {

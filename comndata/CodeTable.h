@@ -14,6 +14,10 @@ constexpr int CONT_PTRNCODE = 1000000;
 /// Loads "PtrnCode" and "PtrnFlag", see LoadCodeData, and creates the cells.
 void LoadCodeTable();
 
+/// Writes the flags back.
+/// @return false when that failed, or when the file could not be read before: it is left alone then
+bool SaveFlags();
+
 /// Frees table, flags and cells.
 void ExitCodeTable();
 

@@ -6,6 +6,7 @@
 #include "config/Replacement.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <ctime>
 #include <memory>
@@ -200,6 +201,22 @@ int FileDelete(const char* dir, const char* name, const char* file, int line)
     }
     report.success(DELETE_FILE, TextOf(name));
     return 1;
+}
+
+bool tessary::IsUnreadable(const char* dir, const char* name)
+{
+    const std::string path = JoinPath(dir, name);
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0)
+        return errno != ENOENT;
+    CFileRead reader;
+    if (!OpenFile(reader, dir, name, FileReport::none()))
+        return true;
+    char bytes[4096];
+    while (std::fread(bytes, 1, sizeof bytes, reader.fp) == sizeof bytes)
+        if (!S_ISREG(status.st_mode)) // it may have no end
+            break;
+    return std::ferror(reader.fp) != 0;
 }
 
 int FileExist(const char* dir, const char* name)

@@ -92,3 +92,13 @@ int DeleteFolder(const char* path, const char* file, int line);
 /// Copies the regular files of a folder, without subfolders, into a folder that is made when missing.
 /// @return 1, or 0 at the first file that can not be copied (an empty file, for example)
 int CopyFolder(const char* srcpath, const char* dstpath, const char* file, int line);
+
+namespace tessary
+{
+
+/// Whether a file can not be read although it is there, as far as can be told: what it holds is not known
+/// then and must not be written over. Nothing is recorded.
+/// @return false for a file that is missing
+bool IsUnreadable(const char* dir, const char* name);
+
+} // namespace tessary

@@ -53,6 +53,8 @@ int ProfileInit(const char* file)
         FileReport(nullptr, 0).failure(LOAD_PROFILE, file);
         return 0;
     }
+    if (size < 0 && IsUnreadable(file, ""))
+        return 0; // what it holds is not known: it must not be written over
     if (size < 1)
         return 1;
 

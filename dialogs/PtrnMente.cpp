@@ -3,6 +3,7 @@
 #include "comndata/CodeTable.h"
 #include "comndata/ComnData.h"
 #include "comndata/ItemState.h"
+#include "comndata/MesgData.h"
 #include "comndata/PtrnCode.h"
 #include "config/FileCntl.h"
 #include "config/Settings.h"
@@ -94,7 +95,8 @@ void ChangeFlag(int cell)
     if (no < 0)
         return;
     PtrnFlag[no] = static_cast<BYTE>(Get_iData(cell, nullptr, 0));
-    FileWrite(ProjPath, "PtrnFlag", PtrnFlag, PtrnDataNo, 0, nullptr, 0);
+    if (!SaveFlags())
+        DispErrorMesg(Language == 0 ? "ログフラグを保存できません" : "The log flags could not be saved");
 }
 
 } // namespace

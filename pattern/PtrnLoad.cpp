@@ -13,9 +13,8 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <sys/stat.h>
 #include <vector>
-
-using namespace tessary;
 
 using namespace tessary;
 
@@ -36,11 +35,7 @@ class PatternFile
     /// @return false when there is nothing to load
     bool readHeader(HEDRFILE* header)
     {
-        if (size_ < 0 || size_ > LONGEST_FILE) {
-            LogText("PTRNDATA", __FILE__, __LINE__, "File Size Error [%s / %d]", name_.c_str(), size_);
-            return false;
-        }
-        return reader_.Open(ProjPath, name_.c_str(), nullptr, 0) == 1 &&
+        return hasGoodSize() && reader_.Open(ProjPath, name_.c_str(), nullptr, 0) == 1 && measure() &&
                reader_.ReadBlock(header, sizeof *header, 0, nullptr, 0) == 1;
     }
 
@@ -79,6 +74,23 @@ class PatternFile
     }
 
   private:
+    bool hasGoodSize() const
+    {
+        if (size_ >= 0 && size_ <= LONGEST_FILE)
+            return true;
+        LogText("PTRNDATA", __FILE__, __LINE__, "File Size Error [%s / %d]", name_.c_str(), size_);
+        return false;
+    }
+
+    /// The size of what was opened: another program may have replaced the file, or be writing it.
+    bool measure()
+    {
+        struct stat status = {};
+        const bool regular = fstat(fileno(reader_.fp), &status) == 0 && S_ISREG(status.st_mode);
+        size_ = regular && status.st_size <= LONGEST_FILE ? static_cast<int>(status.st_size) : -1;
+        return hasGoodSize();
+    }
+
     void compare(const char* what, int claimed, int found) const
     {
         if (found != claimed)

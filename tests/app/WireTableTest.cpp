@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <random>
@@ -414,4 +415,20 @@ TEST_F(WireTable, sorts_an_empty_table)
     load(std::vector<WireBytes>());
     SortHaisenhyo(WIRE_SHEET, 1);
     EXPECT_THAT(HaisenIndx, IsEmpty());
+}
+
+TEST_F(WireTable, is_never_written_over_a_file_that_could_not_be_read)
+{
+    const std::string file = project.folder() + "/Haisenhyo";
+    std::filesystem::create_symlink("/proc/self/mem", file); // whose first byte fails to be read
+    LoadHaisenhyo();
+    EXPECT_FALSE(SaveHaisenhyo());
+    std::filesystem::remove(file);
+    const std::string table = wireFile(HEADER, {});
+    project.write("Haisenhyo", table); // the disk is well again
+    EXPECT_FALSE(SaveHaisenhyo());
+    EXPECT_EQ(project.read("Haisenhyo"), table);
+    LoadHaisenhyo();
+    EXPECT_TRUE(SaveHaisenhyo());
+    EXPECT_EQ(project.read("Haisenhyo"), table);
 }

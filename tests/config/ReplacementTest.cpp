@@ -170,3 +170,19 @@ TEST_F(AReplacedFile, is_written_in_place_where_its_folder_takes_no_other)
     chmod(dir(), 0755);
     EXPECT_EQ(read("data"), "XYc");
 }
+
+TEST_F(AReplacedFile, is_not_known_when_it_is_there_and_can_not_be_read)
+{
+    using tessary::IsUnreadable;
+    write("data", "abc");
+    write("empty", "");
+    std::filesystem::create_symlink("/proc/self/mem", path("broken")); // whose first byte fails to be read
+    std::filesystem::create_symlink("round", path("round"));
+    EXPECT_FALSE(IsUnreadable(dir(), "data"));
+    EXPECT_FALSE(IsUnreadable(dir(), "empty"));
+    EXPECT_FALSE(IsUnreadable(dir(), "missing"));
+    EXPECT_TRUE(IsUnreadable(dir(), "broken"));
+    EXPECT_TRUE(IsUnreadable(dir(), "round"));
+    EXPECT_TRUE(IsUnreadable(dir(), "")) << "a folder";
+    EXPECT_EQ(logged(), Lines{});
+}
