@@ -1,5 +1,6 @@
 // Log flags that are there and can not be read.
 #include "comndata/CodeTable.h"
+#include "comndata/PtrnCode.h"
 #include "tests/comndata/CommonData.h"
 
 #include <filesystem>

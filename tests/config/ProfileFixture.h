@@ -8,6 +8,9 @@
 class ProfileFile : public testing::Test
 {
   protected:
+    ProfileFile() = default;
+    explicit ProfileFile(const std::filesystem::path& parent) : project(parent) {}
+
     const char* file() const { return path_.c_str(); }
     void put(const std::string& bytes) const { writeFile(path_, bytes); }
     std::string bytes() const { return readFile(path_); }

@@ -135,6 +135,8 @@ string afterDeleting(const string& content, const string& section, const string&
 class RandomProfile : public ProfileFile
 {
   protected:
+    RandomProfile() : ProfileFile(Project::inMemory()) {}
+
     std::size_t below(std::size_t limit) { return generator_() % limit; }
     bool chance(int percent) { return below(100) < static_cast<std::size_t>(percent); }
     template <std::size_t N> string oneOf(const char* const (&texts)[N]) { return texts[below(N)]; }

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <unistd.h>
 
 using namespace tessary;
 
@@ -43,7 +44,7 @@ std::string field(const std::string& text, std::size_t size)
     return bytes;
 }
 
-Project::Project() : before_(fs::current_path().string())
+Project::Project(const fs::path& parent) : folder_("tessary-", parent), before_(fs::current_path().string())
 {
     fs::create_directories(folder());
     fs::create_directories(logFolder());
@@ -54,6 +55,12 @@ Project::Project() : before_(fs::current_path().string())
     CopyText(ProfName, profile().c_str());
     CopyText(ProjPath, folder().c_str());
     Language = 0;
+}
+
+fs::path Project::inMemory()
+{
+    const fs::path folder = "/dev/shm";
+    return access(folder.c_str(), W_OK) == 0 ? folder : fs::path();
 }
 
 Project::~Project()

@@ -5,6 +5,7 @@
 #include "base/Types.h"
 #include "tools/ptn/system/TemporaryFolder.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,12 @@ class Project
   public:
     /// Makes <temporary>/panel.ini, <temporary>/ProjPath and <temporary>/log, makes the temporary folder
     /// the working directory and points ProfName and ProjPath at it. Nothing is loaded yet.
-    Project();
+    /// @param parent  of the temporary folder; usually that of all temporary folders
+    explicit Project(const std::filesystem::path& parent = {});
+
+    /// A folder in memory, for tests that write files thousands of times: a disk takes its time for each.
+    static std::filesystem::path inMemory();
+
     ~Project();
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;
@@ -59,7 +65,7 @@ class Project
 
   private:
     void writeProfile() const;
-    ptn::TemporaryFolder folder_{"tessary-"};
+    ptn::TemporaryFolder folder_;
     std::string before_;
     std::vector<std::pair<std::string, std::vector<std::pair<std::string, std::string>>>> keys_;
     std::string codes_;
