@@ -7,7 +7,8 @@ namespace
 
 constexpr int SLOT = 1; ///< child slot of everything that the test screens open
 
-constexpr const char* CHILD_NAMES[] = {"子ウィンドウ (1)", "子ウィンドウ (2)", "子ウィンドウ (3)"};
+constexpr const char* CHILD_NAMES[] = {panel::screen::子ウィンドウ_1, panel::screen::子ウィンドウ_2,
+                                       panel::screen::子ウィンドウ_3};
 static_assert(sizeof CHILD_NAMES / sizeof CHILD_NAMES[0] == CHILD_BUTTONS.count);
 
 } // namespace
@@ -40,7 +41,7 @@ bool OpenChildOf(CPtrnDisp& wnd, int button)
 
 void OpenPopupMenu(CPtrnDisp& wnd, const RECT& beside)
 {
-    wnd.PtrnDispPopup(SLOT, "ポップアップメニュー", OnScreen(wnd, beside), nullptr, 0);
+    wnd.PtrnDispPopup(SLOT, panel::screen::ポップアップメニュー, OnScreen(wnd, beside), nullptr, 0);
 }
 
 void CloseOpened(CPtrnDisp& wnd)

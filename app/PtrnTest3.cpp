@@ -10,7 +10,6 @@ using namespace tessary;
 namespace
 {
 
-constexpr char TABLE_NAME[] = "テスト  （表）";
 constexpr int TABLE_SLOT = 1;
 
 /// Where key input goes on from a header field. The fields are two columns: system number and delivery, work
@@ -115,13 +114,13 @@ void CPtrnTest3::InitHaisenhyo()
     ShowHeader();
 
     PTRNHEDR table{};
-    PtrnReadHedr(TABLE_NAME, &table);
+    PtrnReadHedr(panel::screen::テスト_表, &table);
     PtrnSetScroll(TABLE_V_SCROLL_CELL, HaisenHedr.datacount, 0, nullptr, 0);
     PtrnSetScroll(TABLE_H_SCROLL_CELL, table.Parm1[HEDR_WIDTH], 0, nullptr, 0);
 
     const RECT frame = ItemRect(*this, TABLE_FRAME_CELL, PTRN_RECT);
     if (!IsEmptyRect(frame))
-        PtrnDispChild(TABLE_SLOT, TABLE_NAME, OnScreen(*this, frame), nullptr, 0);
+        PtrnDispChild(TABLE_SLOT, panel::screen::テスト_表, OnScreen(*this, frame), nullptr, 0);
 }
 
 void CPtrnTest3::PtrnMesgFunc(int no)

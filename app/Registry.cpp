@@ -7,11 +7,14 @@
 #include "app/PtrnTest3.h"
 #include "app/PtrnTest4.h"
 #include "app/PtrnTest5.h"
+#include "cells.h"
 
 #include <cstring>
 
 namespace
 {
+
+namespace screen = panel::screen;
 
 struct Screen {
     const char* name;
@@ -25,18 +28,18 @@ template <class Window> CPtrnDisp* Make()
 
 // clang-format off
 constexpr Screen SCREENS[] = {
-    {"テスト  ［メニュー選択］", Make<CPtrnDisp>},
-    {"システム終了", Make<CPtrnDisp>},
-    {"テスト  （図形）", Make<CPtrnTest1>},
-    {"テスト  （マウス操作）", Make<CPtrnTest5>},
-    {"子ウィンドウ (1)", Make<CPtrnDisp>},
-    {"子ウィンドウ (2)", Make<CPtrnDisp>},
-    {"子ウィンドウ (3)", Make<CPtrnDisp>},
-    {"ポップアップメニュー", Make<CPtrnDisp>},
-    {"テスト  （文字列・ボタン）", Make<CPtrnTest2>},
-    {"テスト  （グラフ）", Make<CPtrnTest4>},
-    {"テスト  （表・キー入力）", Make<CPtrnTest3>},
-    {"テスト  （表）", Make<CHaisenhyo>},
+    {screen::テスト_メニュー選択, Make<CPtrnDisp>},
+    {screen::システム終了, Make<CPtrnDisp>},
+    {screen::テスト_図形, Make<CPtrnTest1>},
+    {screen::テスト_マウス操作, Make<CPtrnTest5>},
+    {screen::子ウィンドウ_1, Make<CPtrnDisp>},
+    {screen::子ウィンドウ_2, Make<CPtrnDisp>},
+    {screen::子ウィンドウ_3, Make<CPtrnDisp>},
+    {screen::ポップアップメニュー, Make<CPtrnDisp>},
+    {screen::テスト_文字列_ボタン, Make<CPtrnTest2>},
+    {screen::テスト_グラフ, Make<CPtrnTest4>},
+    {screen::テスト_表_キー入力, Make<CPtrnTest3>},
+    {screen::テスト_表, Make<CHaisenhyo>},
 };
 // clang-format on
 

@@ -13,8 +13,11 @@ install(DIRECTORY ${PROJECT_BINARY_DIR}/include/tessary DESTINATION ${CMAKE_INST
 install(EXPORT TessaryTargets NAMESPACE Tessary:: DESTINATION ${PACKAGE_FOLDER})
 export(EXPORT TessaryTargets NAMESPACE Tessary:: FILE ${PROJECT_BINARY_DIR}/TessaryTargets.cmake)
 
-set(CONFIG_FILES ${PROJECT_BINARY_DIR}/TessaryConfig.cmake ${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake)
-configure_file(${PROJECT_SOURCE_DIR}/cmake/TessaryConfig.cmake ${PROJECT_BINARY_DIR}/TessaryConfig.cmake COPYONLY)
+set(CONFIG_FILES ${PROJECT_BINARY_DIR}/TessaryConfig.cmake ${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake
+                 ${PROJECT_BINARY_DIR}/TessaryProject.cmake)
+foreach(file TessaryConfig.cmake TessaryProject.cmake)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${file} ${PROJECT_BINARY_DIR}/${file} COPYONLY)
+endforeach()
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CONFIG_FILES} DESTINATION ${PACKAGE_FOLDER})
 

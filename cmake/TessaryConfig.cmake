@@ -1,4 +1,5 @@
-# find_package(Tessary): Tessary::main, Tessary::tessary and the program Tessary::ptn; see docs/installing.md.
+# find_package(Tessary): Tessary::main, Tessary::tessary, the program Tessary::ptn and the function tessary_project;
+# see docs/installing.md.
 include(CMakeFindDependencyMacro)
 find_dependency(PkgConfig)
 pkg_check_modules(TESSARY_TOOLKIT QUIET IMPORTED_TARGET gtk+-2.0 gthread-2.0 x11)
@@ -8,3 +9,4 @@ if(NOT TESSARY_TOOLKIT_FOUND)
   return()
 endif()
 include(${CMAKE_CURRENT_LIST_DIR}/TessaryTargets.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/TessaryProject.cmake)

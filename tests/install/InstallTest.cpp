@@ -139,7 +139,8 @@ TEST_F(Install, has_what_a_new_project_finds_and_its_program_runs)
 
 TEST_F(Install, has_what_pkg_config_finds)
 {
-    EXPECT_THAT(expectRuns("g++ -Wall -Wextra plant/program/Registry.cpp "
+    expectRuns("moved/bin/ptn build plant by-hand/ProjPath");
+    EXPECT_THAT(expectRuns("g++ -Wall -Wextra -Iby-hand plant/program/Registry.cpp "
                            "$(pkg-config --cflags --libs tessary) " TESSARY_LINK_FLAGS
                            " -o plant-by-pkg-config"),
                 IsEmpty());

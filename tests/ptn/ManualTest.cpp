@@ -101,7 +101,7 @@ TEST_F(Manual, has_a_tutorial_whose_commands_run_as_printed)
         } else if (block.yaml) {
             Insert("plant/project.yaml", "  PUMP: 4 # 102-105\n", "  LEVEL: 1\n");
             Insert("plant/screens/main.yaml", "\nitems:\n", block.text);
-            Insert("plant/program/Registry.cpp", "\"Stop\"", ", \"Tank\"");
+            Insert("plant/program/Registry.cpp", "screen::Stop", ", screen::Tank");
             buildScreens();
             expectRuns("render plant Tank");
         } else {

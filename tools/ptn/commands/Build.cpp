@@ -23,6 +23,7 @@ class BuildCommand : public Command
   private:
     std::string source_;
     std::string output_;
+    std::filesystem::path header_;
     bool quiet_ = false;
 };
 
@@ -32,6 +33,9 @@ void BuildCommand::addOptions(CLI::App& line)
         ->required()
         ->check(CLI::ExistingDirectory);
     line.add_option("OUT", output_, "Project directory; the profile is written beside it")->required();
+    line.add_option(
+        "--header", header_,
+        "C++ header with the cells and screens as constants; otherwise cells.h beside the profile");
     line.add_flag("-q,--quiet", quiet_, "Say nothing unless something is wrong");
     line.footer(
         "Nothing is changed unless all sources are right. Files that are up to date keep their time;\n"
@@ -43,7 +47,9 @@ int BuildCommand::run()
     Diagnostics diagnostics;
     std::optional<OutputReport> report;
     try {
-        report = Build(source_, output_, diagnostics);
+        if (header_.empty())
+            header_ = DefaultHeader(output_);
+        report = Build(source_, output_, header_, diagnostics);
     } catch (const std::filesystem::filesystem_error& problem) {
         ReportUnwritten(problem, diagnostics);
     }

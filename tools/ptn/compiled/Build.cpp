@@ -1,10 +1,12 @@
 #include "tools/ptn/compiled/Build.h"
 
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/compiled/CellsHeader.h"
 #include "tools/ptn/source/ReadProject.h"
 #include "tools/ptn/source/ScreenSource.h"
 #include "tools/ptn/source/Sections.h"
 
+#include <cstring>
 #include <vector>
 
 namespace ptn
@@ -53,9 +55,26 @@ void CheckTablePlace(const ProjectSource& project, const fs::path& folder, Diagn
                             "is started. Call the output ProjPath.");
 }
 
+// Somebody's own file may have the same name.
+void CheckHeaderPlace(const fs::path& header, Diagnostics& diagnostics)
+{
+    const std::string before = ReadBytes(header).value_or("");
+    if (before.compare(0, std::strlen(CELLS_HEADER_MARK), CELLS_HEADER_MARK) != 0 && !before.empty())
+        diagnostics.error(
+            {header.string(), 0},
+            "this file was not made by 'ptn build'. Move it away, or name another place for the "
+            "constants with --header.");
+}
+
 } // namespace
 
-std::optional<OutputReport> Build(const fs::path& source, const fs::path& output, Diagnostics& diagnostics)
+fs::path DefaultHeader(const fs::path& output)
+{
+    return FolderPath(output).parent_path() / "cells.h";
+}
+
+std::optional<OutputReport> Build(const fs::path& source, const fs::path& output, const fs::path& header,
+                                  Diagnostics& diagnostics)
 {
     const fs::path folder = FolderPath(output);
     std::error_code missing;
@@ -72,10 +91,14 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
         project.profile.bytes(folder.parent_path().string(), folder.filename().string(), project.resources,
                               ReadBytes(profile).value_or(""), diagnostics);
     CheckTablePlace(project, folder, diagnostics);
+    CheckHeaderPlace(header, diagnostics);
     if (diagnostics.failed())
         return std::nullopt;
+    std::optional<LooseFile> constants;
+    if (!header.empty())
+        constants = {fs::absolute(header), CellsHeader(project, patterns)};
     return WriteOutput(folder, MadeFiles(project, patterns), SectionFiles(project, ProjectFile::Seed),
-                       profile, profileBytes);
+                       {profile, profileBytes}, constants);
 }
 
 } // namespace ptn

@@ -12,10 +12,15 @@ namespace ptn
 
 /// Builds `source` into the project directory `output` and the profile beside it. With any error, nothing
 /// is changed.
+/// @param header  where the constants for the program go (compiled/CellsHeader.h); empty for nowhere. A file
+///                that this tool has not made is not replaced, which is an error
 /// @return what has changed; none after an error, which is in `diagnostics`
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing is changed then
 /// either.
 std::optional<OutputReport> Build(const std::filesystem::path& source, const std::filesystem::path& output,
-                                  Diagnostics& diagnostics);
+                                  const std::filesystem::path& header, Diagnostics& diagnostics);
+
+/// Where the constants go unless somebody names another place: beside the profile.
+std::filesystem::path DefaultHeader(const std::filesystem::path& output);
 
 } // namespace ptn

@@ -107,12 +107,13 @@ int Staging::moveIn()
 }
 
 OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const FileMap& seeds,
-                         const fs::path& profile, const std::string& profileBytes)
+                         const LooseFile& profile, const std::optional<LooseFile>& header)
 {
     const SignalsLater uninterrupted;
     const fs::path place = fs::weakly_canonical(folder); // it may be a link
     Staging project(place);
-    Staging beside(profile.parent_path());
+    Staging beside(profile.path.parent_path());
+    std::optional<Staging> elsewhere;
 
     std::string list;
     for (const auto& file : files) {
@@ -130,13 +131,19 @@ OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const Fil
     }
     if (!seedList.empty())
         project.add(SEED_LIST_NAME, seedList);
-    beside.add(profile.filename().string(), profileBytes);
+    beside.add(profile.path.filename().string(), profile.bytes);
+    if (header) {
+        elsewhere.emplace(header->path.parent_path());
+        elsewhere->add(header->path.filename().string(), header->bytes);
+    }
 
     const std::string before = ReadBytes(place / LIST_NAME).value_or("");
     OutputReport report;
     // And the lists, and the profile.
     report.files = static_cast<int>(files.size() + seeds.size()) + (seedList.empty() ? 2 : 3);
     report.written = project.moveIn() + beside.moveIn();
+    if (elsewhere)
+        elsewhere->moveIn();
     report.removed = RemoveOld(place, before, files);
     return report;
 }

@@ -5,6 +5,7 @@
 #include "tools/ptn/system/TemporaryFolder.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,7 +48,13 @@ class Staging
     std::vector<std::string> names_;
 };
 
-/// What a build has changed.
+/// A file outside of the project directory.
+struct LooseFile {
+    std::filesystem::path path;
+    std::string bytes;
+};
+
+/// What a build has changed of the project directory and the profile.
 struct OutputReport {
     int files = 0; ///< that the build consists of
     int written = 0;
@@ -60,9 +67,10 @@ struct OutputReport {
 /// @param seeds  files that the program goes on writing: they are written when they are missing or when
 ///               they have changed since the build that wrote them last; what the program has made of them
 ///               stays otherwise
+/// @param header  the constants for the program, when they are wanted
 /// A signal to end that arrives meanwhile has its effect afterwards.
 /// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
 OutputReport WriteOutput(const std::filesystem::path& folder, const FileMap& files, const FileMap& seeds,
-                         const std::filesystem::path& profile, const std::string& profileBytes);
+                         const LooseFile& profile, const std::optional<LooseFile>& header);
 
 } // namespace ptn

@@ -59,7 +59,7 @@ int CompareBuild(const fs::path& project, const fs::path& sources, Diagnostics& 
     const TemporaryFolder temporary("ptn-");
     const fs::path built = temporary.path() / project.filename();
     Diagnostics found;
-    Build(sources, built, found);
+    Build(sources, built, "", found);
     if (found.failed()) {
         diagnostics.warning({sources.string(), 0}, "these sources need work before they build:");
         diagnostics.add(found);

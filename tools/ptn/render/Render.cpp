@@ -70,7 +70,7 @@ Stage::Stage(const RenderJob& job, Diagnostics& diagnostics)
     if (IsCompiled(job.project)) {
         link(fs::absolute(job.project));
     } else {
-        Build(job.project, project, diagnostics);
+        Build(job.project, project, "", diagnostics);
         if (diagnostics.failed())
             return;
     }

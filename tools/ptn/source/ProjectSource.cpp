@@ -1,7 +1,9 @@
 #include "tools/ptn/source/ProjectSource.h"
 
 #include "base/EucText.h"
+#include "tools/ptn/common/Identifier.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace ptn
@@ -9,8 +11,35 @@ namespace ptn
 
 namespace fs = std::filesystem;
 
-std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Place& place,
-                                                 Diagnostics& diagnostics)
+void KnownPatterns::addLine(const std::string& line)
+{
+    for (std::size_t at = line.find('"'); at != std::string::npos; at = line.find('"', at + 1)) {
+        const std::size_t end = line.find('"', at + 1);
+        if (end == std::string::npos)
+            break;
+        texts_.insert(Utf8ToEuc(line.substr(at + 1, end - at - 1)));
+        at = end;
+    }
+    const std::string scope = "screen::";
+    for (std::size_t at = line.find(scope); at != std::string::npos; at = line.find(scope, at)) {
+        at += scope.size();
+        const auto isPart = [](char byte) { return (byte & 0x80) || std::isalnum(byte) || byte == '_'; };
+        const auto begin = line.begin() + static_cast<std::ptrdiff_t>(at);
+        constants_.emplace(begin, std::find_if_not(begin, line.end(), isPart));
+    }
+}
+
+std::size_t KnownPatterns::count(const std::string& name) const
+{
+    const std::string utf8 = EucToUtf8(name);
+    const bool known = texts_.count(name) ||
+                       std::any_of(constants_.begin(), constants_.end(), [&](const std::string& constant) {
+                           return IsIdentifierOf(constant, utf8);
+                       });
+    return known ? 1 : 0;
+}
+
+std::optional<KnownPatterns> QuotedTexts(const fs::path& path, const Place& place, Diagnostics& diagnostics)
 {
     std::vector<fs::path> files = {path};
     std::error_code missing;
@@ -20,7 +49,7 @@ std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Pla
             if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h")
                 files.push_back(entry.path());
     }
-    std::set<std::string> texts;
+    KnownPatterns known;
     for (const fs::path& file : files) {
         const std::optional<std::string> source = ReadBytes(file);
         if (!source) {
@@ -31,17 +60,10 @@ std::optional<std::set<std::string>> QuotedTexts(const fs::path& path, const Pla
             return std::nullopt;
         }
         std::istringstream lines(*source);
-        for (std::string line; std::getline(lines, line);) {
-            for (std::size_t at = line.find('"'); at != std::string::npos; at = line.find('"', at + 1)) {
-                const std::size_t end = line.find('"', at + 1);
-                if (end == std::string::npos)
-                    break;
-                texts.insert(Utf8ToEuc(line.substr(at + 1, end - at - 1)));
-                at = end;
-            }
-        }
+        for (std::string line; std::getline(lines, line);)
+            known.addLine(line);
     }
-    return texts;
+    return known;
 }
 
 } // namespace ptn

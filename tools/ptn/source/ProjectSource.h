@@ -20,6 +20,21 @@
 namespace ptn
 {
 
+/// The patterns that a program knows, as far as its C++ sources tell.
+class KnownPatterns
+{
+  public:
+    /// Takes what a line of the sources names: texts in quotes, and constants such as screen::Main.
+    void addLine(const std::string& line);
+
+    /// 1 when a pattern of that name, in EUC-JP, is among them, else 0.
+    std::size_t count(const std::string& name) const;
+
+  private:
+    std::set<std::string> texts_; ///< EUC-JP
+    std::set<std::string> constants_;
+};
+
 struct ProjectSource {
     std::string program = "panel"; ///< the profile is called after it
     CodeTable codes;
@@ -31,16 +46,16 @@ struct ProjectSource {
     LimitTable limits;
     FlagTable flags;
     std::map<std::string, std::unique_ptr<OwnSection>> own; ///< of the application, by name of the section
-    std::optional<std::set<std::string>> registry; ///< patterns that the program knows; none when not told
-    FileMap bitmaps;                               ///< by EUC-JP name
+    std::optional<KnownPatterns> registry;                  ///< none when not told
+    FileMap bitmaps;                                        ///< by EUC-JP name
 
     /// What the values of attributes may name; refers to this.
     Vocabulary vocabulary() const { return {resources, messages.names()}; }
 };
 
-/// The texts in quotes of a C++ source file, or of all those of a folder, in EUC-JP: the patterns that a
-/// program knows by name are among them. None, with an error reported, when it can not be read.
-std::optional<std::set<std::string>> QuotedTexts(const std::filesystem::path& path, const Place& place,
-                                                 Diagnostics& diagnostics);
+/// What a C++ source file, or all those of a folder, name. None, with an error reported, when it can not be
+/// read.
+std::optional<KnownPatterns> QuotedTexts(const std::filesystem::path& path, const Place& place,
+                                         Diagnostics& diagnostics);
 
 } // namespace ptn

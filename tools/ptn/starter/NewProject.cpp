@@ -1,6 +1,7 @@
 #include "tools/ptn/starter/NewProject.h"
 
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/common/Identifier.h"
 
 namespace ptn
 {
@@ -44,6 +45,7 @@ bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
     for (const EmbeddedFile& file : StarterFiles()) {
         std::string text(file.bytes);
         Replace(text, "@NAME@", name);
+        Replace(text, "@NAMESPACE@", Identifier(name));
         Replace(text, "@VERSION@", TESSARY_VERSION);
         fs::create_directories((place / file.name).parent_path());
         WriteBytes(place / file.name, text);

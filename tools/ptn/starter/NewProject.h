@@ -10,7 +10,7 @@ namespace ptn
 {
 
 /// The files of the starting project: sources of three screens, a program that shows them, and its build.
-/// "@NAME@" and "@VERSION@" (of Tessary) in them are to be filled in.
+/// "@NAME@", "@NAMESPACE@" (of its "cells.h") and "@VERSION@" (of Tessary) in them are to be filled in.
 const std::vector<EmbeddedFile>& StarterFiles();
 
 /// Writes the project into a new folder, whose name becomes that of the program.

@@ -1,26 +1,24 @@
 // Which window class shows which screen, and what the program does on its own.
+#include "cells.h" // made by the build: the cells and screens of project.yaml and screens/
+
 #include <tessary/tessary.h>
 
 #include <cstring>
 
+using namespace @NAMESPACE@;
+
 namespace
 {
 
-constexpr const char* SCREENS[] = {"Main", "States", "Stop"};
-
-// Cells, as project.yaml numbers them.
-constexpr int SPEED = 100;
-constexpr int SETPOINT = 101;
-constexpr int FIRST_PUMP = 102;
-constexpr int PUMP_COUNT = 4;
+constexpr const char* SCREENS[] = {screen::Main, screen::States, screen::Stop};
 
 } // namespace
 
 // A screen that needs code of its own gets a class derived from CPtrnDisp here.
 CPtrnDisp* GetPtrnWnd(const char* name)
 {
-    for (const char* screen : SCREENS)
-        if (std::strcmp(screen, name) == 0)
+    for (const char* known : SCREENS)
+        if (std::strcmp(known, name) == 0)
             return new CPtrnDisp;
     return nullptr;
 }
@@ -42,5 +40,5 @@ void UserTimr()
         Set_iData(SPEED, speed + (speed < setpoint ? 1 : -1), nullptr, 0);
     static int ticks = 0;
     if (++ticks % 20 == 0)
-        Set_wData(FIRST_PUMP + ticks / 20 % PUMP_COUNT, static_cast<WORD>(ticks / 80 % 4), nullptr, 0);
+        Set_wData(PUMP + ticks / 20 % count::PUMP, static_cast<WORD>(ticks / 80 % 4), nullptr, 0);
 }
