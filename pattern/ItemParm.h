@@ -57,6 +57,7 @@ enum HedrParm {
     HEDR_MODELESS = 26, ///< of a child window: 0 blocks the parent's items
     HEDR_EDIT_COLOR = 27,
     HEDR_EDIT_BACK = 28,
+    HEDR_CLASS = 29, ///< ready-made screen class, see pattern/ScreenClass.h; for programs without classes
 };
 
 } // namespace tessary

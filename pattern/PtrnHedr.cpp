@@ -1,6 +1,7 @@
 #include "pattern/PtrnHedr.h"
 
 #include "base/EucText.h"
+#include "config/FileCntl.h"
 
 #include <cstring>
 #include <string>
@@ -35,6 +36,20 @@ PTRNHEDR ConvertHedr(const HEDRFILE& record, int* cut)
     if (cut)
         *cut += longer;
     return header;
+}
+
+int ReadHedr(const char* name, PTRNHEDR* out)
+{
+    const std::string fileName = std::string(name ? name : "") + ".ptn";
+    const int size = FileSize(ProjPath, fileName.c_str());
+    if (size < 1)
+        return 0;
+    HEDRFILE record;
+    if (FileRead(ProjPath, fileName.c_str(), &record, sizeof record, 0, nullptr, 0) != 1 &&
+        size >= static_cast<int>(sizeof record))
+        return 0;
+    *out = ConvertHedr(record);
+    return 1;
 }
 
 } // namespace tessary

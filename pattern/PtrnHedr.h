@@ -19,4 +19,10 @@ template <typename Text> const Text& InLanguage(const Text& first, const Text& s
 /// @param cut  when given, grows by one for each text that had to be cut
 PTRNHEDR ConvertHedr(const HEDRFILE& record, int* cut = nullptr);
 
+/// Reads the header of a pattern of the project. Of a file that ends within its header nothing but zeros is
+/// taken.
+/// @param name  pattern name; null counts as empty
+/// @return 1, or 0 when it can not be read
+int ReadHedr(const char* name, PTRNHEDR* out);
+
 } // namespace tessary

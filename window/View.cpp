@@ -4,8 +4,6 @@
 #include "comndata/ItemState.h"
 #include "comndata/PtrnCode.h"
 #include "config/Edition.h"
-#include "config/FileCntl.h"
-#include "config/Settings.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemCell.h"
@@ -109,17 +107,7 @@ PTRNHEDR CPtrnDisp::PtrnReadHedr()
 
 int CPtrnDisp::PtrnReadHedr(const char* name, PTRNHEDR* out)
 {
-    const std::string fileName = std::string(name ? name : "") + ".ptn";
-    const int size = FileSize(ProjPath, fileName.c_str());
-    if (size < 1)
-        return 0;
-    // Of a file that ends within its header nothing but zeros is taken.
-    HEDRFILE record;
-    if (FileRead(ProjPath, fileName.c_str(), &record, sizeof record, 0, nullptr, 0) != 1 &&
-        size >= static_cast<int>(sizeof record))
-        return 0;
-    *out = ConvertHedr(record);
-    return 1;
+    return ReadHedr(name, out);
 }
 
 int CPtrnDisp::PtrnReadData(int dataNo, int type, PTRNDATA* out)

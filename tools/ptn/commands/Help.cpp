@@ -3,6 +3,7 @@
 #include "pattern/ActionTable.h"
 #include "pattern/ItemTable.h"
 #include "pattern/RealParm.h"
+#include "pattern/ScreenClass.h"
 #include "tools/ptn/commands/Command.h"
 #include "tools/ptn/common/Framework.h"
 
@@ -137,6 +138,14 @@ void PrintItem(const ItemClass& item, std::ostream& out)
     PrintTable(CommonParms(), out);
 }
 
+void PrintClasses(std::ostream& out)
+{
+    out << "\nBeside 'window' a screen may have 'class', a ready-made class for programs without classes of\n"
+           "their own (tessary-panel):\n";
+    for (const ScreenClass& one : ScreenClasses())
+        out << "  " << std::left << std::setw(16) << one.name << one.help << "\n";
+}
+
 // The attributes of an item type or of "window"; without a name all types, actions and how to go on.
 // Returns false when there is no such type.
 bool PrintAttributes(const std::string& type, std::ostream& out)
@@ -146,6 +155,7 @@ bool PrintAttributes(const std::string& type, std::ostream& out)
                "  size, at        [width, height] and, when it is not at the origin, [left, top]\n"
                "  parm, parm2     { index: value }; ten numbers for the application\n";
         PrintTable(HeaderParms(), out);
+        PrintClasses(out);
         return true;
     }
     if (!type.empty()) {

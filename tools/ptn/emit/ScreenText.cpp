@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
+#include "pattern/ScreenClass.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/emit/ParmText.h"
 #include "tools/ptn/source/Placement.h"
@@ -22,6 +23,13 @@ namespace
 const std::set<int> CORNERS = {PARM_X1, PARM_Y1, PARM_X2, PARM_Y2};
 /// What "size" and "at" of a window say.
 const std::set<int> WINDOW_PLACE = {HEDR_WIDTH, HEDR_HEIGHT, HEDR_LEFT, HEDR_TOP};
+
+/// The ready-made class that a header names; null when there is none, or nothing to say of it.
+const ScreenClass* ClassOf(const HEDRFILE& header)
+{
+    const int number = header.Parm1[HEDR_CLASS];
+    return number == SCREEN_PLAIN ? nullptr : FindScreenClass(number);
+}
 
 Parms ToParms(const std::int32_t* values)
 {
@@ -219,7 +227,9 @@ std::string WindowText(const Pattern& pattern, const ProjectSource& project, con
 {
     const auto styled = defaults.find("window");
     const Parms before = styled != defaults.end() ? styled->second : InitialParms({HeaderParms()});
-    const Parms wanted = ToParms(pattern.header.Parm1);
+    Parms wanted = ToParms(pattern.header.Parm1);
+    if (ClassOf(pattern.header)) // which "class" says
+        wanted.at(HEDR_CLASS) = before.at(HEDR_CLASS);
     std::string text;
     const auto pair = [&](const char* name, std::size_t first, int lowest) {
         const bool same =
@@ -267,6 +277,8 @@ std::string HeaderText(const Pattern& pattern, const ProjectSource& project, con
     };
     bitmap("logo", FieldOf(header.LogoName), SIZE_LOGONAME);
     bitmap("background", FieldOf(header.BmapName), SIZE_BMAPNAME);
+    if (const ScreenClass* screenClass = ClassOf(header))
+        text += "class: " + YamlScalar(screenClass->name) + "\n";
     return text + WindowText(pattern, project, defaults);
 }
 

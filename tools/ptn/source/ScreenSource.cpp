@@ -4,6 +4,7 @@
 #include "base/Limits.h"
 #include "pattern/ActionTable.h"
 #include "pattern/ItemParm.h"
+#include "pattern/ScreenClass.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/Names.h"
@@ -25,8 +26,8 @@ namespace
 /// Nothing interprets it when a pattern is loaded; it tells which tool wrote the file.
 constexpr int PATTERN_VERSION = 1;
 
-const std::vector<std::string> SCREEN_KEYS = {"name",   "title",  "logo",  "background", "window",
-                                              "styles", "groups", "items", "exact"};
+const std::vector<std::string> SCREEN_KEYS = {"name",   "title",  "logo",   "background", "class",
+                                              "window", "styles", "groups", "items",      "exact"};
 
 class ScreenReader
 {
@@ -45,6 +46,7 @@ class ScreenReader
     void readTitle(const Entry& entry);
     template <std::size_t N> void readBitmap(char (&field)[N], const Entry& entry);
     void readWindow(const Source& source);
+    void readClass(const Entry& entry);
     void readParm2(const Source& source);
 
     const ProjectSource& project_;
@@ -81,6 +83,8 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
         readBitmap(pattern_.header.BmapName, parts["background"]);
     styles_.read(part("styles"), diagnostics_);
     readWindow(part("window"));
+    if (parts.count("class"))
+        readClass(parts["class"]);
     groups_.read(part("groups"), diagnostics_);
     pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, diagnostics_});
     if (parts.count("exact"))
@@ -162,6 +166,25 @@ void ScreenReader::readWindow(const Source& source)
             diagnostics_.error(source.place(), label,
                                " has a side of {} pixels. Write a 'size' from 1 to {}.",
                                pattern_.header.Parm1[side], COORDINATE_MAX);
+}
+
+void ScreenReader::readClass(const Entry& entry)
+{
+    const auto name = Text(entry.value, "'class'", diagnostics_);
+    if (!name)
+        return;
+    if (const ScreenClass* found = FindScreenClass(name->c_str())) {
+        pattern_.header.Parm1[HEDR_CLASS] = found->number;
+        return;
+    }
+    std::vector<std::string> names;
+    std::string list;
+    for (const ScreenClass& one : ScreenClasses()) {
+        list += (names.empty() ? "" : ", ") + std::string(one.name);
+        names.push_back(one.name);
+    }
+    diagnostics_.error(entry.place, fmt::format("no class '{}'.{} The ready-made classes are: {}.", *name,
+                                                Suggestion(*name, names), list));
 }
 
 void ScreenReader::readParm2(const Source& source)
