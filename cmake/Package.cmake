@@ -7,6 +7,7 @@ set(PACKAGE_FOLDER ${CMAKE_INSTALL_LIBDIR}/cmake/Tessary)
 
 install(TARGETS tessary tessary_main EXPORT TessaryTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS ptn EXPORT TessaryTargets)
+install(TARGETS tessary_panel)
 install(FILES ${PROJECT_SOURCE_DIR}/tools/ptn/completion.bash RENAME ptn
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/include/tessary DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

@@ -18,7 +18,9 @@ std::string ProgramName(const char* path)
     return name.substr(name.rfind('/') + 1);
 }
 
-constexpr char HELP[] = R"(Usage: %s [--help] [--version] [--display DISPLAY]
+} // namespace
+
+const char* const PANEL_HELP = R"([--help] [--version] [--display DISPLAY]
 
 Shows an operator panel. Its profile, which names the project, has the program's name with the extension
 "ini" and lies beside the program.
@@ -34,14 +36,12 @@ Status: 0 after such an end and after a stop by the operator; 1 when the display
 profile asks for an edition that this version does not know. What stops a start is told on standard error.
 )";
 
-} // namespace
-
-bool AnswerOption(int argc, char** argv)
+bool AnswerOption(int argc, char** argv, const char* help)
 {
     for (int i = 1; i < argc; ++i) {
         const std::string option = argv[i];
         if (option == "--help") {
-            std::printf(HELP, ProgramName(argv[0]).c_str());
+            std::printf("Usage: %s %s", ProgramName(argv[0]).c_str(), help);
             return true;
         }
         if (option == "--version") {

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-enum class Group { framework, sample, tool, registration, tests };
+enum class Group { framework, program, sample, tool, registration, tests };
 
 /// A folder, or a file, and its place in the order.
 struct Area {
@@ -33,6 +33,7 @@ constexpr Area AREAS[] = {
     {"dialogs", Group::framework, 7, true},
     {"shell", Group::framework, 8, true},
     {"tessary.h", Group::framework, 9},
+    {"program", Group::program, 0},
     {"app", Group::sample, 0},
     {"app/ptn", Group::registration, 0}, // the sample's own part of the tool
     {"tools/ptn/system", Group::tool, 0},
@@ -76,6 +77,7 @@ bool mayInclude(const Area& from, const Area& to)
     switch (from.group) {
     case Group::framework:
         return false;
+    case Group::program:
     case Group::sample:
     case Group::tool:
         return to.group == Group::framework;

@@ -137,6 +137,17 @@ TEST_F(Install, has_what_a_new_project_finds_and_its_program_runs)
     EXPECT_EQ(windows[0].height, 480);
 }
 
+TEST_F(Install, has_a_program_for_projects_without_code)
+{
+    expectRuns("moved/bin/ptn build plant shown/ProjPath");
+    XDriver driver;
+    Program panel(root() + "/moved/bin/tessary-panel", "tessary-panel", {"shown"});
+    driver.waitFor([&] { return panel.status() || !driver.windows().empty(); },
+                   "the program to show a window");
+    EXPECT_EQ(panel.status(), std::nullopt) << panel.output();
+    EXPECT_THAT(driver.windows(), SizeIs(1));
+}
+
 TEST_F(Install, has_what_pkg_config_finds)
 {
     expectRuns("moved/bin/ptn build plant by-hand/ProjPath");
@@ -171,7 +182,7 @@ TEST_F(Install, holds_no_place_and_no_flags_of_its_build)
 {
     int texts = 0;
     for (const fs::path& file : files("moved")) {
-        if (file.extension() == ".a" || file == "moved/bin/ptn")
+        if (file.extension() == ".a" || file.parent_path() == "moved/bin")
             continue;
         ++texts;
         const std::string text = readFile(file.string());
@@ -186,6 +197,8 @@ TEST_F(Install, holds_no_place_and_no_flags_of_its_build)
 TEST_F(Install, has_one_version)
 {
     EXPECT_EQ(expectRuns("moved/bin/ptn --version"), TESSARY_VERSION "\n");
+    EXPECT_EQ(expectRuns("moved/bin/tessary-panel --version"),
+              "tessary-panel (Tessary) " TESSARY_VERSION "\n");
     EXPECT_EQ(expectRuns("pkg-config --modversion tessary"), TESSARY_VERSION "\n");
     EXPECT_THAT(readFile(fileCalled("TessaryConfigVersion.cmake").string()),
                 HasSubstr("set(PACKAGE_VERSION \"" TESSARY_VERSION "\")"));
