@@ -6,6 +6,7 @@
 #include "pattern/ScreenClass.h"
 #include "tools/ptn/commands/Command.h"
 #include "tools/ptn/common/Framework.h"
+#include "tools/ptn/common/Names.h"
 
 #include <fmt/core.h>
 #include <iomanip>
@@ -19,6 +20,10 @@ namespace ptn
 
 namespace
 {
+
+constexpr const char* ATTRIBUTES = "attributes"; ///< topics of the help
+constexpr const char* EDITIONS = "editions";
+constexpr const char* WINDOW = "window"; ///< beside the types of items
 
 std::string Range(const ParmSchema& parm)
 {
@@ -150,7 +155,7 @@ void PrintClasses(std::ostream& out)
 // Returns false when there is no such type.
 bool PrintAttributes(const std::string& type, std::ostream& out)
 {
-    if (type == "window") {
+    if (type == WINDOW) {
         out << "window: the window of a screen\n\n"
                "  size, at        [width, height] and, when it is not at the origin, [left, top]\n"
                "  parm, parm2     { index: value }; ten numbers for the application\n";
@@ -221,6 +226,9 @@ class HelpCommand : public Command
     int run() override;
 
   private:
+    std::vector<std::string> words() const;
+    int explainAttributes(const std::string& type) const;
+
     const CLI::App* program_ = nullptr;
     std::string topic_;
     std::string type_;
@@ -240,18 +248,41 @@ int HelpCommand::run()
                                                           CLI::AppFormatMode::Normal);
         return 0;
     }
+    if (topic_ != ATTRIBUTES && !type_.empty()) {
+        std::cerr << "ptn: '" << type_ << "' is one word too many. Write 'ptn help " << topic_ << "'"
+                  << (FindItemClass(type_.c_str()) ? " or 'ptn help attributes " + type_ + "'" : "") << ".\n";
+        return 1;
+    }
     if (const CLI::App* command = FindCommand(*program_, topic_)) {
         std::cout << command->help(program_->get_name());
         return 0;
     }
-    if (topic_ == "editions") {
+    if (topic_ == EDITIONS) {
         PrintEditions(std::cout);
         return 0;
     }
-    const std::string type = topic_ == "attributes" ? type_ : topic_;
+    return explainAttributes(topic_ == ATTRIBUTES ? type_ : topic_);
+}
+
+// What help can be asked about.
+std::vector<std::string> HelpCommand::words() const
+{
+    std::vector<std::string> words = {WINDOW};
+    for (const ItemClass& item : ItemClasses())
+        words.push_back(item.name);
+    if (topic_ == ATTRIBUTES)
+        return words;
+    words.insert(words.end(), {ATTRIBUTES, EDITIONS});
+    for (const CLI::App* command : program_->get_subcommands({}))
+        words.push_back(command->get_name());
+    return words;
+}
+
+int HelpCommand::explainAttributes(const std::string& type) const
+{
     if (PrintAttributes(type, std::cout))
         return 0;
-    std::cerr << "ptn: no type '" << type << "'. The types are:\n";
+    std::cerr << "ptn: no type '" << type << "'." << Suggestion(type, words()) << " The types are:\n";
     PrintAttributes("", std::cerr);
     return 1;
 }

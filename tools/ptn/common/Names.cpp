@@ -8,6 +8,15 @@ namespace ptn
 namespace
 {
 
+// What is small or capital in ASCII is mixed up easily, and counts as alike.
+std::string InSmallLetters(std::string name)
+{
+    for (char& byte : name)
+        if (byte >= 'A' && byte <= 'Z')
+            byte = static_cast<char>(byte - 'A' + 'a');
+    return name;
+}
+
 // Bytes to insert, remove, replace or swap with their neighbour to get from one name to the other.
 std::size_t EditDistance(const std::string& a, const std::string& b)
 {
@@ -27,13 +36,13 @@ std::size_t EditDistance(const std::string& a, const std::string& b)
     return rows[a.size()][b.size()];
 }
 
-// The candidate that the name is short for; null when there is none or more than one.
+// The candidate that the name, in small letters, is short for; null when there is none or more than one.
 const std::string* OnlyLongForm(const std::string& name, const std::vector<std::string>& candidates)
 {
     constexpr std::size_t shortest = 3;
     const std::string* found = nullptr;
     for (const std::string& candidate : candidates) {
-        if (name.size() < shortest || candidate.compare(0, name.size(), name) != 0)
+        if (name.size() < shortest || InSmallLetters(candidate).compare(0, name.size(), name) != 0)
             continue;
         if (found)
             return nullptr;
@@ -52,15 +61,16 @@ std::string Suggestion(const std::string& name, const std::vector<std::string>& 
         return "";
     std::size_t closest = std::max<std::size_t>(1, name.size() / 3) + 1;
     const std::string* best = nullptr;
+    const std::string small = InSmallLetters(name);
     for (const std::string& candidate : candidates) {
-        const std::size_t distance = EditDistance(name, candidate);
+        const std::size_t distance = EditDistance(small, InSmallLetters(candidate));
         if (distance < closest) {
             closest = distance;
             best = &candidate;
         }
     }
     if (!best)
-        best = OnlyLongForm(name, candidates);
+        best = OnlyLongForm(small, candidates);
     return best ? " Did you mean " + Quoted(*best) + "?" : "";
 }
 

@@ -11,7 +11,7 @@ namespace ptn
 std::string Quoted(const std::string& name);
 
 /// " Did you mean 'x'?" with the candidate that is closest to `name` or the only one that it is short for, or
-/// nothing when there is none.
+/// nothing when there is none. Small and capital letters count as alike.
 std::string Suggestion(const std::string& name, const std::vector<std::string>& candidates);
 
 } // namespace ptn
