@@ -3,12 +3,15 @@
 #include "tests/support/Program.h"
 #include "tests/support/Project.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <ostream>
 
 namespace
 {
+
+namespace fs = std::filesystem;
 
 using testing::HasSubstr;
 
@@ -68,6 +71,39 @@ const Mistake NAMES[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Names, MistakeIn, testing::ValuesIn(NAMES), NameOf);
+
+// --- files ---------------------------------------------------------------------------------------------
+
+const Mistake FILES[] = {
+    {"second_document", "screens/stop.yaml", "items:", "---\nitems:",
+     "src/screens/stop.yaml:4: a second document begins before this line, with '---', and would not be "
+     "read. "},
+    {"second_document_of_the_project", "look.yaml",
+     "styles:", "---\nstyles:", "src/look.yaml:3: a second document begins before this line, "},
+    {"yml", "screens/tank.yml", "", "name: Tank\n",
+     "src/screens/tank.yml: warning: this file is not read: sources end in '.yaml'. Rename it, "},
+    {"capital_yaml", "more.YAML", "", "flags: {}\n",
+     "src/more.YAML: warning: this file is not read: sources end in '.yaml'. Rename it, "},
+    {"not_utf8", "screens/main.yaml", "title: Plant", "title: \xBB\xAE\xC8\xF7",
+     "src/screens/main.yaml:2: not UTF-8: the byte BB in this line is no character of it. Save the file as "
+     "UTF-8."},
+    {"utf16", "more.yaml", "",
+     "\xFF\xFE"
+     "f",
+     "src/more.yaml:1: not UTF-8: the byte FF in this line "},
+};
+
+INSTANTIATE_TEST_SUITE_P(Files, MistakeIn, testing::ValuesIn(FILES), NameOf);
+
+TEST(Mistakes, in_the_folder_of_screens_are_named)
+{
+    const Plant plant;
+    fs::remove_all(plant.root() + "/src/screens");
+    writeFile(plant.root() + "/src/screens", "");
+    EXPECT_THAT(
+        plant.run("check src").err,
+        HasSubstr("src/screens: this folder can not be read: Not a directory. Check that it is a folder, "));
+}
 
 // --- words on the command line -------------------------------------------------------------------------
 

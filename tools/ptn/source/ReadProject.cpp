@@ -32,6 +32,7 @@ std::map<std::string, Entry> ReadSections(const fs::path& folder, Diagnostics& d
     if (files.empty())
         diagnostics.error({folder.string(), 0},
                           "this folder has no *.yaml file. Name the folder of the sources.");
+    CheckYamlNames(folder, diagnostics);
     for (const std::string& file : files) {
         const std::optional<Source> source = ReadYaml(file, diagnostics);
         if (!source)
@@ -56,6 +57,7 @@ std::map<std::string, Entry> ReadSections(const fs::path& folder, Diagnostics& d
 FileMap Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
 {
     FileMap bitmaps;
+    CheckReadable(folder, diagnostics);
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(folder, missing)) {
         const std::string name = entry.path().filename().string();
@@ -64,7 +66,9 @@ FileMap Bitmaps(const fs::path& folder, Diagnostics& diagnostics)
         const Place place{entry.path().string(), 0};
         const std::optional<std::string> bytes = ReadBytes(entry.path());
         if (!bytes)
-            diagnostics.error(place, "not a file that can be read. Move it out of the folder.");
+            diagnostics.error(place, fs::is_regular_file(entry.path(), missing)
+                                         ? WhyUnread(entry.path())
+                                         : "not a file that can be read. Move it out of the folder.");
         else if (const auto euc = ToEucFileName(name, SIZE_PTRNTEXT, "the file's name", place, diagnostics))
             bitmaps.emplace(*euc, *bytes);
     }

@@ -248,6 +248,8 @@ ScreenSet ReadScreens(const std::filesystem::path& folder, const ProjectSource& 
                       Diagnostics& diagnostics)
 {
     ScreenSet screens;
+    CheckReadable(folder / "screens", diagnostics);
+    CheckYamlNames(folder / "screens", diagnostics);
     for (const std::string& file : YamlFiles(folder / "screens")) {
         std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics);
         if (pattern)

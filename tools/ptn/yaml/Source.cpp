@@ -1,6 +1,5 @@
 #include "tools/ptn/yaml/Source.h"
 
-#include "tools/ptn/common/Files.h"
 #include "tools/ptn/common/Names.h"
 
 #include <algorithm>
@@ -35,23 +34,6 @@ std::optional<Placeholder> NextPlaceholder(const std::string& text, std::size_t 
             return Placeholder{at, end + (braces ? 1 : 0) - at, text.substr(begin, end - begin)};
     }
     return std::nullopt;
-}
-
-// What mostly is behind a message of the YAML reader, which knows only what it had expected.
-const char* YamlRemedy(const std::string& problem, const std::string& text)
-{
-    const auto has = [&](const char* part) { return problem.find(part) != std::string::npos; };
-    if (text.find("\n\t") != std::string::npos || text.compare(0, 1, "\t") == 0)
-        return "Indent with blanks, not with tabs.";
-    if (has("flow"))
-        return "Look for a missing ',', '}', ']' or quote; a text with '#' or ': ' in it needs quotes.";
-    if (has("unknown token"))
-        return "A text that begins with '@', '%' or '`' needs quotes.";
-    if (has("illegal map value"))
-        return "A text with ': ' in it needs quotes.";
-    if (has("alias") || has("anchor"))
-        return "A text that begins with '*' or '&' needs quotes.";
-    return "Look at this line and the one before it; what belongs together is indented alike.";
 }
 
 } // namespace
@@ -138,28 +120,6 @@ std::vector<Source> Source::members() const
         for (const YAML::Node& node : node_)
             members.push_back(child(node));
     return members;
-}
-
-std::optional<Source> ReadYaml(const std::string& file, Diagnostics& diagnostics)
-{
-    const std::optional<std::string> bytes = ReadBytes(file);
-    if (!bytes) {
-        diagnostics.error({file, 0}, "can not be read. Check that the file is there and readable.");
-        return std::nullopt;
-    }
-    return ParseYaml(file, *bytes, diagnostics);
-}
-
-std::optional<Source> ParseYaml(const std::string& file, const std::string& text, Diagnostics& diagnostics)
-{
-    try {
-        return Source(std::make_shared<const std::string>(file), YAML::Load(text));
-    } catch (const YAML::Exception& problem) {
-        // Without a position the mark's line is -1.
-        diagnostics.error({file, problem.mark.line + 1},
-                          fmt::format("not valid YAML: {}. {}", problem.msg, YamlRemedy(problem.msg, text)));
-        return std::nullopt;
-    }
 }
 
 std::vector<Entry> Entries(const Source& source, const Subject& what, Diagnostics& diagnostics)
