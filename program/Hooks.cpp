@@ -7,6 +7,7 @@
 #include "config/Settings.h"
 #include "dialogs/ReadyMadeWnd.h"
 #include "pattern/PtrnHedr.h"
+#include "program/Reload.h"
 #include "shell/Refusal.h"
 #include "window/Registry.h"
 
@@ -46,9 +47,13 @@ CPtrnDisp* GetPtrnWnd(const char* name)
 
 int UserInit()
 {
+    NoteProject();
     return HasStartScreen() ? 1 : 0;
 }
 
 void UserExit() {}
 
-void UserTimr() {}
+void UserTimr()
+{
+    ReloadTimr();
+}

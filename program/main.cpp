@@ -2,6 +2,7 @@
 #include "base/EucText.h"
 #include "program/Hooks.h"
 #include "program/ProjectPlace.h"
+#include "program/Reload.h"
 #include "shell/Options.h"
 #include "shell/Program.h"
 #include "shell/Refusal.h"
@@ -101,6 +102,7 @@ int main(int argc, char** argv)
 {
     if (AnswerOption(argc, argv, HELP))
         return 0;
+    WatchReload();
     g_set_prgname("tessary-panel");
     const std::optional<std::string> screen = TakeScreen(&argc, argv);
     if (!screen)

@@ -81,9 +81,14 @@ void CPtrnDisp::LoadPattern(CPtrnDisp* parent, const char* name, int kind)
     PtrnNo = ConvertPtrn(pattern.c_str());
     PtrnType = kind;
     CopyText(PtrnName, pattern.c_str());
+    TakePattern(pattern.c_str());
+}
 
+/// Loads the pattern of that name in place of the one that is there.
+void CPtrnDisp::TakePattern(const char* name)
+{
     ReleasePattern();
-    PtrnData = new CPtrnData(pattern.c_str());
+    PtrnData = new CPtrnData(name);
     PtrnData->DrawBelow = [this](CDraw* draw) {
         if (DrawArea)
             FillGround(DrawArea, draw);

@@ -28,6 +28,7 @@ enum PtrnKind {
 };
 
 struct WindowOrder;
+struct WindowReload;
 struct WindowSignals;
 class FieldEditor;
 
@@ -210,6 +211,7 @@ class CPtrnDisp
   private:
     friend struct tessary::WindowSignals;
     friend struct tessary::WindowOrder;
+    friend struct tessary::WindowReload;
     friend int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
     friend void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
     /// The one drawing context of the back buffer, which it keeps alive. Shared with the paint or tick that
@@ -226,6 +228,7 @@ class CPtrnDisp
     std::unique_ptr<tessary::FieldEditor> Editor; ///< of corrected entry, while a field is in edit
 
     void LoadPattern(CPtrnDisp* parent, const char* name, int kind);
+    void TakePattern(const char* name);
     void ReleasePattern();
     void PlaceWindow();
     bool InTitle(POINT pt) const;

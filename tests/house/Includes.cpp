@@ -45,6 +45,7 @@ constexpr Area AREAS[] = {
     {"tools/ptn/emit", Group::tool, 5},
     {"tools/ptn/check", Group::tool, 6},
     {"tools/ptn/render", Group::tool, 7, true},
+    {"tools/ptn/run", Group::tool, 8},
     {"tools/ptn/starter", Group::tool, 8},
     {"tools/ptn/starter/files", Group::sample, 0}, // the program of a new project
     {"tools/ptn/commands", Group::tool, 9},

@@ -9,6 +9,7 @@
     LINE(Dump)                                                                                               \
     LINE(Render)                                                                                             \
     LINE(Watch)                                                                                              \
+    LINE(Run)                                                                                                \
     LINE(Help)
 
 namespace ptn

@@ -139,6 +139,7 @@ OutputReport WriteOutput(const fs::path& folder, const FileMap& files, const Fil
 
     const std::string before = ReadBytes(place / LIST_NAME).value_or("");
     OutputReport report;
+    report.profile = profile.path;
     // And the lists, and the profile.
     report.files = static_cast<int>(files.size() + seeds.size()) + (seedList.empty() ? 2 : 3);
     report.written = project.moveIn() + beside.moveIn();

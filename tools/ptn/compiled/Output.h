@@ -59,6 +59,7 @@ struct OutputReport {
     int files = 0; ///< that the build consists of
     int written = 0;
     int removed = 0;
+    std::filesystem::path profile;
 };
 
 /// Brings a project directory and the profile up to date. Files of the build before that are not made any

@@ -1,5 +1,6 @@
 #include "tools/ptn/render/Watch.h"
 
+#include "tools/ptn/common/SourceWatch.h"
 #include "tools/ptn/system/TemporaryFolder.h"
 
 #include <filesystem>
@@ -14,14 +15,6 @@ namespace ptn
 namespace
 {
 
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-template <class T> using Owned = std::unique_ptr<T, Unref>;
-
-/// Editors save in several steps; one picture is made of them.
-constexpr guint SETTLE_MILLISECONDS = 150;
-
 class Watcher
 {
   public:
@@ -33,17 +26,13 @@ class Watcher
     void run();
 
   private:
-    static void onChange(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer self);
-    static gboolean onSettled(gpointer self);
     static void onDrawn(GObject* process, GAsyncResult* result, gpointer self);
-    void watchFolders();
     void draw();
     void show(const std::string& text);
 
     const WatchJob& job_;
     TemporaryFolder folder_{"ptn-"};
-    std::vector<Owned<GFileMonitor>> monitors_;
-    guint settling_ = 0;
+    SourceWatch sources_;
     Owned<GSubprocess> drawing_; ///< makes the picture; null while none is being made
     bool again_ = false;         ///< something was saved meanwhile
     GtkWidget* window_ = nullptr;
@@ -51,7 +40,7 @@ class Watcher
     GtkWidget* text_ = nullptr;
 };
 
-Watcher::Watcher(const WatchJob& job) : job_(job)
+Watcher::Watcher(const WatchJob& job) : job_(job), sources_(job.source, [this] { draw(); })
 {
     window_ = gtk_window_new(GTK_WINDOW_TOPLEVEL);
     gtk_window_set_title(GTK_WINDOW(window_), ("ptn watch " + job.source).c_str());
@@ -75,45 +64,11 @@ Watcher::~Watcher()
         g_subprocess_force_exit(drawing_.get());
 }
 
-/// Anew after each change, since a folder that a project need not have may have been made by it.
-void Watcher::watchFolders()
-{
-    monitors_.clear();
-    for (const char* name : {"", "/screens", "/bitmaps"}) {
-        const Owned<GFile> folder(g_file_new_for_path((job_.source + name).c_str()));
-        if (!g_file_query_exists(folder.get(), nullptr))
-            continue;
-        GFileMonitor* monitor =
-            g_file_monitor_directory(folder.get(), G_FILE_MONITOR_WATCH_MOVES, nullptr, nullptr);
-        if (!monitor)
-            continue;
-        g_signal_connect(monitor, "changed", G_CALLBACK(onChange), this);
-        monitors_.emplace_back(monitor);
-    }
-}
-
 void Watcher::run()
 {
-    watchFolders();
     draw();
     gtk_widget_show(window_);
     gtk_main();
-}
-
-void Watcher::onChange(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer self)
-{
-    auto* watcher = static_cast<Watcher*>(self);
-    if (!watcher->settling_)
-        watcher->settling_ = g_timeout_add(SETTLE_MILLISECONDS, onSettled, watcher);
-}
-
-gboolean Watcher::onSettled(gpointer self)
-{
-    auto* watcher = static_cast<Watcher*>(self);
-    watcher->settling_ = 0;
-    watcher->watchFolders();
-    watcher->draw();
-    return FALSE;
 }
 
 // In a process of its own, which a screen that ends the panel ends instead of the watching. The window goes
