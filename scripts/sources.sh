@@ -11,6 +11,6 @@ sources() {
         git ls-files --cached --others --exclude-standard -- "$@"
     else
         find "$@" -path './build*' -prune -o -path './.*' -prune -o -type f -printf '%p\n' | sed 's,^\./,,'
-    fi | grep -E '\.(cpp|h)$' | grep -v '^tools/ptn/starter/files/' | sort -u |
+    fi | grep -E '\.(cpp|h)$' | grep -v '^tools/ptn/starter/program/' | sort -u |
         while read -r file; do [ ! -e "$file" ] || echo "$file"; done
 }

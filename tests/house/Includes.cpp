@@ -47,7 +47,7 @@ constexpr Area AREAS[] = {
     {"tools/ptn/render", Group::tool, 7, true},
     {"tools/ptn/run", Group::tool, 8},
     {"tools/ptn/starter", Group::tool, 8},
-    {"tools/ptn/starter/files", Group::sample, 0}, // the program of a new project
+    {"tools/ptn/starter/program", Group::sample, 0}, // the program of a new project
     {"tools/ptn/commands", Group::tool, 9},
     {"tools/ptn/main.cpp", Group::tool, 10},
     {"tests/support", Group::tests, 0, true},

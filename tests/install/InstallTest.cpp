@@ -34,7 +34,7 @@ class Install : public testing::Test
         fs::current_path(folder_->path());
         expectRuns("cmake --install " + Program::buildFolder() + " --prefix " + root() + "/first");
         fs::rename("first", "moved");
-        expectRuns("moved/bin/ptn new plant");
+        expectRuns("moved/bin/ptn new --program plant");
         setenv("PKG_CONFIG_PATH", fileCalled("tessary.pc").parent_path().c_str(), 1);
     }
 

@@ -63,16 +63,16 @@ class Manual : public testing::Test
   protected:
     Manual() { unsetenv("DISPLAY"); }
 
-    // A command as it is printed. The program is not built here: it would need a library without sanitizers.
+    // A command as it is printed, as far as it goes without a display.
     void run(const std::string& command)
     {
-        if (command.compare(0, 4, "ptn ") == 0 && command.compare(0, 10, "ptn watch ") != 0)
-            expectRuns(command.substr(4));
-        else if (command == "cmake --build plant/build")
+        if (command.compare(0, 8, "ptn run ") == 0)
             buildScreens();
+        else if (command.compare(0, 4, "ptn ") == 0 && command.compare(0, 10, "ptn watch ") != 0)
+            expectRuns(command.substr(4));
     }
 
-    // What the project's own build does about its screens.
+    // What "ptn run" does before it shows them.
     void buildScreens()
     {
         expectRuns("check plant");
@@ -101,7 +101,6 @@ TEST_F(Manual, has_a_tutorial_whose_commands_run_as_printed)
         } else if (block.yaml) {
             Insert("plant/project.yaml", "  PUMP: 4 # 102-105\n", "  LEVEL: 1\n");
             Insert("plant/screens/main.yaml", "\nitems:\n", block.text);
-            Insert("plant/program/Registry.cpp", "screen::Stop", ", screen::Tank");
             buildScreens();
             expectRuns("render plant Tank");
         } else {

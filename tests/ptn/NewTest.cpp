@@ -20,9 +20,24 @@ class New : public testing::Test
     Sources sources;
 };
 
+TEST_F(New, makes_a_project_without_code_unless_a_program_is_asked_for)
+{
+    unsetenv("DISPLAY");
+    const PtnResult made = sources.run("new plant");
+    EXPECT_EQ(made.status, 0) << made.err;
+    EXPECT_THAT(made.out, HasSubstr("To run it:                ptn run plant\n"));
+    for (const auto& entry : std::filesystem::recursive_directory_iterator("plant"))
+        EXPECT_TRUE(entry.is_directory() || entry.path().extension() == ".yaml" ||
+                    entry.path().extension() == ".state")
+            << entry.path();
+    EXPECT_EQ(sources.run("check plant").out, "plant: 3 screens, nothing found.\n");
+    EXPECT_EQ(sources.run("build plant out/ProjPath").err, "");
+    EXPECT_EQ(sources.run("render plant Main --state plant/example.state -o main.png").err, "");
+}
+
 TEST_F(New, makes_a_project_that_builds_and_in_which_nothing_is_found)
 {
-    const PtnResult made = sources.run("new plant");
+    const PtnResult made = sources.run("new --program plant");
     EXPECT_EQ(made.status, 0) << made.err;
     EXPECT_EQ(sources.run("build plant out/ProjPath").err, "");
     for (const char* file : {"Main.ptn", "States.ptn", "Stop.ptn", "PtrnCode", "PtrnColr", "PtrnMark"})
@@ -35,7 +50,7 @@ TEST_F(New, makes_a_project_that_builds_and_in_which_nothing_is_found)
 TEST_F(New, has_values_to_render_its_screen_with)
 {
     unsetenv("DISPLAY");
-    ASSERT_EQ(sources.run("new plant").status, 0);
+    ASSERT_EQ(sources.run("new --program plant").status, 0);
     const PtnResult result = sources.run("render plant Main --state plant/example.state -o main.png");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "main.png\n");
@@ -43,7 +58,7 @@ TEST_F(New, has_values_to_render_its_screen_with)
 
 TEST_F(New, makes_a_project_that_can_be_built_elsewhere)
 {
-    ASSERT_EQ(sources.run("new plant").status, 0);
+    ASSERT_EQ(sources.run("new --program plant").status, 0);
     int files = 0;
     for (const auto& entry : std::filesystem::recursive_directory_iterator("plant")) {
         if (!entry.is_regular_file())
@@ -58,7 +73,7 @@ TEST_F(New, makes_a_project_that_can_be_built_elsewhere)
 
 TEST_F(New, tells_the_place_of_tessary_where_that_is_not_installed)
 {
-    EXPECT_THAT(sources.run("new plant").out,
+    EXPECT_THAT(sources.run("new --program plant").out,
                 HasSubstr("cmake -S plant -B plant/build -DTessary_DIR=" + Program::buildFolder() + " && "));
 }
 

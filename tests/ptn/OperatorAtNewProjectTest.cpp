@@ -30,7 +30,7 @@ class OperatorAtNewProject : public testing::Test
 
     void begin(int edition)
     {
-        ASSERT_EQ(sources.run("new plant").status, 0);
+        ASSERT_EQ(sources.run("new --program plant").status, 0);
         if (edition == 1) {
             std::string project = readFile("plant/project.yaml");
             const std::size_t line = project.find("edition:");

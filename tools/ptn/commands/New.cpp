@@ -33,24 +33,31 @@ class NewCommand : public Command
 
   private:
     std::string folder_;
+    bool program_ = false;
 };
 
 void NewCommand::addOptions(CLI::App& line)
 {
     line.add_option("PROJECT", folder_, "New folder; its name becomes that of the program")->required();
+    line.add_flag("--program", program_, "With a program of its own in C++ and its build");
+    line.footer("Without --program the project needs no code: 'ptn run' shows it.");
 }
 
 int NewCommand::run()
 {
     Diagnostics diagnostics;
-    const bool made = NewProject(folder_, diagnostics);
+    const bool made = NewProject(folder_, program_, diagnostics);
     diagnostics.print(std::cerr);
     if (!made)
         return 1;
-    std::cout << folder_ << ": screens to begin with, a program that shows them, and its build.\n"
-              << "To see the first screen:  ptn render " << folder_ << " Main\n"
-              << "To build and run it:      cmake -S " << folder_ << " -B " << folder_ << "/build"
-              << PlaceOption() << " && cmake --build " << folder_ << "/build\n";
+    std::cout << folder_ << ": screens to begin with"
+              << (program_ ? ", a program that shows them, and its build.\n" : ".\n")
+              << "To see the first screen:  ptn render " << folder_ << " Main\n";
+    if (program_)
+        std::cout << "To build and run it:      cmake -S " << folder_ << " -B " << folder_ << "/build"
+                  << PlaceOption() << " && cmake --build " << folder_ << "/build\n";
+    else
+        std::cout << "To run it:                ptn run " << folder_ << "\n";
     return 0;
 }
 

@@ -24,9 +24,19 @@ bool IsName(const std::string& name)
            name.find_first_not_of(LETTERS + std::string("0123456789_-")) == std::string::npos;
 }
 
+void WriteFilled(const EmbeddedFile& file, const fs::path& place, const std::string& name)
+{
+    std::string text(file.bytes);
+    Replace(text, "@NAME@", name);
+    Replace(text, "@NAMESPACE@", Identifier(name));
+    Replace(text, "@VERSION@", TESSARY_VERSION);
+    fs::create_directories((place / file.name).parent_path());
+    WriteBytes(place / file.name, text);
+}
+
 } // namespace
 
-bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
+bool NewProject(const fs::path& folder, bool program, Diagnostics& diagnostics)
 {
     const fs::path path = fs::absolute(folder).lexically_normal();
     const fs::path place = path.has_filename() ? path : path.parent_path();
@@ -42,14 +52,9 @@ bool NewProject(const fs::path& folder, Diagnostics& diagnostics)
         diagnostics.error({folder.string(), 0}, "this folder is not empty. Name a new one.");
         return false;
     }
-    for (const EmbeddedFile& file : StarterFiles()) {
-        std::string text(file.bytes);
-        Replace(text, "@NAME@", name);
-        Replace(text, "@NAMESPACE@", Identifier(name));
-        Replace(text, "@VERSION@", TESSARY_VERSION);
-        fs::create_directories((place / file.name).parent_path());
-        WriteBytes(place / file.name, text);
-    }
+    for (const auto& files : {StarterFiles(), program ? ProgramFiles() : PlainFiles()})
+        for (const EmbeddedFile& file : files)
+            WriteFilled(file, place, name);
     return true;
 }
 

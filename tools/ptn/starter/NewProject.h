@@ -9,13 +9,17 @@
 namespace ptn
 {
 
-/// The files of the starting project: sources of three screens, a program that shows them, and its build.
-/// "@NAME@", "@NAMESPACE@" (of its "cells.h") and "@VERSION@" (of Tessary) in them are to be filled in.
+/// The files of the starting project: those of each, those of one without code, and those of one with a
+/// program of its own and its build. "@NAME@", "@NAMESPACE@" (of its "cells.h") and "@VERSION@" (of Tessary)
+/// in them are to be filled in.
 const std::vector<EmbeddedFile>& StarterFiles();
+const std::vector<EmbeddedFile>& PlainFiles();
+const std::vector<EmbeddedFile>& ProgramFiles();
 
 /// Writes the project into a new folder, whose name becomes that of the program.
+/// @param program  with a program of its own in C++
 /// @return whether it is there now
 /// Throws std::filesystem::filesystem_error when it can not be written.
-bool NewProject(const std::filesystem::path& folder, Diagnostics& diagnostics);
+bool NewProject(const std::filesystem::path& folder, bool program, Diagnostics& diagnostics);
 
 } // namespace ptn
