@@ -4,22 +4,39 @@
 #include "comndata/CodeTable.h"
 #include "comndata/PtrnCode.h"
 
+#include <utility>
+
 namespace tessary
 {
+
+namespace
+{
+
+bool IsEmpty(int no)
+{
+    return ComnData[no].wData == 0 && StoredNumber(no) == 0 && !ComnData[no].sData;
+}
+
+std::string TextOf(int no)
+{
+    return ComnData[no].sData ? ComnData[no].sData : "";
+}
+
+} // namespace
 
 KeptCells::KeptCells()
 {
     for (std::int32_t row = 0; row < PtrnRecd; ++row) {
         const PTRNCODE& code = PtrnCode[row];
         for (int offset = 0; offset < code.DataCount; ++offset) {
-            // The cell that the name means: of two rows with one code it is the first one's.
-            const int no = ConvertDtno(CodeOf(code).c_str(), offset);
-            if (!HasCell(no))
+            const std::int64_t place = std::int64_t{code.DataNo} + offset;
+            const int no = static_cast<int>(place);
+            if (place != no || !HasCell(no) || IsEmpty(no))
                 continue;
-            const COMNDATA& cell = ComnData[no];
-            if (cell.wData || StoredNumber(no) != 0 || cell.sData)
-                cells_.push_back(
-                    {CodeOf(code), offset, cell.wData, StoredNumber(no), cell.sData ? cell.sData : ""});
+            // Of two rows with one code the name means the first one's cells.
+            std::string name = CodeOf(code);
+            if (ConvertDtno(name.c_str(), offset) == no)
+                cells_.push_back({std::move(name), offset, ComnData[no].wData, StoredNumber(no), TextOf(no)});
         }
     }
 }

@@ -65,6 +65,26 @@ TEST_F(KeptCellsTest, follow_their_code_to_its_new_place)
         expectCell(no, 0, 0, "");
 }
 
+TEST_F(KeptCellsTest, of_a_code_with_two_rows_are_those_that_the_name_means)
+{
+    project.code("A", 2).code("A", 3);
+    start();
+    set(1, 1, 10, "a");
+    set(3, 2, 20, "b");
+    loadAgain(codeRow("NEW", 1, 1) + codeRow("A", 3, 2));
+    expectCell(2, 1, 10, "a");
+    expectCell(4, 0, 0, "");
+}
+
+TEST_F(KeptCellsTest, are_none_of_a_row_that_lies_outside_of_the_store)
+{
+    project.code("A", 2).code("FAR", 3, 2000000000);
+    start();
+    set(1, 1, 10, "a");
+    loadAgain(codeRow("FAR", 3, 2147483646) + codeRow("A", 2, 2));
+    expectCell(2, 1, 10, "a");
+}
+
 TEST_F(KeptCellsTest, are_lost_with_their_table)
 {
     project.code("A", 2);

@@ -253,7 +253,7 @@ TEST_F(Output, is_explained_by_the_help)
     EXPECT_THAT(sources.run("build --help").out, HasSubstr("SRC"));
     EXPECT_THAT(sources.run("build --help").out, HasSubstr("--quiet"));
     EXPECT_EQ(sources.run("help").out, sources.run("--help").out);
-    for (const char* command : {"new", "build", "check", "dump", "render", "watch", "help"}) {
+    for (const char* command : {"new", "build", "check", "dump", "render", "watch", "run", "help"}) {
         const PtnResult help = sources.run(std::string(command) + " --help");
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr(std::string("Usage: ptn ") + command + " ["));

@@ -178,6 +178,8 @@ TEST_F(RunWatching, shows_what_is_saved_and_the_cells_keep_what_they_have)
     waitBody(0x0080FF);
     EXPECT_EQ(box().pixels, checked.pixels);
     EXPECT_EQ(user.waitForWindow("a").id, window.id);
+    kill(program->pid(), SIGTERM);
+    EXPECT_EQ(waitEnd(), 0) << program->output();
 }
 
 TEST_F(RunWatching, leaves_the_screen_while_there_are_mistakes_and_tells_them)
