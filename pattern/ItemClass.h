@@ -109,6 +109,7 @@ struct ItemClass {
     NumberField (*numberField)(const ItemDraft& draft) = nullptr;
     /// Whether a new value is drawn over the one before without wiping it; null: never.
     bool (*overprints)(const ItemDraft& draft) = nullptr;
+    bool onlyActs = false;   ///< its action is all that an operator gets from it
     bool wheelSteps = false; ///< the wheel over it steps its value
     int keyParm = -1;        ///< entry that is not 0 where keys of the keyboard operate it; -1 none
     bool frames = false;     ///< other items are laid out in it
@@ -185,6 +186,7 @@ class ItemRow : public ItemClass
     {
         return with(&ItemClass::overprints, function);
     }
+    constexpr ItemRow actsOnly() const { return with(&ItemClass::onlyActs, true); }
     constexpr ItemRow stepsByWheel() const { return with(&ItemClass::wheelSteps, true); }
     constexpr ItemRow keysAt(int index) const { return with(&ItemClass::keyParm, index); }
     constexpr ItemRow checkedBy(decltype(check) function) const { return with(&ItemClass::check, function); }

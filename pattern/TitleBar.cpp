@@ -99,6 +99,14 @@ void DrawOuterFrame(CDraw* draw, const PTRNHEDR& header)
 
 } // namespace
 
+int tessary::ClockLength(int format)
+{
+    if (format < 1 || format > static_cast<int>(std::size(CLOCK_FORMATS)))
+        return 0;
+    const char* const name = format < CLOCK_JAPANESE ? Week1[0] : Week2[0];
+    return std::snprintf(nullptr, 0, CLOCK_FORMATS[format - 1], 2000, 1, 1, name, 0, 0, 0);
+}
+
 /// Fills the bar and draws everything in it but the clock.
 void CPtrnData::DrawTitleBar(CDraw* draw)
 {

@@ -19,6 +19,9 @@ enum TitleHit {
     TITLE_DRAG = 3,     ///< where the window can be dragged
 };
 
+/// Half-width characters of a clock of a format, HEDR_CLOCK; 0 for a format that shows none.
+int ClockLength(int format);
+
 } // namespace tessary
 
 /// Weekday names, indexed by the clock cell's weekday, 0 = Sunday.

@@ -150,6 +150,7 @@ bool Fits(const ItemDraft& draft)
 
 void Check(const ItemDraft& draft, const ItemRemark& remark)
 {
+    CheckBound(draft, remark);
     const std::int32_t* parm = draft.parm;
     if (parm[BARG_MINIMUM] >= parm[BARG_MAXIMUM] && (parm[BARG_MINIMUM] || parm[BARG_MAXIMUM]))
         remark("'minimum' is not below 'maximum', so the bar stays empty. Exchange them.");

@@ -58,6 +58,9 @@ void EraseRect(CDraw* draw, const PTRNDATA* item);
 /// 1 when the point is in the item's rectangle.
 int HitRect(POINT point, const PTRNDATA* item);
 
+/// Part of the `check` of a type that follows its cell.
+void CheckBound(const ItemDraft& draft, const ItemRemark& remark);
+
 /// `opaque` of a type that always fills its rectangle.
 inline bool AlwaysOpaque(const ItemDraft&)
 {

@@ -77,6 +77,7 @@ extern constexpr ItemClass PUSH_BUTTON = item(PTRN_BUTN)
                                              .hitBy(HitRect)
                                              .pressedBy(PressControl)
                                              .operatedBy(Operate)
+                                             .actsOnly()
                                              .captionNeeds(CaptionWidth)
                                              .opaqueWhen(AlwaysOpaque);
 

@@ -133,7 +133,8 @@ constexpr ItemRow Choice(PtrnType type)
         .hitBy(Hit)
         .pressedBy(PressControl)
         .sizedBy(NaturalSize)
-        .covers(DrawnSize);
+        .covers(DrawnSize)
+        .checkedBy(CheckBound);
 }
 
 } // namespace

@@ -143,6 +143,7 @@ int PartAt(CPtrnData& data, POINT point, PTRNDATA* item)
 
 void Check(const ItemDraft& draft, const ItemRemark& remark)
 {
+    CheckBound(draft, remark);
     const int total = draft.parm[SBAR_TOTAL];
     const int visible = draft.parm[SBAR_VISIBLE];
     if (total == visible || total == 0)

@@ -155,6 +155,7 @@ int Step(const PTRNDATA* item, int part)
 
 void Check(const ItemDraft& draft, const ItemRemark& remark)
 {
+    CheckBound(draft, remark);
     if (draft.parm[SPIN_MINIMUM] > draft.parm[SPIN_MAXIMUM])
         remark("'minimum' is above 'maximum', so the value jumps between them. Exchange them.");
 }

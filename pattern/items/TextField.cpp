@@ -216,6 +216,8 @@ void CheckEntry(const ItemDraft& draft, const ItemRemark& remark)
 {
     if (draft.parm[FIELD_KEYENTRY] == 1 && !draft.bound)
         remark("'entry' has nowhere to store what is typed. Name a cell with 'data'.");
+    else
+        CheckBound(draft, remark);
 }
 
 void CheckNumeric(const ItemDraft& draft, const ItemRemark& remark)

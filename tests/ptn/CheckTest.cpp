@@ -24,7 +24,7 @@ class Check : public testing::Test
     // A screen "a" of 320 x 240 that the profile starts and stops with.
     Check()
     {
-        sources.base();
+        sources.checkedBase();
         profile("a", "a");
     }
 
@@ -104,7 +104,7 @@ const MessageCase ITEM_CASES[] = {
      ":4: line at 1,1: 'clear' is -1, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
     {"dash", "  - { type: line, rect: [1, 1, 20, 1], parm: { 14: 3 } }\n",
      ":4: line at 1,1: 'dash' is 3, outside 0 to 2, which ends the panel when it is drawn. Correct it."},
-    {"number", "  - { type: button, rect: [1, 1, 20, 20], parm: { 27: 13 } }\n",
+    {"number", "  - { type: button, rect: [1, 1, 20, 20], parm: { 27: 13 }, action: hardcopy }\n",
      ":4: button at 1,1: 'key' is 13, outside 0 to 12. Correct it."},
     {"font_without_a_name", "  - { type: text, at: [1, 1], text: x, parm: { 15: 7 } }\n",
      ":4: text at 1,1: its font, number 7, has no name in language 0, so no text is drawn. Name it in "
@@ -124,34 +124,35 @@ const MessageCase ITEM_CASES[] = {
      ":4: mark at 1,1: its text has 101 bytes; the panel keeps 100. Shorten it."},
     {"bytes_that_are_no_text", "  - { type: mark, rect: [1, 1, 20, 20], exact: { text: { bytes: FFFF } } }\n",
      ":4: mark at 1,1: its text has bytes that are no EUC-JP. Write it anew."},
-    {"action_number", "  - { type: spin, rect: [1, 1, 20, 20], action: 17 }\n",
+    {"action_number", "  - { type: spin, rect: [1, 1, 20, 20], data: A, action: 17 }\n",
      ":4: spin at 1,1: action 17 does nothing. Use one from 0 to 16."},
     {"action_that_opens_nothing",
-     "  - { type: spin, rect: [1, 1, 20, 20], exact: { action: 8, pattern: x } }\n",
+     "  - { type: spin, rect: [1, 1, 20, 20], data: A, exact: { action: 8, pattern: x } }\n",
      ":4: spin at 1,1: no screen is named 'x', which this item opens. Correct the name or add the screen."},
-    {"pattern_without_an_action", "  - { type: spin, rect: [1, 1, 20, 20], action: close, pattern: a }\n",
+    {"pattern_without_an_action",
+     "  - { type: spin, rect: [1, 1, 20, 20], data: A, action: close, pattern: a }\n",
      ":4: spin at 1,1: names the screen 'a', but its action opens none. Write an action such as "
      "open-application, or remove 'pattern'."},
-    {"version_window", "  - { type: spin, rect: [1, 1, 20, 20], action: version }\n",
+    {"version_window", "  - { type: spin, rect: [1, 1, 20, 20], data: A, action: version }\n",
      u8":4: spin at 1,1: opens the screen 'バージョン情報', which is not there. Add it, or take the action "
      u8"away."},
-    {"scroll_bar", "  - { type: scroll-bar, rect: [1, 1, 100, 20], visible: 5, total: 5 }\n",
+    {"scroll_bar", "  - { type: scroll-bar, rect: [1, 1, 100, 20], data: A, visible: 5, total: 5 }\n",
      ":4: scroll-bar at 1,1: 'total' is 5 and 'visible' 5, by which the thumb's place would be divided by "
      "zero. Make 'total' larger."},
-    {"bar_graph", "  - { type: bar-graph, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
+    {"bar_graph", "  - { type: bar-graph, data: A, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
      ":4: bar-graph at 1,1: 'minimum' is not below 'maximum', so the bar stays empty. Exchange them."},
     {"bar_graph_smaller_than_its_frame",
-     "  - { type: bar-graph, exact: { rect: [0, 0, 5, 50], parm: { 15: 3 } } }\n",
+     "  - { type: bar-graph, data: A, exact: { rect: [0, 0, 5, 50], parm: { 15: 3 } } }\n",
      ":4: bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is drawn. "
      "Make it larger."},
-    {"spin", "  - { type: spin, rect: [1, 1, 100, 20], minimum: 9, maximum: 3 }\n",
+    {"spin", "  - { type: spin, rect: [1, 1, 100, 20], data: A, minimum: 9, maximum: 3 }\n",
      ":4: spin at 1,1: 'minimum' is above 'maximum', so the value jumps between them. Exchange them."},
     {"entry_without_a_cell", "  - { type: numeric, at: [1, 1], width: 3, entry: yes }\n",
      ":4: numeric at 1,1: 'entry' has nowhere to store what is typed. Name a cell with 'data'."},
     {"text_longer_than_its_field", "  - { type: text, at: [1, 1], text: [Go, Speed], width: 4 }\n",
      ":4: text at 1,1: its text has 5 half-width characters and its field 4. Shorten it, or make 'width' "
      "larger."},
-    {"decimals_without_room", "  - { type: numeric, at: [1, 1], width: 3, decimals: 2 }\n",
+    {"decimals_without_room", "  - { type: numeric, at: [1, 1], data: A, width: 3, decimals: 2 }\n",
      ":4: numeric at 1,1: its field has 3 characters; a number with 2 decimals needs 4 or more. Make 'width' "
      "larger."},
     {"outside", "  - { type: line, rect: [400, 1, 420, 1] }\n",
@@ -161,14 +162,17 @@ const MessageCase ITEM_CASES[] = {
      ":4: text at 300,1: reaches beyond the pattern of 320 x 240 pixels, to 335,15. Move it, or enlarge the "
      "window."},
     {"frame",
-     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: numeric, at: [20, 16], width: 6 }\n",
+     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: numeric, at: [20, 16], data: A, width: 6 "
+     "}\n",
      ":5: numeric at 20,16: reaches 62,30, beyond its frame, which ends at 60,40. Make it narrower, or the "
      "frame larger."},
     {"choice_and_its_frame",
-     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: check, at: [20, 16], text: Buzzer }\n",
+     "  - { type: group-box, rect: [8, 8, 60, 40] }\n  - { type: check, at: [20, 16], data: A, text: Buzzer "
+     "}\n",
      ":5: check at 20,16: reaches 83,30, beyond its frame, which ends at 60,40. Make it narrower, or the "
      "frame larger."},
-    {"caption", "  - { type: button, rect: [8, 8, 60, 40], text: Overflowing, indent: 4 }\n",
+    {"caption",
+     "  - { type: button, rect: [8, 8, 60, 40], text: Overflowing, indent: 4, action: hardcopy }\n",
      ":4: button at 8,8: its caption needs 81 pixels and has 52. Shorten it or widen the button."},
     {"radio",
      "  - { type: radio, at: [8, 8], text: x, data: B+1, value: 4 }\n"
@@ -176,7 +180,8 @@ const MessageCase ITEM_CASES[] = {
      ":5: radio at 8,30: has the value 4, as the radio at 8,8 has, so both are on together. Give it another "
      "'value'."},
     {"hidden_by_its_type",
-     "  - { type: button, rect: [8, 8, 60, 40], text: x }\n  - { type: mark, at: [10, 8], mark: dot }\n",
+     "  - { type: button, rect: [8, 8, 60, 40], text: x, action: hardcopy }\n  - { type: mark, at: [10, 8], "
+     "mark: dot }\n",
      ":5: mark at 10,8: is hidden below the button at 8,8, which is drawn later. Move one of them, or draw "
      "it "
      "in the front pass."},
@@ -216,16 +221,19 @@ TEST_F(Check, finds_items_in_the_title_bar)
 
 TEST_F(Check, finds_screens_that_nothing_opens)
 {
-    sources.screen(screen("  - { type: spin, rect: [1, 1, 20, 20], action: open-child-1, pattern: b }\n"));
-    sources.write("screens/b.yaml", "name: b\n").write("screens/c.yaml", "name: c\n");
+    sources.screen(
+        screen("  - { type: spin, rect: [1, 1, 20, 20], data: A, action: open-child-1, pattern: b }\n"));
+    sources.write("screens/b.yaml", "name: b\nitems: [{ type: button, rect: [1, 1, 9, 9], action: close }]\n")
+        .write("screens/c.yaml", "name: c\n");
     expectFinds("src/screens/c.yaml:1: the screen 'c' can not be reached: no action of another screen opens "
                 "it, and no 'registry' tells what the program opens. Add an action, or remove the screen.\n");
 }
 
 TEST_F(Check, asks_the_registry_of_the_program_which_screens_it_knows)
 {
-    sources.screen(screen("  - { type: spin, rect: [1, 1, 20, 20], action: open-child-1, pattern: b }\n"));
-    sources.write("screens/b.yaml", "name: b\n")
+    sources.screen(
+        screen("  - { type: spin, rect: [1, 1, 20, 20], data: A, action: open-child-1, pattern: b }\n"));
+    sources.write("screens/b.yaml", "name: b\nitems: [{ type: button, rect: [1, 1, 9, 9], action: close }]\n")
         .write("screens/c.yaml", u8"name: 表\n")
         .write("screens/d.yaml", "name: d\n")
         .write("Registry.cpp", u8"{\"a\", Make<A>}, {\"表\", Make<B>},\n");
@@ -283,10 +291,14 @@ TEST_F(Check, finds_in_a_compiled_project_what_sources_do_not_let_through)
     ASSERT_EQ(sources.build().status, 0);
     const std::string file = "out/ProjPath/a.ptn: ";
     const std::pair<Pattern, std::string> cases[] = {
-        {Pattern("a").item(PTRN_BARG, 0, 0, 5, 50).parm(BARG_FRAME_WIDTH, 3),
+        {Pattern("a").item(PTRN_BARG, 0, 0, 5, 50).code("A").parm(BARG_FRAME_WIDTH, 3),
          "item 1, bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is "
          "drawn. Make it larger."},
-        {Pattern("a").item(PTRN_BARG, 0, 0, 50, 12).parm(BARG_HORIZONTAL, 0).parm(BARG_NEEDLE_WIDTH, 20),
+        {Pattern("a")
+             .item(PTRN_BARG, 0, 0, 50, 12)
+             .code("A")
+             .parm(BARG_HORIZONTAL, 0)
+             .parm(BARG_NEEDLE_WIDTH, 20),
          "item 1, bar-graph at 0,0: is too small for its frame and needle, which ends the panel when it is "
          "drawn. Make it larger."},
         {Pattern("a").item(PTRN_BMAP, 0, 0, 50, 12).text("x.png"),

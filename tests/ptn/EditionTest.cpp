@@ -28,7 +28,7 @@ std::string OneLine(const std::string& text)
 class Edition : public testing::Test
 {
   protected:
-    Edition() { sources.base().screen("name: a\nwindow: { size: [320, 240] }\n"); }
+    Edition() { sources.checkedBase().screen("name: a\nwindow: { size: [320, 240] }\n"); }
 
     void profile(const std::string& keys)
     {

@@ -19,7 +19,7 @@ class EditionWarning : public testing::Test
   protected:
     EditionWarning()
     {
-        sources.base();
+        sources.checkedBase();
         sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: a, PTRNSTOP: a } }\n");
         sources.write("tables.yaml", "messages: { low: Low }\n"
                                      "limits: [{ data: A, maximum: 100 }, { data: B, maximum: 60000 }]\n");
@@ -126,23 +126,26 @@ const MessageCase CASES[] = {
      "  - { type: group-box, rect: [8, 8, 60, 60], data: A }\n"
      "  - { type: group-box, rect: [60, 8, 90, 60], data: B }\n",
      ""},
-    {"key_on_a_screen_alone", "  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3 }\n", ""},
+    {"key_on_a_screen_alone",
+     "  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3, action: hardcopy }\n", ""},
     {"key_below_the_system_window",
-     "  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3 }\n"
+     "  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3, action: close }\n"
      "  - { type: button, rect: [1, 51, 60, 90], text: y, action: open-system, pattern: a }\n",
      "4: warning: button at 1,1: [edition 2: keys-to-front] keys reach every open window, not only the one "
      "in "
      "front"},
     {"keys_of_a_scroll_bar_of_a_child",
      "  - { type: scroll-bar, rect: [1, 1, 20, 100], data: A, keys: yes }\n"
-     "  - { type: button, rect: [51, 51, 90, 90], text: y, action: open-child-1, pattern: a }\n",
+     "  - { type: button, rect: [51, 51, 90, 90], text: y, action: open-child-1, pattern: a }\n"
+     "  - { type: button, rect: [51, 101, 90, 140], text: z, action: close }\n",
      "4: warning: scroll-bar at 1,1: [edition 2: keys-to-front] keys reach every open window, not only the "
      "one "
      "in front"},
     {"limits_of_its_own",
      "  - { type: numeric, at: [1, 1], width: 4, data: A+1, entry: yes, maximum: 9.5, back: white }\n",
      "4: warning: numeric at 1,1: [edition 2: limits-bind] 'maximum' has no effect"},
-    {"default_button", "  - { type: button, rect: [1, 1, 60, 40], text: x, default: yes }\n",
+    {"default_button",
+     "  - { type: button, rect: [1, 1, 60, 40], text: x, default: yes, action: hardcopy }\n",
      "4: warning: button at 1,1: [edition 2: keys-to-front] 'default' has no effect"},
 };
 
@@ -164,11 +167,12 @@ TEST_F(EditionWarning, counts_an_item_once_and_names_each_row)
 
 TEST_F(EditionWarning, knows_modal_children_from_others)
 {
-    screen("  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3 }\n"
+    screen("  - { type: button, rect: [1, 1, 60, 40], text: x, key: 3, action: hardcopy }\n"
            "  - { type: button, rect: [1, 51, 60, 90], text: y, action: open-child-1, pattern: b }\n");
     sources.write("screens/b.yaml", "name: b\nwindow: { size: [32, 24], parm: { 26: 1 } }\n");
     EXPECT_THAT(check(1), Not(HasSubstr("warning")));
-    sources.write("screens/b.yaml", "name: b\nwindow: { size: [32, 24] }\n");
+    sources.write("screens/b.yaml", "name: b\nwindow: { size: [32, 24] }\n"
+                                    "items: [{ type: button, rect: [0, 0, 32, 24], action: close }]\n");
     EXPECT_THAT(check(1), HasSubstr("a.yaml:4: warning: button at 1,1: [edition 2: keys-to-front] "));
 }
 

@@ -21,7 +21,7 @@ class EntryLimit : public testing::Test
   protected:
     EntryLimit()
     {
-        sources.base();
+        sources.checkedBase();
         sources.write("profile.yaml", "edition: 2\nprofile: { PTRN: { PTRNSTART: a, PTRNSTOP: a } }\n");
         screen("");
         sources.write("messages.yaml", "messages: { low: Low, high: { no: 40, text: High } }\n");
@@ -71,8 +71,8 @@ TEST_F(EntryLimit, of_items_stand_in_the_pattern)
         "  - { type: numeric, at: [1, 1], data: A, minimum: -2.5, maximum: 1e3, step: .25, message: high }\n"
         "  - { type: spin, rect: [1, 41, 20, 60], data: A, maximum: 9, step: 3, message: 1 }\n"
         "  - { type: numeric, at: [1, 101], data: A, message: none }\n"
-        "  - { type: button, rect: [1, 121, 60, 160], default: yes }\n"
-        "  - { type: button, rect: [1, 181, 60, 220], cancel: yes }\n");
+        "  - { type: button, rect: [1, 121, 60, 160], default: yes, action: hardcopy }\n"
+        "  - { type: button, rect: [1, 181, 60, 220], cancel: yes, action: hardcopy }\n");
     build();
     EXPECT_EQ(RealParm(parm(0, FIELD_MINIMUM)), -2.5F);
     EXPECT_EQ(RealParm(parm(0, FIELD_MAXIMUM)), 1000.0F);
@@ -93,7 +93,7 @@ TEST_F(EntryLimit, of_items_are_dumped_as_they_were_written)
     screen("  - { type: numeric, at: [1, 1], data: A, minimum: -0.1, maximum: 2.75, step: 0.05, message: "
            "high }\n"
            "  - { type: spin, rect: [1, 41, 20, 60], data: A, step: 100 }\n"
-           "  - { type: button, rect: [1, 121, 60, 160], default: yes }\n");
+           "  - { type: button, rect: [1, 121, 60, 160], default: yes, action: hardcopy }\n");
     build();
     const std::string before = sources.built("a.ptn");
     const PtnResult dump = sources.run("dump out/ProjPath -o dumped");

@@ -81,9 +81,9 @@ TEST_F(Group, that_uses_itself_ends_with_a_message)
 
 TEST_F(Group, has_its_mistakes_told_once_however_often_it_is_used)
 {
-    sources.base().screen("name: a\ngroups:\n  g:\n    parameters: [cell]\n    items:\n"
-                          "      - { type: spin, rect: [1, 1, 9, 9], data: $cell, colour: hot }\n"
-                          "items:\n  - { use: g, cell: A }\n  - { use: g, cell: B+7 }\n");
+    sources.checkedBase().screen("name: a\ngroups:\n  g:\n    parameters: [cell]\n    items:\n"
+                                 "      - { type: spin, rect: [1, 1, 9, 9], data: $cell, colour: hot }\n"
+                                 "items:\n  - { use: g, cell: A }\n  - { use: g, cell: B+7 }\n");
     EXPECT_EQ(sources.build().err,
               "src/screens/a.yaml:6: item 1.1 (spin): unknown attribute 'colour'. Correct or remove it.\n"
               "src/screens/a.yaml:9: item 2.1 (spin): 'data': code 'B' has 3 cells, so there is no +7. Write "
@@ -91,7 +91,7 @@ TEST_F(Group, has_its_mistakes_told_once_however_often_it_is_used)
               "2 errors; out/ProjPath is unchanged.\n");
     sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: a, PTRNSTOP: a } }\n");
     sources.screen("name: a\ngroups:\n  g:\n    items:\n"
-                   "      - { type: spin, rect: [1, 1, 9, 9], minimum: 9, maximum: 3 }\n"
+                   "      - { type: spin, rect: [1, 1, 9, 9], data: A, minimum: 9, maximum: 3 }\n"
                    "items:\n  - { use: g }\n  - { use: g, at: [100, 0] }\n");
     EXPECT_EQ(sources.run("check src").err,
               "src/screens/a.yaml:5: spin at 1,1: 'minimum' is above 'maximum', so the value jumps between "

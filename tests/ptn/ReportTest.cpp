@@ -44,8 +44,9 @@ TEST_F(Report, names_every_error_of_every_file_in_one_run)
 TEST_F(Report, does_not_miss_a_screen_whose_file_can_not_be_read)
 {
     sources.base().write("profile.yaml", "profile: { PTRN: { PTRNSTART: a, PTRNSTOP: b } }\n");
-    sources.screen("name: a\nitems:\n  - { type: spin, rect: [1, 1, 9, 9], action: close, pattern: }\n"
-                   "  - { type: spin, rect: [20, 1, 29, 9], action: open-application, pattern: b }\n");
+    sources.screen(
+        "name: a\nitems:\n  - { type: spin, rect: [1, 1, 9, 9], data: A, action: close, pattern: }\n"
+        "  - { type: spin, rect: [20, 1, 29, 9], data: A, action: open-application, pattern: b }\n");
     sources.write("screens/b.yaml", "name: b\nitems: [\n");
     for (const char* command : {"build src out/ProjPath", "check src"}) {
         const PtnResult result = sources.run(command);

@@ -28,16 +28,28 @@ Sources& Sources::write(const std::string& name, const std::string& text)
     return *this;
 }
 
-Sources& Sources::base()
+Sources& Sources::base(const std::string& reserved)
 {
+    // A mark of 32 x 32 pixels with one in its corner.
+    std::string dot = std::string(31, '.');
+    for (int row = 1; row < 32; ++row)
+        dot += "\\n" + std::string(32, '.');
     return write("project.yaml",
-                 "codes: { A: 5, B: 3 }\n"
-                 "colors: { black: '#000000', white: '#FFFFFF', hot: { no: 50, rgb: '#FF8000' } }\n"
-                 "fonts:\n"
-                 "  small: '-*-fixed-medium-r-normal--14-*'\n"
-                 "  normal: '-*-fixed-medium-r-normal--16-*'\n"
-                 "marks: { dot: { no: 100, art: 'X' } }\n"
-                 "styles: { shape: { fill: white } }\n");
+                 "codes: { " + reserved +
+                     "A: 5, B: 3 }\n"
+                     "colors: { black: '#000000', white: '#FFFFFF', hot: { no: 50, rgb: '#FF8000' } }\n"
+                     "fonts:\n"
+                     "  small: '-*-fixed-medium-r-normal--14-*'\n"
+                     "  normal: '-*-fixed-medium-r-normal--16-*'\n"
+                     "marks: { dot: { no: 100, art: \"X" +
+                     dot +
+                     "\" } }\n"
+                     "styles: { shape: { fill: white } }\n");
+}
+
+Sources& Sources::checkedBase()
+{
+    return base("CLOCK: 7, SYSTEM: 92, ");
 }
 
 PtnResult Sources::build() const

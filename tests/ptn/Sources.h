@@ -30,7 +30,10 @@ class Sources
     /// The same for src/screens/a.yaml.
     Sources& screen(const std::string& text) { return write("screens/a.yaml", text); }
     /// A project with two codes, three colours, two fonts, a mark and a style, in src/project.yaml.
-    Sources& base();
+    /// @param reserved  codes before those two
+    Sources& base(const std::string& reserved = "");
+    /// The same with the codes from cell 100 on, as "ptn check" asks for.
+    Sources& checkedBase();
 
     /// Runs "ptn build src out/ProjPath".
     PtnResult build() const;

@@ -26,7 +26,8 @@ Subject ItemName(const PatternItem& item, std::size_t index)
 int Check(const fs::path& folder, const std::string& registry, Diagnostics& diagnostics, Diagnostics& remarks)
 {
     Compiled read;
-    if (IsCompiled(folder)) {
+    const bool compiled = IsCompiled(folder);
+    if (compiled) {
         read = ReadCompiled(folder, diagnostics);
         read.project.profile.checkEdition(diagnostics);
     } else {
@@ -37,13 +38,20 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
     }
     if (!registry.empty())
         read.project.registry = QuotedTexts(registry, {registry, 0}, diagnostics);
+    CheckTables(read.project, diagnostics);
+    CheckProfile(read.project, diagnostics);
+    CheckPictures(read.project, folder / (compiled ? "Bitmap" : "bitmaps"), diagnostics);
     for (const Pattern& pattern : read.patterns) {
+        CheckWindow(pattern, read.project, diagnostics);
         CheckItems(pattern, read.project, diagnostics);
+        CheckControls(pattern, read.project, diagnostics);
         CheckLayout(pattern, read.project, diagnostics);
     }
     CheckEditions(read.patterns, read.project, remarks);
-    if (read.complete)
+    if (read.complete) {
         CheckScreens(read.patterns, read.project, {folder.string(), 0}, diagnostics);
+        CheckWaysBack(read.patterns, read.project, diagnostics);
+    }
     return static_cast<int>(read.patterns.size());
 }
 

@@ -137,7 +137,7 @@ std::optional<std::size_t> FindAbove(std::size_t below, const Pattern& pattern, 
 
 void FindLayers(const Pattern& pattern, const PlacedItems& placed, Uses& uses)
 {
-    if (!uses.lacks(Correction::Layers))
+    if (!uses.lacks(Correction::Layers) || pattern.items.size() > MOST_COMPARED_ITEMS)
         return;
     for (std::size_t i = 0; i < pattern.items.size(); ++i) {
         if (!placed.facts[i]->type())

@@ -124,11 +124,8 @@ class Checker
     // Characters of three bytes are in no font of a panel, which shows two others in their place.
     void drawable(const std::string& text, const char* what)
     {
-        constexpr char threeBytes = '\x8F';
-        const std::size_t at = text.find(threeBytes);
-        if (at != std::string::npos)
-            say("{} has '{}', which the fonts of a panel lack. Use another character.", what,
-                EucToUtf8(text.substr(at, 3)));
+        if (const auto character = NotInFonts(text))
+            say("{} has '{}', which the fonts of a panel lack. {}", what, *character, Remedy({*character}));
     }
 
     Place place_;
@@ -151,6 +148,26 @@ void CheckEntryRange(const ItemFacts& facts, Checker& checker)
         checker.say("'minimum' is {} and 'maximum' {}, so every entry is refused. Write both, the lower one "
                     "as 'minimum'.",
                     field->minimum, field->maximum);
+}
+
+bool IsMessage(int action)
+{
+    return action >= ACTION_MESSAGE_SELF && action <= ACTION_MESSAGE_PARENT;
+}
+
+void CheckAction(const PatternItem& item, Checker& checker)
+{
+    const ActionSchema* action = FindAction(item.record.ID_Type);
+    if (!item.name.empty() && !(action && action->opens))
+        checker.say("names the screen '{}', but its action opens none. Write an action such as "
+                    "open-application, or remove 'pattern'.",
+                    EucToUtf8(item.name));
+    if (!action)
+        checker.say("action {} does nothing. Use one from 0 to 16.", item.record.ID_Type);
+    else if (IsMessage(item.record.ID_Type) && item.code.empty())
+        checker.say(
+            "sends the number of no cell, by which the program could tell what was pressed. Name one with "
+            "'data'.");
 }
 
 template <std::size_t N> std::string FieldOf(const char (&field)[N])
@@ -217,13 +234,7 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
         const ItemFacts facts(item, project.resources);
         if (facts.font() >= 0)
             checker.font(facts.font());
-        const ActionSchema* action = FindAction(item.record.ID_Type);
-        if (!item.name.empty() && !(action && action->opens))
-            checker.say("names the screen '{}', but its action opens none. Write an action such as "
-                        "open-application, or remove 'pattern'.",
-                        EucToUtf8(item.name));
-        if (!action)
-            checker.say("action {} does nothing. Use one from 0 to 16.", item.record.ID_Type);
+        CheckAction(item, checker);
         CheckRoom(facts, checker);
         CheckEntryRange(facts, checker);
         facts.check([&checker](const std::string& what) { checker.say("{}", what); });

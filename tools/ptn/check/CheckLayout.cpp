@@ -140,6 +140,14 @@ void Layout::checkHidden()
 
 void CheckLayout(const Pattern& pattern, const ProjectSource& project, Diagnostics& diagnostics)
 {
+    if (pattern.items.size() > MOST_COMPARED_ITEMS) {
+        diagnostics.warning(
+            pattern.place,
+            fmt::format("the screen has {} items; more than {} are not compared with each other. "
+                        "Use fewer.",
+                        pattern.items.size(), MOST_COMPARED_ITEMS));
+        return;
+    }
     Layout layout(pattern, project, diagnostics);
     layout.checkPlaces();
     layout.checkFrames();

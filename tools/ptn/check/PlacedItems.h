@@ -9,6 +9,9 @@
 namespace ptn
 {
 
+/// Most items of a screen that are compared each with each, which takes time by the square of their number.
+constexpr std::size_t MOST_COMPARED_ITEMS = 5000;
+
 /// For the moment, as the facts are.
 struct PlacedItems {
     PlacedItems(const Pattern& pattern, const Resources& resources);

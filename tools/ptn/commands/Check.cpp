@@ -41,7 +41,7 @@ void CheckCommand::addOptions(CLI::App& line)
 
 int CheckCommand::run()
 {
-    Diagnostics diagnostics;
+    Diagnostics diagnostics(Doubts::Told);
     Diagnostics remarks;
     const int patterns = Check(folder_, registry_, diagnostics, remarks);
     diagnostics.print(std::cerr);

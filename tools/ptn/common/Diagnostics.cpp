@@ -45,7 +45,10 @@ void Diagnostics::print(std::ostream& out) const
             out << ":" << one.place.line;
         if (!one.place.file.empty())
             out << ": ";
-        out << (one.severity == Severity::Warning ? "warning: " : "") << one.message.text() << '\n';
+        out << (one.severity == Severity::Warning ? "warning: " : "") << one.message.text();
+        if (!one.place.use.empty())
+            out << " Used in " << one.place.use << ".";
+        out << '\n';
     }
 }
 

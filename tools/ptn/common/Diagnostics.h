@@ -29,6 +29,8 @@ namespace ptn
 struct Place {
     std::string file;
     int line = 0; ///< from 1
+    /// "file:line" that puts it there, where that is in another file; else empty.
+    std::string use = {};
 };
 
 /// What a message is about, or the whole message that begins with it. One of several alike is named, but is
@@ -68,9 +70,17 @@ struct Diagnostic {
     Subject message;
 };
 
+/// Whether doubts are told: what may be meant as it stands, but mostly is not.
+enum class Doubts {
+    Left,
+    Told,
+};
+
 class Diagnostics
 {
   public:
+    explicit Diagnostics(Doubts doubts = Doubts::Left) : doubts_(doubts) {}
+
     /// Adds an error. The same text at the same place is kept once, of whichever item it is.
     /// @param what  UTF-8: what is wrong, and what to do about it
     void error(const Place& place, const Subject& what) { add({place, Severity::Error, what}); }
@@ -86,6 +96,13 @@ class Diagnostics
     /// Adds a remark that does not stop the build.
     void warning(const Place& place, const Subject& what) { add({place, Severity::Warning, what}); }
 
+    /// Adds a remark that only "ptn check" is to make.
+    void doubt(const Place& place, const Subject& what)
+    {
+        if (doubts_ == Doubts::Told)
+            warning(place, what);
+    }
+
     /// Adds what another run has found, as remarks that do not stop anything.
     void add(const Diagnostics& others);
 
@@ -95,12 +112,13 @@ class Diagnostics
     /// What there is beside errors.
     int warnings() const { return static_cast<int>(found_.size()) - errors_; }
 
-    /// Writes "file:line: text" for each, in the order in which they were found.
+    /// Writes "file:line: text" for each, in the order in which they were found, with the first place of use.
     void print(std::ostream& out) const;
 
   private:
     void add(const Diagnostic& one);
 
+    Doubts doubts_;
     std::vector<Diagnostic> found_;
     std::set<std::tuple<std::string, int, Severity, std::string>> known_;
     int errors_ = 0;

@@ -64,7 +64,7 @@ bool IsControl(const std::string& character)
     return (code >= 0 && code < ' ') || (code >= 0x7F && code < 0xA0);
 }
 
-// The characters that can not stand in a text, as messages show them.
+// The characters that can not stand in a text.
 std::vector<std::string> Refused(const std::string& utf8)
 {
     const bool allSurvive = Survives(utf8);
@@ -73,12 +73,70 @@ std::vector<std::string> Refused(const std::string& utf8)
         const std::string character = utf8.substr(at, CharacterLength(utf8, at));
         at += character.size();
         if (IsControl(character) || (!allSurvive && !Survives(character)))
-            refused.push_back(Shown(character));
+            refused.push_back(character);
     }
     return refused;
 }
 
+// What keyboards and editors write for a character that EUC-JP has under another number.
+struct Substitute {
+    long code;
+    const char* utf8;
+};
+const Substitute SUBSTITUTES[] = {
+    {0xA0, "\x20"},           // no-break space
+    {0xA5, "\xEF\xBF\xA5"},   // yen sign: full width
+    {0xB5, "\xCE\xBC"},       // micro sign: mu
+    {0xB7, "\xE3\x83\xBB"},   // middle dots: that of katakana
+    {0x2022, "\xE3\x83\xBB"}, // bullet
+    {0x2011, "\xE2\x80\x90"}, // hyphens and dashes
+    {0x2013, "-"},
+    {0x2014, "\xE2\x80\x95"},
+    {0x203E, "\xEF\xBF\xA3"}, // overline
+    {0x2225, "\xE2\x80\x96"}, // parallels
+    {0x223C, "\xE3\x80\x9C"}, // tildes: wave dash
+    {0xFF5E, "\xE3\x80\x9C"},
+    {0xFF0D, "\xE2\x88\x92"}, // full-width hyphen: minus sign
+    {0xFFE0, "\xC2\xA2"},     // full-width cent, pound and not signs
+    {0xFFE1, "\xC2\xA3"},
+    {0xFFE2, "\xC2\xAC"},
+};
+
+const char* SubstituteFor(const std::string& character)
+{
+    for (const Substitute& one : SUBSTITUTES)
+        if (one.code == CodePoint(character))
+            return one.utf8;
+    return nullptr;
+}
+
+std::string List(const std::vector<std::string>& characters)
+{
+    std::string list;
+    for (const std::string& character : characters)
+        list += (list.empty() ? "" : ", ") + Shown(character);
+    return list;
+}
+
 } // namespace
+
+std::string Remedy(const std::vector<std::string>& characters)
+{
+    std::vector<std::string> others;
+    for (const std::string& character : characters)
+        if (const char* other = SubstituteFor(character))
+            others.emplace_back(other);
+    if (others.empty() || others.size() < characters.size())
+        return "Use another character.";
+    return "Use " + List(others) + ", which looks alike.";
+}
+
+std::optional<std::string> NotInFonts(const std::string& euc)
+{
+    constexpr char threeBytes = '\x8F';
+    const std::size_t at = euc.find(threeBytes);
+    return at == std::string::npos ? std::nullopt : std::optional(EucToUtf8(euc.substr(at, 3)));
+}
 
 std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, const Subject& what,
                                  const Place& place, Diagnostics& diagnostics)
@@ -86,10 +144,7 @@ std::optional<std::string> ToEuc(const std::string& utf8, std::size_t limit, con
     const std::string euc = Utf8ToEuc(utf8);
     const std::vector<std::string> refused = Refused(utf8);
     if (!refused.empty()) {
-        std::string list;
-        for (const std::string& character : refused)
-            list += (list.empty() ? "" : ", ") + character;
-        diagnostics.error(place, what, ": EUC-JP has no {}. Use another character.", list);
+        diagnostics.error(place, what, ": EUC-JP has no {}. {}", List(refused), Remedy(refused));
         return std::nullopt;
     }
     if (euc.size() > limit) {

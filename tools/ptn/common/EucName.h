@@ -5,9 +5,18 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ptn
 {
+
+/// What to do about characters that can not be used: the names of those that look the same, where each has
+/// one.
+std::string Remedy(const std::vector<std::string>& characters);
+
+/// The first character of a text, in UTF-8, that no font of a panel has; none when they have all.
+/// @param euc  EUC-JP
+std::optional<std::string> NotInFonts(const std::string& euc);
 
 /// Converts UTF-8 to EUC-JP for a text field of a file.
 /// Refused, with an error that names the characters or the length: a character that EUC-JP lacks, a

@@ -16,7 +16,7 @@ namespace ptn
 using FileMap = std::map<std::string, std::string>;
 
 /// Most bytes of a file that is read.
-constexpr std::size_t LARGEST_INPUT = 64 * 1024 * 1024;
+constexpr std::size_t LARGEST_INPUT = std::size_t{64} * 1024 * 1024;
 
 /// A regular file's bytes; none when it is missing, can not be read, is larger than LARGEST_INPUT or is not a
 /// regular file.

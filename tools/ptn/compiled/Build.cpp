@@ -6,6 +6,7 @@
 #include "tools/ptn/source/ScreenSource.h"
 #include "tools/ptn/source/Sections.h"
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -66,6 +67,42 @@ void CheckHeaderPlace(const fs::path& header, Diagnostics& diagnostics)
             "constants with --header.");
 }
 
+bool IsWithin(const fs::path& folder, const fs::path& outer)
+{
+    return std::mismatch(outer.begin(), outer.end(), folder.begin(), folder.end()).first == outer.end();
+}
+
+// Whether the output may lie there: it would be taken for sources, or hold them. A folder for builds in that
+// of the sources is as good as any other.
+bool CheckOutputPlace(const fs::path& source, const fs::path& folder, const std::string& output,
+                      Diagnostics& diagnostics)
+{
+    const Place place{output, 0};
+    const fs::path from = FolderPath(fs::weakly_canonical(source));
+    const fs::path to = FolderPath(fs::weakly_canonical(folder));
+    if (from == to) {
+        diagnostics.error(place, "this is the folder of the sources. Name another for the output.");
+        return false;
+    }
+    if (IsWithin(from, to)) {
+        diagnostics.error(place, "the sources lie in this folder. Name another for the output.");
+        return false;
+    }
+    for (const char* part : {"screens", "bitmaps"})
+        if (IsWithin(to, from / part)) {
+            diagnostics.error(place,
+                              fmt::format("lies in '{}' of the sources, which the next build reads. Name "
+                                          "another folder, such as build/ProjPath.",
+                                          part));
+            return false;
+        }
+    if (to.parent_path() == from)
+        diagnostics.warning(place,
+                            "the profile, which goes beside the output, is written among the sources. Name a "
+                            "folder such as build/ProjPath.");
+    return true;
+}
+
 } // namespace
 
 fs::path DefaultHeader(const fs::path& output)
@@ -77,12 +114,8 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
                                   Diagnostics& diagnostics)
 {
     const fs::path folder = FolderPath(output);
-    std::error_code missing;
-    if (fs::equivalent(source, folder, missing)) {
-        diagnostics.error({output.string(), 0},
-                          "this is the folder of the sources. Name another for the output.");
+    if (!CheckOutputPlace(source, folder, output.string(), diagnostics))
         return std::nullopt;
-    }
 
     const ProjectSource project = ReadProject(source, diagnostics);
     const std::vector<Pattern> patterns = ReadScreens(source, project, diagnostics).patterns;

@@ -152,7 +152,7 @@ void ItemWriter::writeAction()
             exact_.push_back("pattern: " + ExactText(item_.name));
         return;
     }
-    if (item_.record.ID_Type)
+    if (item_.record.ID_Type || (schema_ && schema_->onlyActs))
         parts_.push_back("action: " + (action ? action->name : std::to_string(item_.record.ID_Type)));
     if (item_.name.empty())
         return;

@@ -2,6 +2,8 @@
 
 #include "tools/ptn/common/Names.h"
 
+#include <set>
+
 namespace ptn
 {
 
@@ -47,13 +49,89 @@ void CheckNames(const Source& source, const Subject& what, const std::map<std::s
             CheckNames(source.child(pair.second), what, parameters, diagnostics);
 }
 
+// The groups that a part of a group uses by their names.
+void AddUsed(const Source& source, std::set<std::string>& used)
+{
+    for (const Source& member : source.members())
+        AddUsed(member, used);
+    if (source.isMap())
+        for (const auto& pair : source.node()) {
+            const Source value = source.child(pair.second);
+            if (pair.first.IsScalar() && pair.first.Scalar() == "use" && value.isText())
+                used.insert(value.text());
+            else
+                AddUsed(value, used);
+        }
+}
+
+/// Looks for the way from a group back to itself.
+class Circle
+{
+  public:
+    Circle(const Groups& groups, const Groups* outer) : groups_(groups), outer_(outer) {}
+
+    /// The names from the group on, itself at the end; empty without a way back.
+    std::vector<std::string> from(const std::string& name)
+    {
+        start_ = name;
+        return follows(name) ? way_ : std::vector<std::string>();
+    }
+
+  private:
+    bool follows(const std::string& name)
+    {
+        const Groups::Group* group = groups_.find(name);
+        if (!group && outer_)
+            group = outer_->find(name);
+        if (!group || !seen_.insert(name).second)
+            return false;
+        way_.push_back(name);
+        std::set<std::string> used;
+        AddUsed(group->items, used);
+        for (const std::string& next : used) {
+            if (next == start_) {
+                way_.push_back(next);
+                return true;
+            }
+            if (follows(next))
+                return true;
+        }
+        way_.pop_back();
+        return false;
+    }
+
+    const Groups& groups_;
+    const Groups* outer_;
+    std::string start_;
+    std::set<std::string> seen_;
+    std::vector<std::string> way_;
+};
+
 } // namespace
 
-void Groups::read(const Source& section, Diagnostics& diagnostics)
+void Groups::checkCircles(const Groups* outer, Diagnostics& diagnostics)
+{
+    for (auto& [name, group] : groups_) {
+        const std::vector<std::string> way = Circle(*this, outer).from(name);
+        if (way.empty() || group.circular)
+            continue;
+        std::string list;
+        for (const std::string& one : way) {
+            list += (list.empty() ? "" : " > ") + one;
+            if (const auto own = groups_.find(one); own != groups_.end())
+                own->second.circular = true;
+        }
+        diagnostics.error(group.place, "group " + Quoted(name),
+                          " uses itself: {}. A group can not use itself. Take one of these uses away.", list);
+    }
+}
+
+void Groups::read(const Source& section, const Groups* outer, Diagnostics& diagnostics)
 {
     for (const Entry& entry : Entries(section, "'groups'", diagnostics)) {
         const Subject what = "group " + Quoted(entry.name);
         Group group;
+        group.place = entry.place;
         for (const Entry& part : Entries(entry.value, what, diagnostics)) {
             if (part.name == "parameters")
                 group.parameters = Parameters(part.value, what, diagnostics);
@@ -68,6 +146,7 @@ void Groups::read(const Source& section, Diagnostics& diagnostics)
         CheckNames(group.items, what, group.parameters, diagnostics);
         groups_[entry.name] = group;
     }
+    checkCircles(outer, diagnostics);
 }
 
 const Groups::Group* Groups::find(const std::string& name) const

@@ -1,6 +1,8 @@
 #include "tools/ptn/model/MarkArt.h"
 
+#include <algorithm>
 #include <sstream>
+#include <vector>
 
 namespace ptn
 {
@@ -13,6 +15,22 @@ std::string SizeText(SIZE size)
     return std::to_string(size.cx) + " x " + std::to_string(size.cy);
 }
 
+// What is left out is background, but mostly it was meant to be there.
+void DoubtSize(const std::vector<std::size_t>& widths, SIZE size, const Subject& what, const Place& place,
+               Diagnostics& diagnostics)
+{
+    const auto full = static_cast<std::size_t>(size.cx);
+    const auto narrow =
+        std::find_if(widths.begin(), widths.end(), [&](std::size_t width) { return width < full; });
+    if (narrow != widths.end())
+        diagnostics.doubt(place,
+                          what + ", row " + std::to_string(1 + (narrow - widths.begin())) +
+                              fmt::format(": has {} of {} columns. Write the others as '.'.", *narrow, full));
+    else if (!widths.empty() && widths.size() < static_cast<std::size_t>(size.cy))
+        diagnostics.doubt(
+            place, what + fmt::format(": has {} of {} rows. Write the others too.", widths.size(), size.cy));
+}
+
 } // namespace
 
 std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Subject& what,
@@ -22,6 +40,7 @@ std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Sub
     bool whole = true;
     std::istringstream lines(art);
     int row = 0;
+    std::vector<std::size_t> widths;
     for (std::string line; std::getline(lines, line); ++row) {
         const Subject where = what + ", row " + std::to_string(row + 1);
         line.erase(line.find_last_not_of(" \r") + 1);
@@ -39,6 +58,7 @@ std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Sub
                               SizeText(size));
             return std::nullopt;
         }
+        widths.push_back(line.size());
         for (std::size_t column = 0; column < line.size(); ++column) {
             const std::size_t bit =
                 static_cast<std::size_t>(row) * static_cast<std::size_t>(size.cx) + column;
@@ -46,6 +66,8 @@ std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Sub
                 mark.mark[bit / 8] |= static_cast<BYTE>(1 << bit % 8);
         }
     }
+    if (whole)
+        DoubtSize(widths, size, what, place, diagnostics);
     return whole ? std::optional(mark) : std::nullopt;
 }
 
@@ -57,16 +79,14 @@ std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size)
         if (isSet(bit))
             return std::nullopt;
     std::string art;
-    std::size_t end = 0;
+    bool blank = true;
     for (int bit = 0; bit < pixels; ++bit) {
         art += isSet(bit) ? 'X' : '.';
-        if (bit % size.cx == size.cx - 1) {
+        blank = blank && !isSet(bit);
+        if (bit % size.cx == size.cx - 1)
             art += '\n';
-            if (art.find('X', end) != std::string::npos)
-                end = art.size();
-        }
     }
-    return art.substr(0, end);
+    return blank ? "" : art;
 }
 
 } // namespace ptn

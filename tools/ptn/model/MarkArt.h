@@ -17,7 +17,7 @@ namespace ptn
 std::optional<MARKDATA> ReadMarkArt(const std::string& art, SIZE size, const Subject& what,
                                     const Place& place, Diagnostics& diagnostics);
 
-/// The reverse, with the blank rows at its end left out. None when bits are set that no pixel shows.
+/// The reverse; empty for a mark without foreground. None when bits are set that no pixel shows.
 std::optional<std::string> MarkArt(const MARKDATA& mark, SIZE size);
 
 } // namespace ptn

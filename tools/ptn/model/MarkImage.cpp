@@ -1,17 +1,13 @@
 #include "tools/ptn/model/MarkImage.h"
 
-#include <gdk-pixbuf/gdk-pixbuf.h>
-#include <memory>
+#include "tools/ptn/common/Files.h"
+#include "tools/ptn/model/PictureFile.h"
 
 namespace ptn
 {
 
 namespace
 {
-
-struct Unref {
-    void operator()(GdkPixbuf* picture) const { g_object_unref(picture); }
-};
 
 // What a pixel counts on a scale of 0 to 255, of which the lower half is dark.
 bool IsDark(const guchar* pixel, bool alpha)
@@ -26,23 +22,31 @@ bool IsDark(const guchar* pixel, bool alpha)
 std::optional<MARKDATA> ReadMarkImage(const std::filesystem::path& file, SIZE size, const Subject& what,
                                       const Place& place, Diagnostics& diagnostics)
 {
-    GError* problem = nullptr;
-    const std::unique_ptr<GdkPixbuf, Unref> picture(gdk_pixbuf_new_from_file(file.c_str(), &problem));
-    if (!picture) {
+    const auto unread = [&](const std::string& problem) {
         diagnostics.error(place, what, ": '{}' can not be read: {}. Give a PNG or XBM file.", file.string(),
-                          problem->message);
-        g_error_free(problem);
+                          problem);
         return std::nullopt;
-    }
-    const int width = gdk_pixbuf_get_width(picture.get());
-    const int height = gdk_pixbuf_get_height(picture.get());
-    if (width != size.cx || height != size.cy) {
+    };
+    const std::optional<std::string> bytes = ReadBytes(file);
+    if (!bytes)
+        return unread("it is no file, or larger than any picture");
+    // Before it is decoded, so that nothing is decoded that is not wanted.
+    const std::optional<PictureHead> head = ReadPictureHead(*bytes);
+    if (head && head->width > 0 && (head->width != size.cx || head->height != size.cy)) {
         diagnostics.error(place, what,
                           ": '{}' has {} x {} pixels. Marks of this number have {} x {}; scale it, or choose "
                           "a number of another group.",
-                          file.string(), width, height, size.cx, size.cy);
+                          file.string(), head->width, head->height, size.cx, size.cy);
         return std::nullopt;
     }
+    std::string problem;
+    const DecodedPicture picture = DecodePicture(*bytes, problem);
+    if (!picture)
+        return unread(problem);
+    const int width = gdk_pixbuf_get_width(picture.get());
+    const int height = gdk_pixbuf_get_height(picture.get());
+    if (width != size.cx || height != size.cy)
+        return unread("its head tells another size than it has");
     MARKDATA mark{};
     const int channels = gdk_pixbuf_get_n_channels(picture.get());
     const int stride = gdk_pixbuf_get_rowstride(picture.get());

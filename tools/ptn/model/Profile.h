@@ -59,14 +59,16 @@ class ProfileSource
     /// The value of a key in EUC-JP, empty when it is missing, and where it stands.
     std::string value(const std::string& section, const std::string& name, Place* place = nullptr) const;
 
-  private:
     struct Key {
         std::string section;
         std::string name;
-        std::string value; ///< EUC-JP
+        std::string value; ///< EUC-JP, its fields parted by commas
         Place place;
     };
+    /// All keys, in the order of the sources.
+    const std::vector<Key>& keys() const { return keys_; }
 
+  private:
     void readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics);
     const Key* find(const std::string& section, const std::string& name) const;
     const Key* editionKey() const;

@@ -77,6 +77,7 @@ void MessageTable::read(const Source& section, const CodeTable& codes, Diagnosti
         if (!texts)
             continue;
         Row row;
+        row.place = entry.place;
         for (std::size_t language = 0; language < row.texts.size(); ++language) {
             const auto text = ToEuc((*texts)[language], PROFILE_FIELD_MAX, what, entry.place, diagnostics);
             row.texts.at(language) = text.value_or("");
@@ -113,7 +114,7 @@ std::string MessageTable::bytes() const
     return bytes;
 }
 
-void MessageTable::load(const std::string& bytes)
+void MessageTable::load(const std::string& bytes, const Place& place)
 {
     for (const auto& key : ProfileValues(bytes, "MESGDATA")) {
         const std::optional<int> number = KeyNumber(key.first, "MESG");
@@ -122,7 +123,8 @@ void MessageTable::load(const std::string& bytes)
         const std::vector<std::string> fields = ProfileFields(key.second);
         rows_[*number] = {Field(fields, 0),
                           Number(Field(fields, 1)),
-                          {Field(fields, 2), Field(fields, 3), Field(fields, 4)}};
+                          {Field(fields, 2), Field(fields, 3), Field(fields, 4)},
+                          place};
         names_.add("message-" + std::to_string(*number), *number);
     }
 }
@@ -185,6 +187,7 @@ void LimitTable::readRow(const Source& source, int& number, const CodeTable& cod
             number = Integer(entry.value, 1, CONT_LIMTDATA, "a limit: 'no'", diagnostics).value_or(number);
     const Subject what = "limit " + std::to_string(number);
     Row row;
+    row.place = source.place();
     int count = 1;
     std::optional<CodeTable::Cell> cell;
     const auto message = [&](const Entry& entry) {
@@ -265,7 +268,7 @@ std::string LimitTable::bytes(LimitForm form) const
     return bytes;
 }
 
-void LimitTable::load(const std::string& bytes, LimitForm form)
+void LimitTable::load(const std::string& bytes, LimitForm form, const Place& place)
 {
     for (const auto& key : ProfileValues(bytes, "LIMTDATA")) {
         const std::optional<int> number = KeyNumber(key.first, "LIMT");
@@ -275,7 +278,8 @@ void LimitTable::load(const std::string& bytes, LimitForm form)
         rows_[*number] = {Field(fields, 0),
                           {Number(Field(fields, 1)), Number(Field(fields, 2))},
                           {LimitNumber(Field(fields, 3), form), LimitNumber(Field(fields, 4), form)},
-                          {Number(Field(fields, 5)), Number(Field(fields, 6))}};
+                          {Number(Field(fields, 5)), Number(Field(fields, 6))},
+                          place};
     }
 }
 

@@ -26,15 +26,19 @@ class MessageTable
     bool empty() const { return rows_.empty(); }
 
     std::string bytes() const;
-    void load(const std::string& bytes);
+    void load(const std::string& bytes, const Place& place);
     std::string yaml() const;
 
-  private:
     struct Row {
         std::string code;
         int offset = 0;
-        std::array<std::string, 3> texts;
+        std::array<std::string, 3> texts; ///< EUC-JP
+        Place place;
     };
+    /// By their numbers.
+    const std::map<int, Row>& rows() const { return rows_; }
+
+  private:
     NameTable names_{"message", CONT_MESGDATA + 1, 1};
     std::map<int, Row> rows_;
 };
@@ -70,16 +74,20 @@ class LimitTable
     std::optional<ValueRange> rangeOf(const std::string& code, int offset) const;
 
     std::string bytes(LimitForm form) const;
-    void load(const std::string& bytes, LimitForm form);
+    void load(const std::string& bytes, LimitForm form, const Place& place);
     std::string yaml(const MessageTable& messages) const;
 
-  private:
     struct Row {
         std::string code;
         std::array<int, 2> offsets{}; ///< last and first: a row covers the cells from the second to the first
         ValueRange limits;
         std::array<int, 2> errors{};
+        Place place;
     };
+    /// By their numbers.
+    const std::map<int, Row>& rows() const { return rows_; }
+
+  private:
     void readRow(const Source& source, int& number, const CodeTable& codes, const MessageTable& messages,
                  LimitForm form, Diagnostics& diagnostics);
     std::map<int, Row> rows_;

@@ -17,6 +17,9 @@ namespace
 constexpr int MAX_DEPTH = 16;
 constexpr std::size_t MAX_ITEMS = 100000;
 
+/// Entries of a screen with its groups written out: those in groups count as often as these are used.
+constexpr std::size_t MAX_ENTRIES = 20000;
+
 using Items = std::vector<PatternItem>;
 
 /// Copies that "repeat" makes.
@@ -61,9 +64,10 @@ class ListReader
   public:
     explicit ListReader(const ItemContext& context) : context_(context), diagnostics_(context.diagnostics) {}
 
-    Items readList(const Source& list, const std::string& number, int depth);
+    Items readAll(const Source& list);
 
   private:
+    Items readList(const Source& list, const std::string& number, int depth);
     Items readEntry(const Source& source, const std::string& number, int depth);
     Items readPart(const std::vector<Entry>& entries, const Source& source, Subject& label,
                    const std::string& number, int depth);
@@ -74,8 +78,29 @@ class ListReader
 
     const ItemContext& context_;
     Diagnostics& diagnostics_;
-    std::size_t made_ = 0;
+    bool hasRoom(std::size_t items, const Subject& label, const Place& place);
+
+    std::size_t entries_ = 0; ///< that were read
+    std::size_t made_ = 0;    ///< items
+    bool full_ = false;       ///< and it was reported
 };
+
+// Takes room for that many items, wherever in the screen they are; reports it once when there is none.
+bool ListReader::hasRoom(std::size_t items, const Subject& label, const Place& place)
+{
+    made_ += items;
+    if (full_ || (made_ <= MAX_ITEMS && entries_ <= MAX_ENTRIES))
+        return !full_;
+    full_ = true;
+    if (made_ > MAX_ITEMS)
+        diagnostics_.error(place, label, ": the screen gets more than {} items. Repeat less.", MAX_ITEMS);
+    else
+        diagnostics_.error(place, label,
+                           ": the screen has more than {} entries with its groups written out. Use fewer, or "
+                           "'repeat'.",
+                           MAX_ENTRIES);
+    return false;
+}
 
 const Entry* Find(const std::vector<Entry>& entries, const char* name)
 {
@@ -106,6 +131,9 @@ Items ListReader::repeated(const Items& items, const Entry& entry, const Subject
     const Repeat repeat = ReadRepeat(entry.value, label + ": 'repeat'", diagnostics_);
     Items all;
     for (int copy = 0; copy < repeat.count(); ++copy) {
+        // The first one is the one that was read.
+        if (copy && !hasRoom(items.size(), label, place))
+            return {};
         Items moved = items;
         for (PatternItem& item : moved) {
             const CodeTable::Row* row =
@@ -124,11 +152,6 @@ Items ListReader::repeated(const Items& items, const Entry& entry, const Subject
         }
         if (!move(moved, repeat.x(copy), repeat.y(copy), label + " with its repetitions", place))
             return {};
-        made_ += moved.size();
-        if (made_ > MAX_ITEMS) {
-            diagnostics_.error(place, label, ": the screen gets more than {} items. Repeat less.", MAX_ITEMS);
-            return {};
-        }
         all.insert(all.end(), moved.begin(), moved.end());
     }
     return all;
@@ -148,6 +171,8 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
                            use.value.text(), Suggestion(use.value.text(), names));
         return {};
     }
+    if (group->circular)
+        return {};
     const auto arguments = std::make_shared<Arguments>(group->parameters);
     for (const Entry& entry : entries) {
         if (entry.name == "use" || entry.name == "at" || entry.name == "repeat")
@@ -169,7 +194,7 @@ Source ListReader::groupItems(const Entry& use, const std::vector<Entry>& entrie
         diagnostics_.error(use.place, label, ": the group needs '{}'. Write a value for it.", argument.first);
         return {};
     }
-    return group->items.with(arguments);
+    return group->items.with(arguments, use.place);
 }
 
 // Puts the entries of a part side by side, and below each other.
@@ -239,6 +264,9 @@ Items ListReader::readPart(const std::vector<Entry>& entries, const Source& sour
 Items ListReader::readEntry(const Source& source, const std::string& number, int depth)
 {
     Subject label = Subject::oneOf("item " + number);
+    ++entries_;
+    if (!hasRoom(0, label, source.place()))
+        return {};
     const std::vector<Entry> entries = SpelledOut(Entries(source, label, diagnostics_), label, diagnostics_);
     if (source.isEmpty()) {
         diagnostics_.error(source.place(), label + " is empty. Write its type and attributes, or remove it.");
@@ -247,11 +275,19 @@ Items ListReader::readEntry(const Source& source, const std::string& number, int
     Items items;
     if (!Find(entries, "type") && (Find(entries, "use") || Find(entries, "items"))) {
         items = readPart(entries, source, label, number, depth);
-    } else if (const auto item = ReadItem(source, entries, label, context_)) {
+    } else if (const auto item = ReadItem(source, entries, label, context_);
+               item && hasRoom(1, label, source.place())) {
         items = {*item};
     }
     const Entry* repeat = Find(entries, "repeat");
     return repeat && !items.empty() ? repeated(items, *repeat, label, source.place()) : items;
+}
+
+// Of a screen with too many items the first ones alone would only be in the way.
+Items ListReader::readAll(const Source& list)
+{
+    Items items = readList(list, "", 0);
+    return full_ ? Items() : items;
 }
 
 Items ListReader::readList(const Source& list, const std::string& number, int depth)
@@ -273,7 +309,7 @@ std::vector<PatternItem> ReadItems(const Source& list, const Subject& what, cons
         context.diagnostics.error(list.place(), what + " must be a list. Begin each item with '-'.");
         return {};
     }
-    return ListReader(context).readList(list, "", 0);
+    return ListReader(context).readAll(list);
 }
 
 } // namespace ptn

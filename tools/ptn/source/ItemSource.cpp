@@ -53,6 +53,7 @@ class ItemReader
     void readTexts(const Source& source, const Place& place);
     void readAction(const Source& source);
     bool checkAction() const;
+    void checkPlace(const std::vector<Entry>& entries);
 
     const ProjectSource& project_;
     const Styles& styles_;
@@ -62,6 +63,7 @@ class ItemReader
     PatternItem item_;
     Attributes attributes_;
     Placement placement_;
+    bool acts_ = false; ///< an action was given
 };
 
 void ItemReader::applyStyle(const std::string& name, bool named, const Place& place)
@@ -177,6 +179,7 @@ void ItemReader::readTexts(const Source& source, const Place& place)
 
 void ItemReader::readAction(const Source& source)
 {
+    acts_ = true;
     const std::string name = source.text();
     const std::optional<int> code = ParseInteger(name);
     if (const ActionSchema* action = FindAction(name.c_str()); action && source.isText()) {
@@ -203,10 +206,32 @@ bool ItemReader::checkAction() const
     return false;
 }
 
+// What an item itself says of its place; a style's size is there to be replaced.
+void ItemReader::checkPlace(const std::vector<Entry>& entries)
+{
+    const bool rect =
+        std::any_of(entries.begin(), entries.end(), [](const Entry& entry) { return entry.name == "rect"; });
+    for (const Entry& entry : entries) {
+        if (rect && (entry.name == "at" || entry.name == "size"))
+            diagnostics_.error(entry.place, label_,
+                               ": has both 'rect' and '{}', which say the same. Remove one of them.",
+                               entry.name);
+        else if (entry.name == "size" && schema_.drawnSize)
+            diagnostics_.doubt(entry.place, label_ + ": 'size' changes nothing, since a " + schema_.name +
+                                                " is as large as what it shows. Remove it, or write another "
+                                                "font or 'width'.");
+    }
+}
+
 std::optional<PatternItem> ItemReader::read(const std::vector<Entry>& entries)
 {
     applyStyles(entries);
     applyOwn(entries);
+    checkPlace(entries);
+    if (schema_.onlyActs && !acts_)
+        diagnostics_.doubt(item_.place, label_ +
+                                            ": does nothing when it is pressed. Write an 'action' such as "
+                                            "close, message or open-application, or none if that is meant.");
     const auto exact = std::find_if(entries.begin(), entries.end(),
                                     [](const Entry& entry) { return entry.name == "exact"; });
     const bool placed = exact != entries.end() && HasExactRect(exact->value)

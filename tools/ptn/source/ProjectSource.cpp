@@ -1,31 +1,29 @@
 #include "tools/ptn/source/ProjectSource.h"
 
 #include "base/EucText.h"
+#include "tools/ptn/common/CppSource.h"
 #include "tools/ptn/common/Identifier.h"
 
 #include <algorithm>
-#include <sstream>
+#include <cctype>
 
 namespace ptn
 {
 
 namespace fs = std::filesystem;
 
-void KnownPatterns::addLine(const std::string& line)
+void KnownPatterns::addSource(const std::string& source)
 {
-    for (std::size_t at = line.find('"'); at != std::string::npos; at = line.find('"', at + 1)) {
-        const std::size_t end = line.find('"', at + 1);
-        if (end == std::string::npos)
-            break;
-        texts_.insert(Utf8ToEuc(line.substr(at + 1, end - at - 1)));
-        at = end;
-    }
+    const CppSource parts = ReadCpp(source);
+    for (const std::string& text : parts.texts)
+        texts_.insert(Utf8ToEuc(text));
     const std::string scope = "screen::";
-    for (std::size_t at = line.find(scope); at != std::string::npos; at = line.find(scope, at)) {
+    const std::string& code = parts.code;
+    for (std::size_t at = code.find(scope); at != std::string::npos; at = code.find(scope, at)) {
         at += scope.size();
         const auto isPart = [](char byte) { return (byte & 0x80) || std::isalnum(byte) || byte == '_'; };
-        const auto begin = line.begin() + static_cast<std::ptrdiff_t>(at);
-        constants_.emplace(begin, std::find_if_not(begin, line.end(), isPart));
+        const auto begin = code.begin() + static_cast<std::ptrdiff_t>(at);
+        constants_.emplace(begin, std::find_if_not(begin, code.end(), isPart));
     }
 }
 
@@ -59,9 +57,7 @@ std::optional<KnownPatterns> QuotedTexts(const fs::path& path, const Place& plac
                             file.string()));
             return std::nullopt;
         }
-        std::istringstream lines(*source);
-        for (std::string line; std::getline(lines, line);)
-            known.addLine(line);
+        known.addSource(*source);
     }
     return known;
 }

@@ -24,8 +24,8 @@ namespace ptn
 class KnownPatterns
 {
   public:
-    /// Takes what a line of the sources names: texts in quotes, and constants such as screen::Main.
-    void addLine(const std::string& line);
+    /// Takes what C++ source names: texts in quotes, and constants such as screen::Main.
+    void addSource(const std::string& source);
 
     /// 1 when a pattern of that name, in EUC-JP, is among them, else 0.
     std::size_t count(const std::string& name) const;
@@ -53,8 +53,8 @@ struct ProjectSource {
     Vocabulary vocabulary() const { return {resources, messages.names()}; }
 };
 
-/// What a C++ source file, or all those of a folder, name. None, with an error reported, when it can not be
-/// read.
+/// What a C++ source file, or all those of a folder, name, except in comments. None, with an error reported,
+/// when it can not be read.
 std::optional<KnownPatterns> QuotedTexts(const std::filesystem::path& path, const Place& place,
                                          Diagnostics& diagnostics);
 

@@ -85,7 +85,7 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
     readWindow(part("window"));
     if (parts.count("class"))
         readClass(parts["class"]);
-    groups_.read(part("groups"), diagnostics_);
+    groups_.read(part("groups"), &project_.groups, diagnostics_);
     pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, diagnostics_});
     if (parts.count("exact"))
         ReadExactHeader(part("exact"), pattern_.header, diagnostics_);

@@ -129,7 +129,7 @@ class GroupSection : public Section
     GroupSection() : Section("groups", nullptr, ProjectFile::None) {}
     void read(P& to, const SectionSource& from) const override
     {
-        to.groups.read(from.value(), from.diagnostics);
+        to.groups.read(from.value(), nullptr, from.diagnostics);
     }
 };
 
@@ -154,7 +154,7 @@ class MessageSection : public Section
         to.messages.read(from.value(), to.codes, from.diagnostics);
     }
     Bytes bytes(const P& of) const override { return of.messages.empty() ? Bytes() : of.messages.bytes(); }
-    void load(P& to, const SectionFile& from) const override { to.messages.load(from.text()); }
+    void load(P& to, const SectionFile& from) const override { to.messages.load(from.text(), from.place); }
     void emit(const P& of, FileMap& sources) const override { sources["tables.yaml"] += of.messages.yaml(); }
 };
 
@@ -170,7 +170,10 @@ class LimitSection : public Section
     {
         return of.limits.empty() ? Bytes() : of.limits.bytes(FormOf(of));
     }
-    void load(P& to, const SectionFile& from) const override { to.limits.load(from.text(), FormOf(to)); }
+    void load(P& to, const SectionFile& from) const override
+    {
+        to.limits.load(from.text(), FormOf(to), from.place);
+    }
     void emit(const P& of, FileMap& sources) const override
     {
         sources["tables.yaml"] += of.limits.yaml(of.messages);

@@ -48,8 +48,8 @@ std::vector<std::string> ArgumentNames(const std::string& text)
 }
 
 Source::Source(std::shared_ptr<const std::string> file, const YAML::Node& node,
-               std::shared_ptr<const Arguments> arguments)
-    : file_(std::move(file)), node_(node), arguments_(std::move(arguments))
+               std::shared_ptr<const Arguments> arguments, std::shared_ptr<const std::string> use)
+    : file_(std::move(file)), node_(node), arguments_(std::move(arguments)), use_(std::move(use))
 {
     // Marks count from 0; nodes that were not read from a file have none.
     if (node.IsDefined() && node.Mark().line >= 0)
@@ -82,9 +82,13 @@ void Source::fillIn()
         node_.reset(YAML::Node(text));
 }
 
-Source Source::with(std::shared_ptr<const Arguments> arguments) const
+Source Source::with(std::shared_ptr<const Arguments> arguments, const Place& use) const
 {
-    Source made(file_, node_, std::move(arguments));
+    // The outermost use, which is that of a screen.
+    const bool elsewhere = !use.use.empty() || !file_ || use.file != *file_;
+    const std::string place = use.use.empty() ? use.file + ":" + std::to_string(use.line) : use.use;
+    Source made(file_, node_, std::move(arguments),
+                elsewhere ? std::make_shared<const std::string>(place) : nullptr);
     made.line_ = made.line_ ? made.line_ : line_;
     return made;
 }
@@ -97,17 +101,18 @@ Source& Source::operator=(const Source& other)
     node_.reset(other.node_);
     line_ = other.line_;
     arguments_ = other.arguments_;
+    use_ = other.use_;
     return *this;
 }
 
 Place Source::place() const
 {
-    return {file_ ? *file_ : std::string(), line_};
+    return {file_ ? *file_ : std::string(), line_, use_ ? *use_ : std::string()};
 }
 
 Source Source::child(const YAML::Node& node, const Place& key) const
 {
-    Source made(file_, node, arguments_);
+    Source made(file_, node, arguments_, use_);
     if (made.isEmpty())
         made.line_ = key.line;
     return made;

@@ -24,14 +24,15 @@ class Source
   public:
     Source() = default;
     Source(std::shared_ptr<const std::string> file, const YAML::Node& node,
-           std::shared_ptr<const Arguments> arguments = nullptr);
+           std::shared_ptr<const Arguments> arguments = nullptr,
+           std::shared_ptr<const std::string> use = nullptr);
     Source(const Source& other) = default;
     // A node's own assignment would change the tree that it belongs to.
     Source& operator=(const Source& other);
 
     const YAML::Node& node() const { return node_; }
     Place place() const;
-    Source child(const YAML::Node& node) const { return {file_, node, arguments_}; }
+    Source child(const YAML::Node& node) const { return {file_, node, arguments_, use_}; }
     /// The value of a key. An empty one has no place of its own, so it gets that of the key.
     Source child(const YAML::Node& node, const Place& key) const;
 
@@ -47,7 +48,8 @@ class Source
 
     /// The same node, in which "$name" and "${name}" stand for arguments: a text that is nothing else is
     /// replaced by the argument, whatever that is; within a longer text only texts can be put in.
-    Source with(std::shared_ptr<const Arguments> arguments) const;
+    /// @param use  the place that asks for it, which the places of the node and of all in it name as well
+    Source with(std::shared_ptr<const Arguments> arguments, const Place& use) const;
 
   private:
     void fillIn();
@@ -56,6 +58,7 @@ class Source
     YAML::Node node_;
     int line_ = 0;
     std::shared_ptr<const Arguments> arguments_;
+    std::shared_ptr<const std::string> use_; ///< see Place; null without one
 };
 
 /// The names of the arguments that a text asks for.
