@@ -252,6 +252,14 @@ const Mistake TABLES[] = {
      "mark 'dot' (0), row 1: the picture is too large. "},
 };
 
+const Mistake FONTS[] = {
+    {"font_that_there_is_not", "project.yaml", "small: '-*-fixed-", "small: '-*-fixd-",
+     "src/project.yaml:13: warning: font 'small': the X server has none that is called "
+     "'-*-fixd-medium-r-normal--14-"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Fonts, MistakeIn, testing::ValuesIn(FONTS), NameOf);
+
 INSTANTIATE_TEST_SUITE_P(Tables, MistakeIn, testing::ValuesIn(TABLES), NameOf);
 
 const Mistake PROFILE[] = {

@@ -62,4 +62,26 @@ TEST(Watch, sees_a_folder_of_screens_that_is_made_later)
         << watch.output();
 }
 
+TEST(Watch, shows_what_is_found_beside_the_screen)
+{
+    useToolkit();
+    XDriver user;
+    Sources sources;
+    sources.checkedBase().screen(ScreenWith("hot"));
+    sources.write("profile.yaml", "profile: { PTRN: { PTRNSTART: a, PTRNSTOP: a } }\n");
+    const Program watch("ptn", "ptn", {"watch", "src", "a"});
+    const auto shown = [&] { return user.screen().count(0xFF8000) >= 200 * 100; };
+    const auto isWide = [&] {
+        for (const ScreenWindow& window : user.windows())
+            if (window.width > 2 * 200)
+                return true;
+        return false;
+    };
+    ASSERT_TRUE(user.waitFor(shown, "the screen")) << watch.output();
+    EXPECT_FALSE(isWide()) << "nothing is found in it";
+    sources.screen(ScreenWith("hot") + "items: [{ type: spin, rect: [400, 1, 420, 40], data: A }]\n");
+    EXPECT_TRUE(user.waitFor([&] { return isWide() && shown(); }, "the screen with what was found"))
+        << watch.output();
+}
+
 } // namespace

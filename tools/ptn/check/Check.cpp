@@ -40,6 +40,7 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
         read.project.registry = QuotedTexts(registry, {registry, 0}, diagnostics);
     CheckTables(read.project, diagnostics);
     CheckProfile(read.project, diagnostics);
+    CheckFonts(read.project, {folder.string(), 0}, diagnostics);
     CheckPictures(read.project, folder / (compiled ? "Bitmap" : "bitmaps"), diagnostics);
     for (const Pattern& pattern : read.patterns) {
         CheckWindow(pattern, read.project, diagnostics);

@@ -52,6 +52,10 @@ void CheckProfile(const ProjectSource& project, Diagnostics& diagnostics);
 void CheckPictures(const ProjectSource& project, const std::filesystem::path& folder,
                    Diagnostics& diagnostics);
 
+/// Whether an X server has the fonts; nothing is said without one that has its usual fonts.
+/// @param whole  the place of what is nowhere in particular
+void CheckFonts(const ProjectSource& project, const Place& whole, Diagnostics& diagnostics);
+
 /// Width and height of the display, key DISPSIZE; none when the profile does not tell.
 std::optional<SIZE> DisplaySize(const ProjectSource& project);
 

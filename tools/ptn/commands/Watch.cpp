@@ -34,7 +34,9 @@ void WatchCommand::addOptions(CLI::App& line)
     line.add_option("SRC", source_, "Folder of sources")->required()->check(CLI::ExistingDirectory);
     screen_.addPattern(line);
     screen_.addContent(line);
-    line.footer("Errors stand in place of the picture. Closing the window ends it.");
+    line.footer(
+        "Errors stand in place of the picture, and what 'ptn check' finds beside it. Closing the window\n"
+        "ends it.");
 }
 
 int WatchCommand::run()

@@ -90,6 +90,7 @@ void Resources::readFonts(const Source& section, Diagnostics& diagnostics)
     for (const NumberedEntry& entry : NumberedEntries(section, {"x11"}, fonts_, diagnostics)) {
         const Subject what = "font " + Quoted(entry.name);
         const auto names = Texts(entry.value, what, diagnostics);
+        fontPlaces_.at(entry.number) = entry.place;
         for (std::size_t language = 0; names && language < names->size(); ++language) {
             const auto name =
                 ToEuc((*names)[language], tessary::PROFILE_FIELD_MAX, what, entry.place, diagnostics);

@@ -39,6 +39,9 @@ class Resources
     /// The X names of a font number in EUC-JP, one per language; empty when it is not defined.
     const std::array<std::string, 3>& fontNames(int font) const { return fontNames_.at(font); }
 
+    /// Where a font is defined; nowhere in a compiled project.
+    const Place& fontPlace(int font) const { return fontPlaces_.at(font); }
+
     /// The file "PtrnColr".
     std::string colorBytes() const;
     /// The file "PtrnMark".
@@ -63,6 +66,7 @@ class Resources
     std::array<COLRDATA, CONT_COLR> colorData_{};
     std::array<std::array<std::string, 3>, CONT_FONT> fontNames_;
     std::array<SIZE, CONT_FONT> fontCells_{};
+    std::array<Place, CONT_FONT> fontPlaces_;
     std::array<MARKDATA, CONT_MARK> markData_{};
 };
 

@@ -16,7 +16,7 @@ struct WatchJob {
 };
 
 /// Shows the screen in a window until that is closed, and draws it anew whenever a source is saved. Errors
-/// stand in place of the picture.
+/// stand in place of the picture, and what "ptn check" finds beside it.
 /// @return false when there is no display or nothing to watch
 bool Watch(const WatchJob& job, Diagnostics& diagnostics);
 
