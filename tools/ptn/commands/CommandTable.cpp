@@ -10,6 +10,7 @@
     LINE(Render)                                                                                             \
     LINE(Watch)                                                                                              \
     LINE(Run)                                                                                                \
+    LINE(Log)                                                                                                \
     LINE(Help)
 
 namespace ptn
