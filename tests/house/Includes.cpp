@@ -50,6 +50,7 @@ constexpr Area AREAS[] = {
     {"tools/ptn/starter/program", Group::sample, 0}, // the program of a new project
     {"tools/ptn/commands", Group::tool, 9},
     {"tools/ptn/main.cpp", Group::tool, 10},
+    {"docs/programs", Group::sample, 0}, // the examples of the manual
     {"tests/support", Group::tests, 0, true},
     {"tests", Group::tests, 1, true},
     {"bench", Group::tests, 1, true},
