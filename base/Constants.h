@@ -1,7 +1,7 @@
 // Sizes, counts and codes shared by records, files and screens.
 #pragma once
 
-// Items a pattern may hold.
+/// Types of the items that a pattern may hold.
 enum PtrnType {
     PTRN_GBOX = 1,  ///< group box
     PTRN_LINE = 2,  ///< line
@@ -22,32 +22,32 @@ enum PtrnType {
 constexpr int CONT_PTRN = PTRN_SPIN; ///< the last one
 
 // Resource tables.
-constexpr int CONT_COLR = 100;
-constexpr int CONT_FONT = 20;
-constexpr int SIZE_FONT = 30;
-constexpr int CONT_MARK = 350;
-constexpr int SIZE_MARK = 512;
+constexpr int CONT_COLR = 100; ///< colours of a project
+constexpr int CONT_FONT = 20;  ///< fonts of a project, in each language
+constexpr int SIZE_FONT = 30;  ///< not used; a font name may be as long as a field of the profile
+constexpr int CONT_MARK = 350; ///< marks of a project
+constexpr int SIZE_MARK = 512; ///< bytes of a mark, of up to 64 by 64 pixels
 
 // Parameters and texts of a pattern. Character arrays are two bytes longer than the sizes.
-constexpr int CONT_PARM = 30;
-constexpr int CONT_PARM1 = 30;
-constexpr int CONT_PARM2 = 10;
-constexpr int SIZE_PTRNNAME = 80;
-constexpr int SIZE_LOGONAME = 20;
-constexpr int SIZE_BMAPNAME = 20;
-constexpr int SIZE_PTRNTEXT = 100;
-constexpr int SIZE_ID_NAME = 80;
-constexpr int SIZE_ID_CODE = 20;
+constexpr int CONT_PARM = 30;      ///< parameters of an item
+constexpr int CONT_PARM1 = 30;     ///< parameters of a pattern
+constexpr int CONT_PARM2 = 10;     ///< numbers of a pattern for the application
+constexpr int SIZE_PTRNNAME = 80;  ///< bytes of a title and of the name of a pattern
+constexpr int SIZE_LOGONAME = 20;  ///< bytes of the file name of a logo
+constexpr int SIZE_BMAPNAME = 20;  ///< bytes of the file name of a background
+constexpr int SIZE_PTRNTEXT = 100; ///< bytes of the text of an item
+constexpr int SIZE_ID_NAME = 80;   ///< bytes of the name of the pattern that an action opens
+constexpr int SIZE_ID_CODE = 20;   ///< bytes of the name of a code
 
 // Message and limit tables.
-constexpr int CONT_MESGDATA = 500;
-constexpr int SIZE_MESGTEXT = 100;
-constexpr int CONT_LIMTDATA = 500;
+constexpr int CONT_MESGDATA = 500; ///< messages of a project
+constexpr int SIZE_MESGTEXT = 100; ///< bytes of a message
+constexpr int CONT_LIMTDATA = 500; ///< rows of the limit table
 
 // Log lines.
-constexpr int SIZE_LOGMESG1 = 20;
-constexpr int SIZE_LOGMESG2 = 200;
-constexpr int SIZE_LOGFILE = 16;
+constexpr int SIZE_LOGMESG1 = 20;  ///< bytes of a category
+constexpr int SIZE_LOGMESG2 = 200; ///< bytes of a message of the log
+constexpr int SIZE_LOGFILE = 16;   ///< bytes of the name of a source file
 
 // Reserved data numbers.
 constexpr int DTNO_SYSCALN = 1;  ///< 1..7: year, month, day, weekday (0 = Sunday), hour, minute, second

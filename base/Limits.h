@@ -6,7 +6,7 @@ namespace tessary
 
 /// Coordinates of the X protocol are 16 bits wide: no item, window or back buffer reaches further.
 constexpr int COORDINATE_MIN = -32768;
-constexpr int COORDINATE_MAX = 32767;
+constexpr int COORDINATE_MAX = 32767; ///< see COORDINATE_MIN
 
 /// Thickest line, outline, frame or edge that a drawing primitive accepts, in pixels.
 constexpr int LINE_WIDTH_MAX = 98;

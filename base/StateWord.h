@@ -31,6 +31,7 @@ constexpr bool IsFrozen(WORD word)
     return (word & STATE_FROZEN) != 0;
 }
 
+/// Blinks.
 constexpr bool IsFlickering(WORD word)
 {
     return (word & STATE_FLICKER) != 0;

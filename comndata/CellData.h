@@ -8,7 +8,7 @@
 
 /// One cell.
 struct COMNDATA {
-    WORD wData;
+    WORD wData;   ///< display state of the items, STATE_...
     float fData;  ///< integers are kept here too, so those beyond 2^24 lose their last digits (Get_dData has
                   ///< all)
     LPTSTR sData; ///< owned by the store, or the text of a message row; null when empty

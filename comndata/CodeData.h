@@ -18,7 +18,7 @@ static_assert(sizeof(PTRNCODE) == 34);
 
 /// A pattern file's name without folder and extension.
 struct PTRNNAME {
-    char name[SIZE_PTRNNAME + 2];
+    char name[SIZE_PTRNNAME + 2]; ///< EUC-JP
 };
 
 #pragma pack(pop)

@@ -71,18 +71,22 @@ void AND_wData(int no, WORD mask, const char* file, int line);
 /// Inverts the bits of `mask` in the word; the log shows the new word.
 void EOR_wData(int no, WORD mask, const char* file, int line);
 
+/// @{
 /// Bracket every read-modify-write and every fill. One thread uses the store, so they do nothing.
 void LockComnData();
 void UnlockComnData();
+/// @}
 
 // --- filling; the cells are set without any log line -----------------------------------------------
 
+/// @{
 /// Set one cell, the one numbered `no` + 1, when `count` is at least 1; no other cell is touched, whatever
 /// the count. `file` and `line` are not used.
 void Clear_wData(int no, int count, WORD value, const char* file, int line);
 void Clear_iData(int no, int count, int value, const char* file, int line);
 void Clear_fData(int no, int count, float value, const char* file, int line);
 void Clear_sData(int no, int count, const char* text, const char* file, int line);
+/// @}
 
 /// Empties the cells `no` to `no` + `count` - 1: word 0, number 0, no text. Numbers outside the store are
 /// skipped; a count of 0 or less does nothing.
@@ -100,9 +104,11 @@ void Clear_AllData(int no, const char* file, int line);
 
 // --- access log ------------------------------------------------------------------------------------
 
+/// @{
 /// Records one access when `file` is given and the log flag of the number is set.
 /// @param write  0 a read, any other value a write
 void SetLogfile(int no, int write, WORD value, const char* file, int line);
 void SetLogfile(int no, int write, int value, const char* file, int line);
 void SetLogfile(int no, int write, float value, const char* file, int line);
 void SetLogfile(int no, int write, const char* value, const char* file, int line);
+/// @}

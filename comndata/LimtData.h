@@ -12,13 +12,13 @@
 
 /// The limits of a range of data numbers.
 struct LIMTDATA {
-    char ID_Code[SIZE_ID_CODE + 2];
-    std::int32_t ID_No1;
-    std::int32_t ID_No2;
-    std::int32_t DataNo1; ///< last number covered: ID_Code + ID_No1; -1 unknown, 0 for an empty code
-    std::int32_t DataNo2; ///< first number covered: ID_Code + ID_No2; the same rules
-    float MIN_Data;       ///< limits are floats made of the 16 bits of a hexadecimal field
-    float MAX_Data;
+    char ID_Code[SIZE_ID_CODE + 2]; ///< code of the cells
+    std::int32_t ID_No1;            ///< offset of the last cell covered
+    std::int32_t ID_No2;            ///< offset of the first one
+    std::int32_t DataNo1;  ///< last number covered: ID_Code + ID_No1; -1 unknown, 0 for an empty code
+    std::int32_t DataNo2;  ///< first number covered: ID_Code + ID_No2; the same rules
+    float MIN_Data;        ///< limits are floats made of the 16 bits of a hexadecimal field
+    float MAX_Data;        ///< the upper limit
     std::int32_t ErrorNo1; ///< message for a value below MIN_Data; 0 none
     std::int32_t ErrorNo2; ///< message for a value above MAX_Data; 0 none
 };

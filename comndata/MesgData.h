@@ -12,9 +12,9 @@
 
 /// One message.
 struct MESGDATA {
-    char ID_Code[SIZE_ID_CODE + 2]; ///< code of the cell the message is bound to; empty for none
-    std::int32_t ID_No;             ///< offset within that code
-    char MesgText[SIZE_MESGTEXT + 2];
+    char ID_Code[SIZE_ID_CODE + 2];   ///< code of the cell the message is bound to; empty for none
+    std::int32_t ID_No;               ///< offset within that code
+    char MesgText[SIZE_MESGTEXT + 2]; ///< in the language of the load
 };
 static_assert(sizeof(MESGDATA) == 128);
 

@@ -29,12 +29,15 @@
 
 #include "base/Types.h"
 
+/// @{
 /// Reads the fields of a key. Every target is stored: a field that is missing or holds a character of
 /// another kind gives empty text or 0.
 /// @return how many fields were neither missing nor refused
 int ProfileRead(const char* file, const char* section, const char* key, const char* format, ...);
 int ProfileRead(const char* file, const char* section, const char* key, int number, const char* format, ...);
+/// @}
 
+/// @{
 /// Writes a key from the values that the arguments point to. A key that exists is replaced together with
 /// its comment; a new one becomes the first of its section; a new section is appended to the file, and a
 /// missing file is created. A value is cut at 255 bytes, which is recorded in the log. An empty key is
@@ -44,38 +47,53 @@ int ProfileRead(const char* file, const char* section, const char* key, int numb
 /// written (see above)
 int ProfileWrite(const char* file, const char* section, const char* key, const char* format, ...);
 int ProfileWrite(const char* file, const char* section, const char* key, int number, const char* format, ...);
+/// @}
 
+/// @{
 /// Removes the first line with the key, and its comment; the section header stays. A key that does not
 /// exist leaves the file alone.
 void ProfileDelete(const char* file, const char* section, const char* key);
 void ProfileDelete(const char* file, const char* section, const char* key, int number);
+/// @}
 
+/// @{
 /// Reads one field as letter i.
 int ProfileReadInt(const char* file, const char* section, const char* key);
 int ProfileReadInt(const char* file, const char* section, const char* key, int number);
+/// @}
 
+/// @{
 /// Reads one field as letter h.
 WORD ProfileReadHex(const char* file, const char* section, const char* key);
 WORD ProfileReadHex(const char* file, const char* section, const char* key, int number);
+/// @}
 
+/// @{
 /// Reads one field as letter s.
 /// @return a text of at most 99 bytes in a buffer of the overload, valid until its next call
 LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key);
 LPTSTR ProfileReadAsc(const char* file, const char* section, const char* key, int number);
+/// @}
 
+/// @{
 /// Writes the number found at the address `value`, not `value` itself: the value takes the place of the
 /// pointer argument of ProfileWrite. 0 therefore writes the key with an empty value; so does an address
 /// where nothing can be read, which is recorded in the log. To write a number, use ProfileWrite.
 void ProfileWriteInt(const char* file, const char* section, const char* key, int value);
 void ProfileWriteInt(const char* file, const char* section, const char* key, int number, int value);
+/// @}
 
+/// @{
 /// The same with letter h: writes the WORD found at the address `value`.
 void ProfileWriteHexa(const char* file, const char* section, const char* key, WORD value);
 void ProfileWriteHexa(const char* file, const char* section, const char* key, int number, WORD value);
+/// @}
 
+/// @{
 /// Writes one field as letter s; a null value writes the key with an empty value.
 void ProfileWriteAsc(const char* file, const char* section, const char* key, const char* value);
 void ProfileWriteAsc(const char* file, const char* section, const char* key, int number, const char* value);
+/// @}
 
 /// Converts at most four hexadecimal digits of either case, stopping at the first other character.
 /// @return the 16-bit number: "12345" gives 0x1234, " 1" and a null text give 0

@@ -6,7 +6,7 @@
 
 /// Inside or on the edge of a box whose corners come in any order.
 int PointInRect(POINT p, int x1, int y1, int x2, int y2);
-int PointInRect(POINT p, RECT r);
+int PointInRect(POINT p, RECT r); ///< the same
 
 /// Same as PointInRect.
 int TestRect(POINT p, RECT r);

@@ -19,7 +19,8 @@ constexpr int SIZE_XPMCOLR = 12;
 extern char* XPM_Printer[tessary::CONT_IMAGELINE];  ///< 32 x 32, hard-copy button of the title bar
 extern char* XPM_SpinButn[tessary::CONT_IMAGELINE]; ///< 16 x 32, an up button above a down button
 
-// Buttons of a scroll bar, 32 x 32: ...1 moves by a line, ...2 by a page.
+/// @{
+/// Buttons of a scroll bar, 32 x 32: ...1 moves by a line, ...2 by a page.
 extern char* XPM_LeftArrow1[tessary::CONT_IMAGELINE];
 extern char* XPM_LeftArrow2[tessary::CONT_IMAGELINE];
 extern char* XPM_RightArrow1[tessary::CONT_IMAGELINE];
@@ -28,6 +29,7 @@ extern char* XPM_UpArrow1[tessary::CONT_IMAGELINE];
 extern char* XPM_UpArrow2[tessary::CONT_IMAGELINE];
 extern char* XPM_DownArrow1[tessary::CONT_IMAGELINE];
 extern char* XPM_DownArrow2[tessary::CONT_IMAGELINE];
+/// @}
 
 // Pointer cursors, 32 x 32. Keys: space transparent, "." background, "X" foreground.
 extern char* XPM_Cursor1[tessary::CONT_IMAGELINE]; ///< arrow
@@ -39,13 +41,16 @@ extern char* XPM_Cursor6[tessary::CONT_IMAGELINE]; ///< move left and right
 extern char* XPM_Cursor7[tessary::CONT_IMAGELINE]; ///< move along the falling diagonal
 extern char* XPM_Cursor8[tessary::CONT_IMAGELINE]; ///< move along the rising diagonal
 
-// Radio and check marks, 16 x 16. Keys: "." background, "X" foreground.
+/// @{
+/// Radio and check marks, 16 x 16. Keys: "." background, "X" foreground.
 extern char* XPM_Radio_OFF[tessary::CONT_BUILTINLINE];
 extern char* XPM_Radio_ON[tessary::CONT_BUILTINLINE];
 extern char* XPM_Check_OFF[tessary::CONT_BUILTINLINE];
 extern char* XPM_Check_ON[tessary::CONT_BUILTINLINE];
+/// @}
 
-// Bits of the cursors: picture and mask.
+/// @{
+/// Bits of the cursors: picture and mask.
 extern char XPM_Cursor1_data[tessary::SIZE_CURSOR], XPM_Cursor1_mask[tessary::SIZE_CURSOR];
 extern char XPM_Cursor2_data[tessary::SIZE_CURSOR], XPM_Cursor2_mask[tessary::SIZE_CURSOR];
 extern char XPM_Cursor3_data[tessary::SIZE_CURSOR], XPM_Cursor3_mask[tessary::SIZE_CURSOR];
@@ -54,6 +59,7 @@ extern char XPM_Cursor5_data[tessary::SIZE_CURSOR], XPM_Cursor5_mask[tessary::SI
 extern char XPM_Cursor6_data[tessary::SIZE_CURSOR], XPM_Cursor6_mask[tessary::SIZE_CURSOR];
 extern char XPM_Cursor7_data[tessary::SIZE_CURSOR], XPM_Cursor7_mask[tessary::SIZE_CURSOR];
 extern char XPM_Cursor8_data[tessary::SIZE_CURSOR], XPM_Cursor8_mask[tessary::SIZE_CURSOR];
+/// @}
 
 /// Gives every button picture the colours that the profile file sets and makes the bits of the cursors.
 void XPM_DataInit();

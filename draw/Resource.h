@@ -10,16 +10,16 @@
 
 /// One record of the file "PtrnColr": components on the 0..65535 scale of the display.
 struct COLRDATA {
-    std::int32_t red;
-    std::int32_t green;
-    std::int32_t blue;
+    std::int32_t red;   ///< 0..65535
+    std::int32_t green; ///< 0..65535
+    std::int32_t blue;  ///< 0..65535
 };
 static_assert(sizeof(COLRDATA) == 12);
 
 /// One record of the file "PtrnMark": pixels as one stream of bits, row after row, the lowest bit of a
 /// byte first. A set bit is foreground.
 struct MARKDATA {
-    BYTE mark[SIZE_MARK];
+    BYTE mark[SIZE_MARK]; ///< the bits
 };
 static_assert(sizeof(MARKDATA) == SIZE_MARK);
 
@@ -35,10 +35,10 @@ constexpr int SIZE_MARKLINE = 66;
 constexpr int CONT_BUILTINMARK = 4;
 /// Sizes of marks: marks of one size are numbered in groups.
 constexpr int CONT_MARKGROUP = 7;
-constexpr int SIZE_MARKGROUP = 50;
+constexpr int SIZE_MARKGROUP = 50; ///< marks of one size
 static_assert(CONT_MARKGROUP * SIZE_MARKGROUP == CONT_MARK);
 
-constexpr int CONT_CURSOR = 8;
+constexpr int CONT_CURSOR = 8; ///< pointer cursors
 
 } // namespace tessary
 
@@ -46,14 +46,14 @@ constexpr int CONT_CURSOR = 8;
 /// to gdk-pixbuf. Lines 1 (background, key ".") and 2 (foreground, key "X") are written by whoever
 /// draws the mark, each time.
 struct MARK_XPM {
-    char* mark[tessary::CONT_MARKLINE];
-    char data[tessary::CONT_MARKLINE][tessary::SIZE_MARKLINE];
+    char* mark[tessary::CONT_MARKLINE];                        ///< lines, as gdk-pixbuf takes them
+    char data[tessary::CONT_MARKLINE][tessary::SIZE_MARKLINE]; ///< their texts
 };
 
 /// Colours as the project's file has them, and the same allocated in the system colormap. All black
 /// when the file is missing or short.
 extern COLRDATA ColrData[CONT_COLR];
-extern GdkColor DrawColr[CONT_COLR];
+extern GdkColor DrawColr[CONT_COLR]; ///< as the server has them
 
 /// Font set of each font number; null when the number is unused or nothing could be loaded.
 extern GdkFont* DrawFont[CONT_FONT];
@@ -63,10 +63,10 @@ extern SIZE FontSize[CONT_FONT];
 
 /// Marks as the project's file has them, and all marks as XPM text.
 extern MARKDATA MarkData[CONT_MARK];
-extern MARK_XPM Mark_XPM[CONT_MARK + tessary::CONT_BUILTINMARK];
+extern MARK_XPM Mark_XPM[CONT_MARK + tessary::CONT_BUILTINMARK]; ///< with the built-in ones
 /// Width and height in pixels of marks 0..49, 50..99, ... 300..349.
 extern const int MarkXsize[tessary::CONT_MARKGROUP];
-extern const int MarkYsize[tessary::CONT_MARKGROUP];
+extern const int MarkYsize[tessary::CONT_MARKGROUP]; ///< the heights
 
 namespace tessary
 {
@@ -77,7 +77,7 @@ SIZE MarkSize(int mark);
 
 /// Size of the display in pixels, profile key "DISPSIZE"; 0 when the key is missing.
 extern int DispSizeX;
-extern int DispSizeY;
+extern int DispSizeY; ///< the height
 
 /// Foreground (0) and background (1) of the pointer cursors.
 extern GdkColor CusrColr[2];
@@ -85,7 +85,7 @@ extern GdkColor CusrColr[2];
 /// gdk_bitmap_create_from_data takes them. A pixel of the mask that is not in the picture has the
 /// background colour.
 extern char* const CursorData[tessary::CONT_CURSOR];
-extern char* const CursorMask[tessary::CONT_CURSOR];
+extern char* const CursorMask[tessary::CONT_CURSOR]; ///< the masks
 /// Hot spot of each cursor.
 extern const POINT CursorHome[tessary::CONT_CURSOR];
 

@@ -17,7 +17,7 @@
 namespace tessary
 {
 
-// Of every item.
+/// Parameters of every item.
 enum ItemParm {
     PARM_X1 = 0,
     PARM_Y1 = 1,
@@ -27,7 +27,7 @@ enum ItemParm {
     PARM_CLEAR = 29, ///< colour that every eraser paints with
 };
 
-// Where each parameter of the pattern header lies in PTRNHEDR::Parm1.
+/// Where each parameter of the pattern header lies in PTRNHEDR::Parm1.
 enum HedrParm {
     HEDR_KIND = 0, ///< 0 at the screen origin; other values placed; exactly 1: frame and dragging
     HEDR_WIDTH = 1,

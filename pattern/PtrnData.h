@@ -44,30 +44,30 @@ enum RepeatState {
 
 /// The pattern header as held in memory.
 struct PTRNHEDR {
-    std::int32_t Parm1[CONT_PARM1]; ///< window geometry, title bar, colours (HedrParm)
-    std::int32_t Parm2[CONT_PARM2];
+    std::int32_t Parm1[CONT_PARM1];   ///< window geometry, title bar, colours (HedrParm)
+    std::int32_t Parm2[CONT_PARM2];   ///< numbers for the application
     char PtrnName[SIZE_PTRNNAME + 2]; ///< title in the current language
-    char LogoName[SIZE_LOGONAME + 2];
-    char BmapName[SIZE_BMAPNAME + 2];
+    char LogoName[SIZE_LOGONAME + 2]; ///< file in "Bitmap"
+    char BmapName[SIZE_BMAPNAME + 2]; ///< file in "Bitmap", the background
 };
 static_assert(sizeof(PTRNHEDR) == 286);
 
 /// One item. Copied whole; changed on a copy and written back with WritePtrnData. A record begins on a
 /// four-byte boundary, so that Parm may be pointed at; members behind Text lie as packing puts them.
 struct alignas(std::int32_t) PTRNDATA {
-    std::int32_t Type;            ///< PtrnType
-    std::int32_t Parm[CONT_PARM]; ///< ItemParm
-    char Text[SIZE_PTRNTEXT + 2]; ///< text in the current language
-    std::int32_t ID_Type;         ///< action code
-    char ID_Name[SIZE_ID_NAME + 2];
+    std::int32_t Type;              ///< PtrnType
+    std::int32_t Parm[CONT_PARM];   ///< ItemParm
+    char Text[SIZE_PTRNTEXT + 2];   ///< text in the current language
+    std::int32_t ID_Type;           ///< action code
+    char ID_Name[SIZE_ID_NAME + 2]; ///< pattern that the action opens
     char ID_Code[SIZE_ID_CODE + 2]; ///< empty: bound to no data
-    std::int32_t ID_No;
-    std::int32_t DataNo; ///< cell: 0 unbound, -1 unknown code
-    WORD wData;          ///< cached state word
-    float fData;         ///< cached number
-    char sData[256];     ///< cached text
-    std::int32_t Recd;   ///< index in the item array
-    RECT Rect;           ///< SetRect(Parm[0..3])
+    std::int32_t ID_No;             ///< offset within the code
+    std::int32_t DataNo;            ///< cell: 0 unbound, -1 unknown code
+    WORD wData;                     ///< cached state word
+    float fData;                    ///< cached number
+    char sData[256];                ///< cached text
+    std::int32_t Recd;              ///< index in the item array
+    RECT Rect;                      ///< SetRect(Parm[0..3])
 };
 static_assert(sizeof(PTRNDATA) == 632);
 
@@ -81,37 +81,38 @@ static_assert(sizeof(PTRNDATA) == 632);
 /// @return a static buffer of at most 255 bytes of text, overwritten by the next call
 const char* ConvertNumrData(const PTRNDATA* item);
 
+/// A loaded pattern.
 class CPtrnData
 {
   public:
-    std::int32_t PtrnCont = 0; ///< number of items
-    PTRNHEDR PtrnHedr{};
+    std::int32_t PtrnCont = 0;    ///< number of items
+    PTRNHEDR PtrnHedr{};          ///< the header
     PTRNDATA* PtrnData = nullptr; ///< owned; PtrnCont items in file order
     std::int32_t PtrnCalnSec;     ///< second last shown by the clock; -1 none yet
     std::int32_t PtrnCalnPos = 0; ///< pixels kept free right of the clock
-    std::int32_t ScrollPtrn1;     ///< Recd of the scroll bar last clicked, by role; -1 none
-    std::int32_t ScrollPtrn2;
-    std::int32_t ScrollPtrn3;
-    RECT SCrect1{};          ///< layout of the scroll bar handled last: first page button
-    RECT SCrect2{};          ///< second page button
-    RECT SCrect3{};          ///< first arrow button
-    RECT SCrect4{};          ///< second arrow button
-    RECT SCrect5{};          ///< thumb
-    RECT SCrect6{};          ///< trough
-    SIZE SCoffset{};         ///< where inside the thumb the pointer grabbed it
-    std::int32_t FlikerFlag; ///< flicker phase: 1 shown, 0 blanked
-    std::int32_t FlikerTimr; ///< ticks in the phase
-    std::int32_t RepeatFlag; ///< RepeatState
-    std::int32_t RepeatMode = 0;
-    std::int32_t RepeatTimr = 0;
-    PTRNDATA RepeatPtrn{}; ///< the item being held
-    RECT LogoMarkButn{};   ///< title bar button areas, set when the title bar is drawn
-    RECT HardCopyButn{};
+    std::int32_t ScrollPtrn1;     ///< Recd of the scroll bar last clicked of those with SBAR_ROLE1; -1 none
+    std::int32_t ScrollPtrn2;     ///< of the horizontal one used last
+    std::int32_t ScrollPtrn3;     ///< of the vertical one used last
+    RECT SCrect1{};               ///< layout of the scroll bar handled last: first page button
+    RECT SCrect2{};               ///< second page button
+    RECT SCrect3{};               ///< first arrow button
+    RECT SCrect4{};               ///< second arrow button
+    RECT SCrect5{};               ///< thumb
+    RECT SCrect6{};               ///< trough
+    SIZE SCoffset{};              ///< where inside the thumb the pointer grabbed it
+    std::int32_t FlikerFlag;      ///< flicker phase: 1 shown, 0 blanked
+    std::int32_t FlikerTimr;      ///< ticks in the phase
+    std::int32_t RepeatFlag;      ///< RepeatState
+    std::int32_t RepeatMode = 0;  ///< the part that is held, as TestScrollBar and TestSpinButn number them
+    std::int32_t RepeatTimr = 0;  ///< ticks since the last step
+    PTRNDATA RepeatPtrn{};        ///< the item being held
+    RECT LogoMarkButn{};          ///< title bar button areas, set when the title bar is drawn
+    RECT HardCopyButn{};          ///< the hard-copy button
     /// Of the window: what lies below a body whose bitmap does not cover it, and what lies above the items,
     /// such as a field in edit. Called while a part of the display is restored, with a context that draws
     /// only there; null for nothing.
     std::function<void(CDraw*)> DrawBelow;
-    std::function<void(CDraw*)> DrawAbove;
+    std::function<void(CDraw*)> DrawAbove; ///< what lies above
 
     /// Loads the pattern `name`; a pattern that can not be loaded leaves an object without items.
     explicit CPtrnData(const char* name);
@@ -121,9 +122,9 @@ class CPtrnData
 
     // --- records -------------------------------------------------------------------------------
 
-    /// Loads `<ProjPath>/<name>.ptn` in place of what was loaded before. Of a damaged file everything is kept
-    /// that it holds: items whose records are missing are not made, texts that are missing are empty, texts
-    /// that are too long are cut; the log has one line for each kind of damage.
+    /// Loads `NAME.ptn` of the project directory in place of what was loaded before. Of a damaged file
+    /// everything is kept that it holds: items whose records are missing are not made, texts that are missing
+    /// are empty, texts that are too long are cut; the log has one line for each kind of damage.
     /// @return 1; or 0, without items, when the file does not exist (not logged) or its header can not be
     /// read
     int LoadPtrnData(const char* name);
@@ -135,7 +136,8 @@ class CPtrnData
     /// pass changed in any other way counts from the next full display or hit test on.
     void WritePtrnData(const PTRNDATA* item);
 
-    static RECT SetRect(int x1, int y1, int x2, int y2) { return ::SetRect(x1, y1, x2, y2); }
+    static RECT SetRect(int x1, int y1, int x2, int y2) { return ::SetRect(x1, y1, x2, y2); } ///< the same
+    /// The same as the function of that name.
     static const char* ConvertNumrData(const PTRNDATA* item) { return ::ConvertNumrData(item); }
 
     // --- display, flicker, repeat ----------------------------------------------------------------
@@ -148,7 +150,7 @@ class CPtrnData
     void DispPtrnData(CDraw* draw, PTRNDATA* item, int updt);
     /// Redraws the bound items whose cell has changed.
     void UpdtPtrnData(CDraw* draw);
-    void UpdtPtrnData(CDraw* draw, int top);
+    void UpdtPtrnData(CDraw* draw, int top); ///< those of one pass
     /// Draws an area anew as a full display would, with the cells' present values: title bar and body, the
     /// items whose pictures meet it, and what lies above them. Neither their caches nor what lies outside
     /// change.
@@ -166,6 +168,10 @@ class CPtrnData
 
     // --- the fifteen types -----------------------------------------------------------------------
 
+    /// @{
+    /// Draw (Disp), erase (Cler) or blink (Flik) one item, whose type the number tells; an eraser or a hit
+    /// test may serve several types.
+    /// `updt` is 0 for a full display and 1 for a tick update, `phase` 1 for shown and 0 for blanked.
     void DispPtrnData01(CDraw* draw, PTRNDATA* item);
     void DispPtrnData02(CDraw* draw, PTRNDATA* item);
     void DispPtrnData03(CDraw* draw, PTRNDATA* item);
@@ -189,18 +195,23 @@ class CPtrnData
     void ClerPtrnData10(CDraw* draw, PTRNDATA* item);
     void FlikPtrnData06(CDraw* draw, PTRNDATA* item, int phase);
     void FlikPtrnData13(CDraw* draw, PTRNDATA* item, int phase);
+    /// @}
 
     // --- pointer and keys ------------------------------------------------------------------------
 
     /// Index of the item under a point in pattern coordinates, -1 none; pass 1 before pass 0.
     int TestPtrnData(POINT point);
-    int TestPtrnData(POINT point, int top);
+    int TestPtrnData(POINT point, int top); ///< of one pass
     /// 1 when the point hits this item by its type's test.
     int TestPtrnData(POINT point, PTRNDATA* item);
+
+    /// @{
+    /// 1 when the point hits an item of the type that the number tells, and of those that share its test.
     int TestPtrnData01(POINT point, PTRNDATA* item);
     int TestPtrnData02(POINT point, PTRNDATA* item);
     int TestPtrnData06(POINT point, PTRNDATA* item);
     int TestPtrnData10(POINT point, PTRNDATA* item);
+    /// @}
 
     /// Left press on an item copy, which a linked item may replace.
     /// @return 0 nothing, 1 carry out the action, 2 start keyboard entry, 3 start dragging the thumb
@@ -209,19 +220,30 @@ class CPtrnData
     void LButtonUp();
     /// Ends auto-repeat when the pointer leaves the held part.
     void MouseMove(POINT point);
+
+    /// @{
     /// One wheel click; direction 0 up, other values down. @return 1 when a value changed
     int WheelToScroll(int direction, PTRNDATA* item);
     int WheelToSpin(int direction, PTRNDATA* item);
-    /// Keyboard operation for screen classes; key values are X keysyms. @return 1 when the key was used
+    /// @}
+
+    /// An arrow or page key moves the scroll bar that was used last, else the first one that takes keys.
+    /// @param key   an X keysym
+    /// @param item  receives the bar
+    /// @return 1 when the key was used
     int SetScrollKey(int key, PTRNDATA* item);
+    /// The same for one bar. @return 1 when its value has changed
     int ConvScrollKey(int key, PTRNDATA* item);
+    /// Finds the button of a function key, F1 to F12, hidden ones left out; nothing is pressed.
+    /// @param item  receives it
+    /// @return 1 when there is one
     int SetButtonKey(int key, PTRNDATA* item);
 
     // --- scroll bars and spin buttons ------------------------------------------------------------
 
     /// Lays the bar out into SCrect1..6.
     void SetScrollBar(PTRNDATA* item);
-    void DispScrollBar(CDraw* draw, PTRNDATA* item);
+    void DispScrollBar(CDraw* draw, PTRNDATA* item); ///< draws it, with its thumb
     /// Part under the point: 1, 2 page buttons, 3, 4 arrow buttons, 5 thumb, 6, 7 trough, 0 none.
     int TestScrollBar(POINT point, PTRNDATA* item);
     /// Value from the pointer during a thumb drag. @return 1 when it changed

@@ -5,6 +5,7 @@
 namespace tessary
 {
 
+/// Values of keys.
 enum KeyValue : unsigned int {
     KEYVAL_BACKSPACE = 0xFF08,
     KEYVAL_TAB = 0xFF09,

@@ -10,9 +10,8 @@
 #include <memory>
 #include <string>
 
-/// Key cursor: ticks shown and ticks hidden.
-constexpr int KEYCURSOR_ON = 5;
-constexpr int KEYCURSOR_OFF = 2;
+constexpr int KEYCURSOR_ON = 5;  ///< ticks that the key cursor is shown
+constexpr int KEYCURSOR_OFF = 2; ///< ticks that it is hidden
 
 class CPtrnDisp;
 
@@ -32,47 +31,52 @@ struct WindowReload;
 struct WindowSignals;
 class FieldEditor;
 
-// Parts of corrected entry that know a window from inside; window/FieldEntry.h tells what they do.
+/// @{
+/// A part of corrected entry that knows a window from inside, for the framework.
 bool StoreBeforePress(CPtrnDisp* wnd, POINT pt);
 void TypeCharacter(CPtrnDisp* wnd, const std::string& character);
+/// @}
 
 } // namespace tessary
 
+/// A window. Screen classes derive from it and override its hooks; docs/writing-programs.md tells how.
 class CPtrnDisp
 {
   public:
     GtkWidget* Widget = nullptr;   ///< the top-level window; null before opening and after closing
     GtkWidget* DrawArea = nullptr; ///< the drawing area inside it
     GdkPixmap* Pixmap = nullptr;   ///< back buffer, pattern width x height; null until the first configure
-    char PtrnName[SIZE_PTRNNAME + 2] = "";
-    int PtrnNo = 0;                ///< ConvertPtrn(PtrnName); keys the remembered position
-    int PtrnType = 0;              ///< PtrnKind
-    CPtrnData* PtrnData = nullptr; ///< the loaded pattern; owned
-    CPtrnDisp* ParentWnd = nullptr;
-    CPtrnDisp* ChildWnd1 = nullptr;
-    CPtrnDisp* ChildWnd2 = nullptr;
-    RECT WindRect{};       ///< position on the screen and size
-    POINT Offset{};        ///< the pattern point shown at the window's top-left corner
-    int CursorType = 0;    ///< mouse cursor 0..7, applied again at every tick
-    BOOL MoveWnd = 0;      ///< a window drag is in progress
-    POINT MovePoint{};     ///< last drag point in screen coordinates
-    BOOL ScrollBar = 0;    ///< a thumb drag is in progress
-    PTRNDATA ScrollPtrn{}; ///< the scroll bar being dragged
-    int KeyInputMode = 0;  ///< 1 while a field is in edit
-    PTRNDATA KeyInputPtrn{};
-    char KeyInputText[256] = "";
-    UINT KeyInputCode = 0; ///< first byte of a two-byte character that waits for its second
-    int KeyInputPost = 0;  ///< cursor position, a byte index
-    int KeyInputFlag = 0;  ///< 1 while the key cursor is shown
-    int KeyInputTimr = 0;  ///< blink counter in ticks
+    char PtrnName[SIZE_PTRNNAME + 2] = ""; ///< EUC-JP
+    int PtrnNo = 0;                        ///< ConvertPtrn(PtrnName); keys the remembered position
+    int PtrnType = 0;                      ///< PtrnKind
+    CPtrnData* PtrnData = nullptr;         ///< the loaded pattern; owned
+    CPtrnDisp* ParentWnd = nullptr;        ///< null for the application window; that for the system window
+    CPtrnDisp* ChildWnd1 = nullptr;        ///< the child in slot 1, null for none
+    CPtrnDisp* ChildWnd2 = nullptr;        ///< the child in slot 2
+    RECT WindRect{};                       ///< position on the screen and size
+    POINT Offset{};                        ///< the pattern point shown at the window's top-left corner
+    int CursorType = 0;                    ///< mouse cursor 0..7, applied again at every tick
+    BOOL MoveWnd = 0;                      ///< a window drag is in progress
+    POINT MovePoint{};                     ///< last drag point in screen coordinates
+    BOOL ScrollBar = 0;                    ///< a thumb drag is in progress
+    PTRNDATA ScrollPtrn{};                 ///< the scroll bar being dragged
+    int KeyInputMode = 0;                  ///< 1 while a field is in edit
+    PTRNDATA KeyInputPtrn{};               ///< a copy of that field
+    char KeyInputText[256] = "";           ///< its text
+    UINT KeyInputCode = 0;                 ///< first byte of a two-byte character that waits for its second
+    int KeyInputPost = 0;                  ///< cursor position, a byte index
+    int KeyInputFlag = 0;                  ///< 1 while the key cursor is shown
+    int KeyInputTimr = 0;                  ///< blink counter in ticks
 
     CPtrnDisp();
 
     // --- hooks -----------------------------------------------------------------------------------
 
-    /// Once, after the pattern is loaded and the widgets exist, before the window is shown.
+    /// Once, after the pattern is loaded and the widgets exist, before the window is shown. There is no back
+    /// buffer yet, so nothing can be drawn.
     virtual void PtrnInitFunc();
-    /// When the window is exited, before its toolkit window goes.
+    /// When the window is exited, after its children, before its toolkit window goes. Not called for a child
+    /// that another one replaces in its slot, and for a system window that a stop request takes down.
     virtual void PtrnExitFunc();
     /// @param mode  DisplayMode: 0 at the end of a full paint, 1 at every tick after the items
     virtual void PtrnDispFunc(CDraw* draw, int mode);
@@ -80,17 +84,24 @@ class CPtrnDisp
     virtual void PtrnTimrFunc();
     /// A message; `mesg` is the sending item's data number.
     virtual void PtrnMesgFunc(int mesg);
-    /// Right click on an item.
+    /// Right click on an item that can be operated (MouseEnable) and whose action opens no system window.
+    /// @param dataNo  its cell; 0 unbound
     virtual void PtrnRbtnFunc(int dataNo);
-    /// First, for every press and motion off the title bar. @param button  MouseEvent: 1 left, 2 right, 0
-    /// motion
-    /// @return 1 to keep the event from the items
+    /// First, for every press and motion off the title bar, also while the items can not be operated.
+    /// @param pt      in pattern coordinates
+    /// @param button  MouseEvent: 1 left, 2 right, 0 motion
+    /// @param flags   1 Shift, else 2 Control, else 4 Alt, else 0
+    /// @return 1 to keep the event from the items, and from a drag
     virtual int PtrnMouseFunc(POINT pt, int button, int flags);
     /// Never called by the framework.
     virtual int PtrnKeyInput(int key, int flags);
-    /// Before key input starts on an item. @return 1 to allow it
+    /// Before key input starts on an item. @param item  a copy; what is changed in it holds for the input
+    /// @return 1 to allow it
     virtual int PtrnKeyStart(PTRNDATA* item);
-    /// After key input ended with a key.
+    /// After key input ended with a key; the value is stored, unless the key is Escape. Not called for an
+    /// input that is cancelled.
+    /// @param key   KeyValue
+    /// @param item  the field
     virtual void PtrnKeyFunc(int key, int flags, PTRNDATA* item);
 
     /// Last of the virtual functions, so that the hooks keep the first ten slots.
@@ -133,14 +144,14 @@ class CPtrnDisp
 
     // --- mouse; points in window coordinates, flags 1 Shift, else 2 Control, else 4 Alt, else 0 ------
 
-    void LButtonDown(POINT pt, int flags);
-    void RButtonDown(POINT pt, int flags);
-    void LButtonUp(POINT pt, int flags);
-    void RButtonUp(POINT pt, int flags);
-    void MouseMove(POINT pt, int flags);
+    void LButtonDown(POINT pt, int flags); ///< a press of the left button
+    void RButtonDown(POINT pt, int flags); ///< a press of the right button
+    void LButtonUp(POINT pt, int flags);   ///< ends auto-repeat and a drag
+    void RButtonUp(POINT pt, int flags);   ///< does nothing
+    void MouseMove(POINT pt, int flags);   ///< a motion
     /// @param direction  WheelDirection: 0 up, 1 down. @return 1 when a value changed
     int MouseWheel(POINT pt, int direction);
-    void MouseLeave();
+    void MouseLeave(); ///< the pointer has left the window: ends a drag
     /// 1 when the items may be operated: no system window and no modal child is open.
     int MouseEnable();
     /// Carries out the item's action code.
@@ -150,11 +161,13 @@ class CPtrnDisp
 
     /// Opens a pattern in child slot 1 (`which` 1) or 2 (any other value); an occupant is destroyed first.
     void PtrnDispChild(int which, const char* name, const char* file, int line);
+    /// The same with its top-left corner at (x, y) of the screen.
     void PtrnDispChild(int which, const char* name, int x, int y, const char* file, int line);
+    /// The same in a rectangle of the screen, which may be smaller than the pattern.
     void PtrnDispChild(int which, const char* name, RECT rect, const char* file, int line);
-    /// Opens a child beside a rectangle or point of the screen, so that it stays on the display.
+    /// Opens a child beside a rectangle of the screen, so that it stays on the display.
     void PtrnDispPopup(int which, const char* name, RECT rect, const char* file, int line);
-    void PtrnDispPopup(int which, const char* name, POINT pt, const char* file, int line);
+    void PtrnDispPopup(int which, const char* name, POINT pt, const char* file, int line); ///< beside a point
     /// @param which  CloseTarget: 0 this window, 1 and 2 the children, 3 the system window
     void PtrnCloseWnd(int which, const char* file, int line);
     /// @param target  MessageTarget: 0 this window, 1 child 1 or else child 2, 2 nobody, 3 the parent
@@ -170,27 +183,31 @@ class CPtrnDisp
     int PtrnTestData(POINT pt, PTRNDATA* out);
     /// 1 when an item of that type and data number that is not hidden lies under the point.
     int PtrnTestData(POINT pt, int dataNo, int type);
-    RECT PtrnGetWindow() { return WindRect; }
-    POINT PtrnGetOffset() { return Offset; }
-    PTRNHEDR PtrnReadHedr();
+    RECT PtrnGetWindow() { return WindRect; } ///< place on the screen and size
+    POINT PtrnGetOffset() { return Offset; }  ///< pattern point at the top-left corner
+    PTRNHEDR PtrnReadHedr();                  ///< this pattern's header
     /// Header of a pattern that need not be open. @return 1, or 0 when it can not be read
     int PtrnReadHedr(const char* name, PTRNHEDR* out);
+    /// CPtrnData::ReadPtrnData
     int PtrnReadData(int dataNo, int type, PTRNDATA* out);
+    /// CPtrnData::WritePtrnData
     void PtrnWriteData(PTRNDATA* item);
 
     // --- dragging; points in pattern coordinates ---------------------------------------------------
 
-    void MoveWindow1(POINT pt);
-    void MoveWindow2(POINT pt);
-    void MoveWindow3();
-    void MoveScrollBar1(PTRNDATA* item);
-    void MoveScrollBar2(POINT pt);
-    void MoveScrollBar3();
+    void MoveWindow1(POINT pt);          ///< begins to drag a framed window, unless its header forbids it
+    void MoveWindow2(POINT pt);          ///< moves it by as much as the pointer has moved, within the display
+    void MoveWindow3();                  ///< ends it
+    void MoveScrollBar1(PTRNDATA* item); ///< begins to drag the thumb of a scroll bar
+    void MoveScrollBar2(POINT pt);       ///< stores the value of the place and carries out the action
+    void MoveScrollBar3();               ///< ends it
 
     // --- key input -------------------------------------------------------------------------------
 
-    /// Starts editing the field bound to a data number.
+    /// Starts editing the field bound to a data number: the first variable text, else the first numeric
+    /// field. Nothing happens when it takes no entry, is disabled or hidden; without one the log tells.
     void KeyInputStart(int dataNo, const char* file, int line);
+    /// Starts editing a field, when PtrnKeyStart allows it. An edit of this window is cancelled first.
     void KeyInputStart(PTRNDATA* item);
     /// Ends the edit. @param key the ending key, 0 to cancel. @return 0 when the value was refused
     int KeyInputStop(unsigned int key, int flags, const char* file, int line);
@@ -202,8 +219,10 @@ class CPtrnDisp
     void KeyTimer(CDraw* draw);
     /// Cancels key input in this window's tree.
     void KeyReset();
+    /// Types a character. @param c1,c2  its bytes; c2 is 0 for a character of one
     void KeyInputInsert(unsigned int c1, unsigned int c2);
-    void KeyInputDelete(unsigned int key);
+    void KeyInputDelete(unsigned int key); ///< KEYVAL_BACKSPACE or KEYVAL_DELETE
+    /// KEYVAL_LEFT or KEYVAL_RIGHT. @param nav  Navigation: whether it ends the edit where it can not move
     void KeyInputShift(unsigned int key, int flags, int nav);
     /// @param mode  bits: 1 background, 2 text, 4 show the cursor, 8 hide it
     void KeyInputDisp(CDraw* draw, int mode);
@@ -276,12 +295,15 @@ class CPtrnDisp
 /// @param rect    place and size on the screen in pixels
 void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect);
 
-// Toolkit handlers of the drawing area; each returns TRUE.
+/// @{
+/// Toolkit handlers of the drawing area; each returns TRUE.
 int Configure_Event(GtkWidget* widget, GdkEventConfigure* event, CPtrnDisp* wnd);
 int Expose_Event(GtkWidget* widget, GdkEventExpose* event, CPtrnDisp* wnd);
 int Mouse_Press(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Release(GtkWidget* widget, GdkEventButton* event, CPtrnDisp* wnd);
 int Mouse_Motion(GtkWidget* widget, GdkEventMotion* event, CPtrnDisp* wnd);
 int Mouse_Leave(GtkWidget* widget, GdkEventCrossing* event, CPtrnDisp* wnd);
+/// @}
+
 /// Toolkit handler of the top-level window; returns TRUE.
 int Key_Press(GtkWidget* widget, GdkEventKey* event, CPtrnDisp* wnd);

@@ -18,7 +18,7 @@ void PtrnDispSysWnd(const char* name, const char* file, int line);
 /// Shows the framework's own patterns "バージョン情報" and "メンテナンス" as the system window.
 /// Without the pattern file the present system window is closed and nothing is opened.
 void PtrnDispVersnWnd();
-void PtrnDispMenteWnd();
+void PtrnDispMenteWnd(); ///< the maintenance screen
 
 /// Starts the stop countdown ("WAITTIMER" seconds, at least one) and shows the pattern "PTRNSTOP".
 /// A second request starts the countdown anew.

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a bar graph.
 enum BarGraphParm {
     BARG_BAR4 = 4,
     BARG_BACK4 = 8,

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a bitmap.
 enum BitmapParm {
     BMAP_KEY_COLOR = 4,
     BMAP_KEYED = 5,

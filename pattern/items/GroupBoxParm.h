@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a group box.
 enum GroupBoxParm {
     GBOX_FACE4 = 4,
     GBOX_TOP4 = 8,

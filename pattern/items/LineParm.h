@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a line.
 enum LineParm {
     LINE_COLOR4 = 4,
     LINE_FOMT = 13,

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a mark.
 enum MarkParm {
     MARK_COLOR4 = 4,
     MARK_BACK4 = 8,

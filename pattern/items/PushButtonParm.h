@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a push button.
 enum ButtonParm {
     BUTN_LIGHT = 4,
     BUTN_DARK = 5,

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a radio button or check box.
 enum CheckParm {
     CHECK_COLOR = 4,
     CHECK_COLOR_LOCKED = 5,

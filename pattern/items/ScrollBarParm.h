@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a scroll bar.
 enum ScrollBarParm {
     SBAR_LIGHT = 4,
     SBAR_DARK = 5,

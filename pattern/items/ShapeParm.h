@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a rectangle or circle.
 enum ShapeParm {
     SHAPE_OUTLINE4 = 4,
     SHAPE_FILL4 = 8,

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a spin button.
 enum SpinParm {
     SPIN_MINIMUM = 16,
     SPIN_MAXIMUM = 17,

@@ -4,6 +4,7 @@
 namespace tessary
 {
 
+/// Parameters of a text or field.
 enum TextParm {
     TEXT_COLOR4 = 4,
     TEXT_BACK4 = 8,
