@@ -138,8 +138,8 @@ TEST_F(Manual, begins_with_a_screen_that_builds)
         if (block.yaml)
             screens.push_back(block);
     ASSERT_THAT(screens, SizeIs(1));
-    sources.screen(screens[0].text);
-    sources.write("project.yaml", "codes: { SPEED: 1 }\nfonts: { a: '-*-fixed-medium-r-normal--14-*' }\n");
+    sources.screen(screens[0].text).write("screens/b.yaml", "name: Main\n");
+    sources.write("project.yaml", "codes: { SETPOINT: 1 }\nfonts: { a: '-*-fixed-medium-r-normal--14-*' }\n");
     const PtnResult result = sources.build();
     EXPECT_EQ(result.err, "");
     EXPECT_NE(sources.built("pump.ptn"), "");
