@@ -1,10 +1,10 @@
 # Run by the build: cmake -D SOURCE=... -D FOLDER=... -P PublicHeaders.cmake
 #
-# Makes FOLDER/tessary hold tessary.h and every header below SOURCE that it reaches by its includes, and nothing
-# else. Headers name each other from SOURCE on ("base/Types.h"); in the copies they name each other relative to
+# Makes FOLDER/tessary hold tessary.h, tessary_plant.h and every header below SOURCE that they reach by their
+# includes, and nothing else. Headers name each other from SOURCE on ("base/Types.h"); in the copies they name each other relative to
 # themselves ("../base/Types.h"). So FOLDER is all that an application needs in its path, where folders called
 # "config" or "window" would take the place of its own.
-set(headers tessary.h)
+set(headers tessary.h tessary_plant.h)
 set(at 0)
 list(LENGTH headers count)
 while(at LESS count)

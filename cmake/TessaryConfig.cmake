@@ -1,5 +1,5 @@
-# find_package(Tessary): Tessary::main, Tessary::tessary, the program Tessary::ptn and the function tessary_project;
-# see docs/installing.md.
+# find_package(Tessary): Tessary::main, Tessary::tessary, the program Tessary::ptn, the function tessary_project and,
+# where what it needs is installed, Tessary::plant; see docs/installing.md.
 include(CMakeFindDependencyMacro)
 find_dependency(PkgConfig)
 pkg_check_modules(TESSARY_TOOLKIT QUIET IMPORTED_TARGET gtk+-2.0 gthread-2.0 x11)
@@ -8,5 +8,8 @@ if(NOT TESSARY_TOOLKIT_FOUND)
   set(Tessary_NOT_FOUND_MESSAGE "pkg-config does not find gtk+-2.0, gthread-2.0 and x11")
   return()
 endif()
+find_dependency(Threads)
+pkg_check_modules(TESSARY_MODBUS QUIET IMPORTED_TARGET libmodbus)
+pkg_check_modules(TESSARY_MOSQUITTO QUIET IMPORTED_TARGET libmosquitto)
 include(${CMAKE_CURRENT_LIST_DIR}/TessaryTargets.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/TessaryProject.cmake)

@@ -11,5 +11,6 @@ constexpr char CATEGORY_DRAW[] = "DRAWCNTL";     ///< drawing
 constexpr char CATEGORY_CELLS[] = "COMNMEM";     ///< common data
 constexpr char CATEGORY_MESSAGES[] = "MESGDATA"; ///< message table
 constexpr char CATEGORY_LIMITS[] = "LIMTDATA";   ///< limit table
+constexpr char CATEGORY_LINKS[] = "LINKS";       ///< connections to the plant
 
 } // namespace tessary

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-enum class Group { framework, program, sample, tool, registration, tests };
+enum class Group { framework, plant, program, sample, tool, registration, tests };
 
 /// A folder, or a file, and its place in the order.
 struct Area {
@@ -22,17 +22,21 @@ struct Area {
     bool toolkit = false;
 };
 
+constexpr int CELLS = 3; ///< level of comndata
+
 constexpr Area AREAS[] = {
     {"base", Group::framework, 0},
     {"config", Group::framework, 1},
     {"log", Group::framework, 2},
-    {"comndata", Group::framework, 3},
+    {"comndata", Group::framework, CELLS},
     {"draw", Group::framework, 4, true},
     {"pattern", Group::framework, 5},
     {"window", Group::framework, 6, true},
     {"dialogs", Group::framework, 7, true},
     {"shell", Group::framework, 8, true},
     {"tessary.h", Group::framework, 9},
+    {"tessary_plant.h", Group::plant, 0},
+    {"links", Group::plant, 0},
     {"program", Group::program, 0},
     {"app", Group::sample, 0},
     {"app/ptn", Group::registration, 0}, // the sample's own part of the tool
@@ -79,10 +83,12 @@ bool mayInclude(const Area& from, const Area& to)
     switch (from.group) {
     case Group::framework:
         return false;
+    case Group::plant: // beside the windows: nothing above the cells
+        return to.group == Group::framework && to.level <= CELLS;
     case Group::program:
     case Group::sample:
     case Group::tool:
-        return to.group == Group::framework;
+        return to.group == Group::framework || to.group == Group::plant;
     case Group::registration:
         return to.group != Group::tests;
     case Group::tests:

@@ -18,7 +18,7 @@ _ptn()
     elif [ "$COMP_CWORD" = 1 ]; then
         words=$("$program" --help 2>/dev/null | _ptn_listed Subcommands:)
     elif [ "$command" = help ] && [ "$COMP_CWORD" = 2 ]; then
-        words="attributes editions $("$program" --help 2>/dev/null | _ptn_listed Subcommands:)"
+        words="attributes editions links $("$program" --help 2>/dev/null | _ptn_listed Subcommands:)"
     elif [ "$command" = help ] && [ "${COMP_WORDS[2]}" = attributes ]; then
         words=$("$program" help attributes 2>/dev/null | _ptn_listed Types)
     else

@@ -5,6 +5,7 @@
 #include "pattern/RealParm.h"
 #include "pattern/ScreenClass.h"
 #include "tools/ptn/commands/Command.h"
+#include "tools/ptn/commands/HelpLinks.h"
 #include "tools/ptn/common/Framework.h"
 #include "tools/ptn/common/Names.h"
 
@@ -23,6 +24,7 @@ namespace
 
 constexpr const char* ATTRIBUTES = "attributes"; ///< topics of the help
 constexpr const char* EDITIONS = "editions";
+constexpr const char* LINKS = "links";
 constexpr const char* WINDOW = "window"; ///< beside the types of items
 
 std::string Range(const ParmSchema& parm)
@@ -220,7 +222,7 @@ class HelpCommand : public Command
     const char* name() const override { return "help"; }
     const char* summary() const override
     {
-        return "Explain commands, the attributes of items and windows, and editions";
+        return "Explain commands, the attributes of items and windows, editions, and links";
     }
     void addOptions(CLI::App& line) override;
     int run() override;
@@ -237,7 +239,7 @@ class HelpCommand : public Command
 void HelpCommand::addOptions(CLI::App& line)
 {
     program_ = line.get_parent();
-    line.add_option("TOPIC", topic_, "A command, attributes, or editions");
+    line.add_option("TOPIC", topic_, "A command, attributes, editions, or links");
     line.add_option("TYPE", type_, "Of attributes: item type, or window");
 }
 
@@ -261,6 +263,10 @@ int HelpCommand::run()
         PrintEditions(std::cout);
         return 0;
     }
+    if (topic_ == LINKS) {
+        PrintLinks(std::cout);
+        return 0;
+    }
     return explainAttributes(topic_ == ATTRIBUTES ? type_ : topic_);
 }
 
@@ -272,7 +278,7 @@ std::vector<std::string> HelpCommand::words() const
         words.push_back(item.name);
     if (topic_ == ATTRIBUTES)
         return words;
-    words.insert(words.end(), {ATTRIBUTES, EDITIONS});
+    words.insert(words.end(), {ATTRIBUTES, EDITIONS, LINKS});
     for (const CLI::App* command : program_->get_subcommands({}))
         words.push_back(command->get_name());
     return words;

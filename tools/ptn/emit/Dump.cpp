@@ -53,6 +53,16 @@ FileMap SourceFiles(Compiled& compiled)
     return files;
 }
 
+// Whether two files of that name mean the same.
+bool IsAlike(const std::string& name, const std::optional<std::string>& one,
+             const std::optional<std::string>& other)
+{
+    for (const auto& section : Sections())
+        if (one && other && section->file() && name == section->file())
+            return section->same(*one, *other);
+    return one == other;
+}
+
 // Builds the sources aside and compares. @return how many files are alike
 int CompareBuild(const fs::path& project, const fs::path& sources, Diagnostics& diagnostics)
 {
@@ -70,7 +80,7 @@ int CompareBuild(const fs::path& project, const fs::path& sources, Diagnostics& 
         const fs::path name = entry.path().lexically_relative(project);
         if (!entry.is_regular_file() || name.string()[0] == '.')
             continue;
-        if (ReadBytes(built / name) == ReadBytes(entry.path()))
+        if (IsAlike(name.string(), ReadBytes(built / name), ReadBytes(entry.path())))
             ++alike;
         else
             diagnostics.warning({EucToUtf8(entry.path().string()), 0},

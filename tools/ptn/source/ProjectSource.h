@@ -4,6 +4,7 @@
 #include "tools/ptn/model/Attributes.h"
 #include "tools/ptn/model/CodeTable.h"
 #include "tools/ptn/model/Groups.h"
+#include "tools/ptn/model/Links.h"
 #include "tools/ptn/model/OwnSection.h"
 #include "tools/ptn/model/Profile.h"
 #include "tools/ptn/model/Resources.h"
@@ -45,6 +46,7 @@ struct ProjectSource {
     MessageTable messages;
     LimitTable limits;
     FlagTable flags;
+    LinkTable links;
     std::map<std::string, std::unique_ptr<OwnSection>> own; ///< of the application, by name of the section
     std::optional<KnownPatterns> registry;                  ///< none when not told
     FileMap bitmaps;                                        ///< by EUC-JP name

@@ -199,6 +199,26 @@ class FlagSection : public Section
     }
 };
 
+class LinkSection : public Section
+{
+  public:
+    LinkSection() : Section("links", "PtrnLink", ProjectFile::Made) {}
+    void read(P& to, const SectionSource& from) const override
+    {
+        to.links.read(from.value(), to.codes, from.folder, from.diagnostics);
+    }
+    Bytes bytes(const P& of) const override { return of.links.empty() ? Bytes() : of.links.bytes(); }
+    void load(P& to, const SectionFile& from) const override
+    {
+        to.links.load(from.text(), from.place, from.diagnostics);
+    }
+    bool same(const std::string& one, const std::string& other) const override
+    {
+        return LinkTable::same(one, other);
+    }
+    void emit(const P& of, FileMap& sources) const override { sources["links.yaml"] += of.links.yaml(); }
+};
+
 class RegistrySection : public Section
 {
   public:
@@ -265,7 +285,7 @@ Rows& Table()
 {
     static Rows rows = RowsOf<ProgramSection, EditionSection, CodeSection, ColorSection, FontSection,
                               MarkSection, StyleSection, GroupSection, ProfileSection, MessageSection,
-                              LimitSection, FlagSection, RegistrySection>();
+                              LimitSection, FlagSection, LinkSection, RegistrySection>();
     return rows;
 }
 

@@ -70,6 +70,8 @@ class Section
     virtual std::optional<std::string> bytes(const ProjectSource&) const { return std::nullopt; }
     /// Takes the file apart; what is wrong is reported.
     virtual void load(ProjectSource&, const SectionFile&) const {}
+    /// Whether two of its files mean the same.
+    virtual bool same(const std::string& one, const std::string& other) const { return one == other; }
     /// Appends the section to its file of the sources. What only a person can have written adds nothing.
     virtual void emit(const ProjectSource&, FileMap&) const {}
 
