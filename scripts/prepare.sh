@@ -49,6 +49,6 @@ BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libyaml-cpp-dev l
 RUN_PACKAGES=(locales xfonts-base xfonts-intl-japanese xfonts-intl-japanese-big fonts-droid-fallback)
 HEADLESS_PACKAGES=(xvfb xdotool scrot)
 TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev libncurses-dev clang
-    xvfb openbox clang-format clang-tidy git mosquitto mosquitto-clients python3-pymodbus socat mbpoll openssl)
+    xvfb openbox clang-format clang-tidy git mosquitto mosquitto-clients python3-pymodbus python3-serial python3-serial-asyncio socat mbpoll openssl)
 
 log=$(mktemp -t tessary-setup.XXXXXX)

@@ -1,0 +1,168 @@
+#include "links/Worker.h"
+
+#include <algorithm>
+#include <csignal>
+#include <functional>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace tessary
+{
+
+namespace
+{
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds FIRST_WAIT(1000);
+constexpr milliseconds LONGEST_WAIT(30000);
+/// A connection that held as long was a good one.
+constexpr std::chrono::seconds GOOD(10);
+
+/// Signals are the main thread's.
+void BlockSignals()
+{
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_BLOCK, &all, nullptr);
+}
+
+} // namespace
+
+milliseconds BackOff::next()
+{
+    const milliseconds whole = std::min(LONGEST_WAIT, FIRST_WAIT * (1 << std::min(attempts_, 5)));
+    ++attempts_;
+    std::uniform_int_distribution<int> less(0, static_cast<int>(whole.count() / 4));
+    return whole - milliseconds(less(random_));
+}
+
+Worker::Worker(const LinkConnection& connection, std::shared_ptr<Exchange> exchange)
+    : connection_(connection), exchange_(std::move(exchange)),
+      wakeUp_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)),
+      backOff_(static_cast<unsigned>(std::hash<std::string>()(connection.name) ^
+                                     static_cast<std::size_t>(getpid()) ^
+                                     static_cast<std::size_t>(Clock::now().time_since_epoch().count())))
+{
+}
+
+Worker::~Worker()
+{
+    close(wakeUp_);
+}
+
+void Worker::start()
+{
+    // The thread owns its object too, so that it may outlive the connection.
+    thread_ = std::thread([self = shared_from_this()] { self->loop(); });
+}
+
+void Worker::wake()
+{
+    const std::uint64_t one = 1;
+    // It can only fail where the counter is full, and then it wakes all the same.
+    [[maybe_unused]] const ssize_t written = write(wakeUp_, &one, sizeof one);
+}
+
+void Worker::stop()
+{
+    stopping_ = true;
+    wake();
+    interrupt();
+}
+
+void Worker::end(Clock::time_point deadline)
+{
+    if (!thread_.joinable())
+        return;
+    std::unique_lock<std::mutex> lock(mutex_);
+    const bool ended = ending_.wait_until(lock, deadline, [this] { return ended_; });
+    lock.unlock();
+    if (ended)
+        thread_.join();
+    else
+        thread_.detach();
+}
+
+void Worker::loop()
+{
+    BlockSignals();
+    while (!stopping()) {
+        const Failure failure = run();
+        if (!stopping())
+            waitAfter(failure);
+    }
+    const std::lock_guard<std::mutex> lock(mutex_);
+    ended_ = true;
+    ending_.notify_all();
+}
+
+void Worker::connected()
+{
+    if (connected_)
+        return;
+    connected_ = true;
+    last_ = {};
+    since_ = Clock::now();
+    tell({Note::Kind::Connected, 0, Cause::None, ""});
+}
+
+void Worker::waitAfter(const Failure& failure)
+{
+    if (connected_ && Clock::now() - since_ >= GOOD)
+        backOff_.reset();
+    const bool same = !connected_ && failure.cause == last_.cause && failure.detail == last_.detail;
+    connected_ = false;
+    last_ = failure;
+    if (!same)
+        tell({Note::Kind::Lost, 0, failure.cause, failure.detail});
+    const Clock::time_point until = Clock::now() + backOff_.next();
+    while (!stopping() && Clock::now() < until) {
+        refuseOrders(Cause::NotConnected);
+        wait(-1, 0, until);
+    }
+}
+
+void Worker::refuseOrders(Cause cause)
+{
+    for (Order order; exchange_->orders.pop(order);)
+        finish(order, cause);
+}
+
+void Worker::tell(Note note)
+{
+    notes_.push_back(std::move(note));
+    while (!notes_.empty() && exchange_->notes.push(notes_.front()))
+        notes_.pop_front();
+}
+
+void Worker::finish(const Order& order, Cause cause)
+{
+    Outcome outcome{order.number, order.cell, order.value, cause};
+    exchange_->outcomes.push(outcome);
+}
+
+void Worker::publish(std::size_t cell, LinkValue value, std::uint64_t after)
+{
+    exchange_->updates.fetch_add(1, std::memory_order_relaxed);
+    exchange_->readings.put(cell, {std::move(value), after});
+}
+
+short Worker::wait(int descriptor, short events, Clock::time_point until)
+{
+    while (!notes_.empty() && exchange_->notes.push(notes_.front()))
+        notes_.pop_front();
+    const auto left = std::chrono::ceil<milliseconds>(until - Clock::now());
+    pollfd polled[2] = {{wakeUp_, POLLIN, 0}, {descriptor, events, 0}};
+    const int timeout =
+        static_cast<int>(std::clamp<long long>(left.count(), 0, notes_.empty() ? 60000 : 100));
+    poll(polled, 2, timeout);
+    if (polled[0].revents) {
+        std::uint64_t count = 0;
+        [[maybe_unused]] const ssize_t got = read(wakeUp_, &count, sizeof count);
+    }
+    return polled[1].revents;
+}
+
+} // namespace tessary
