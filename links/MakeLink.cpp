@@ -3,6 +3,7 @@
 #include "links/Modbus.h"
 #include "links/Remote.h"
 #include "links/Simulate.h"
+#include "links/Socket.h"
 
 namespace tessary
 {
@@ -24,6 +25,8 @@ std::unique_ptr<Link> MakeLink(const LinkConnection& connection, Looks& looks, L
     switch (connection.kind) {
     case LINK_MODBUS:
         return std::make_unique<Remote>(connection, looks, who, MakeWorker<Modbus>);
+    case LINK_SOCKET:
+        return std::make_unique<Socket>(connection, looks, who);
     default:
         return std::make_unique<Simulate>(connection, looks, who);
     }

@@ -94,7 +94,7 @@ std::unique_ptr<Program> LinkedPlant::server(const std::string& script,
 std::string LinkedPlant::run(const std::string& command)
 {
     std::string output;
-    FILE* const pipe = popen((command + " 2>&1").c_str(), "r");
+    FILE* const pipe = popen(("{ " + command + "\n} 2>&1").c_str(), "r");
     char buffer[4096];
     while (const std::size_t size = std::fread(buffer, 1, sizeof buffer, pipe))
         output.append(buffer, size);

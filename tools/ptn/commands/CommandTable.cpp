@@ -11,6 +11,7 @@
     LINE(Watch)                                                                                              \
     LINE(Run)                                                                                                \
     LINE(Log)                                                                                                \
+    LINE(Cell)                                                                                               \
     LINE(Help)
 
 namespace ptn
