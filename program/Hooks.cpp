@@ -9,6 +9,7 @@
 #include "pattern/PtrnHedr.h"
 #include "program/Reload.h"
 #include "shell/Refusal.h"
+#include "tessary_plant.h"
 #include "window/Registry.h"
 
 using namespace tessary;
@@ -38,6 +39,44 @@ bool HasStartScreen()
     return false;
 }
 
+// The cells that live in the plant. Where this was built without the libraries of the protocols there are
+// none.
+#ifdef TESSARY_PLANT
+bool BeginLinks()
+{
+    return LinksInit(nullptr) == 1;
+}
+
+void EndLinks()
+{
+    LinksExit();
+}
+
+void MoveLinks()
+{
+    LinksTimr();
+}
+#else
+bool BeginLinks()
+{
+    return true;
+}
+
+void EndLinks() {}
+
+void MoveLinks() {}
+#endif
+
+bool HasLinks()
+{
+    if (BeginLinks())
+        return true;
+    RefuseStart({"プロジェクトの接続設定（PtrnLink）が壊れています。",
+                 "The links of the project, PtrnLink, can not be read. Build it again; the log tells more.",
+                 1});
+    return false;
+}
+
 } // namespace
 
 CPtrnDisp* GetPtrnWnd(const char* name)
@@ -48,12 +87,17 @@ CPtrnDisp* GetPtrnWnd(const char* name)
 int UserInit()
 {
     NoteProject();
-    return HasStartScreen() ? 1 : 0;
+    return HasStartScreen() && HasLinks() ? 1 : 0;
 }
 
-void UserExit() {}
+void UserExit()
+{
+    EndLinks();
+}
 
 void UserTimr()
 {
-    ReloadTimr();
+    // The links know cells by number, which may be other ones afterwards.
+    ReloadTimr(EndLinks, [] { BeginLinks(); });
+    MoveLinks();
 }

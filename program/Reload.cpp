@@ -126,16 +126,19 @@ void LoadShared()
     DrawCntlInit();
 }
 
-void Reload()
+void Reload(void (*before)(), void (*after)())
 {
     const Project now = ReadProject();
     const std::set<std::string> names = Differences(loaded, now);
     const bool shared = now.profile != loaded.profile || !std::all_of(names.begin(), names.end(), IsPattern);
     loaded = now;
-    if (shared)
+    if (shared) {
+        before();
         LoadShared();
-    else
+        after();
+    } else {
         LoadPatternNames();
+    }
     ReloadPtrnWnds([&](const char* name) { return shared || names.count(std::string(name) + ".ptn") > 0; });
 }
 
@@ -157,12 +160,12 @@ void NoteProject()
     loaded = ReadProject();
 }
 
-void ReloadTimr()
+void ReloadTimr(void (*before)(), void (*after)())
 {
     if (!asked || !AppliWnd)
         return;
     asked = false;
-    Reload();
+    Reload(before, after);
 }
 
 } // namespace tessary

@@ -13,6 +13,7 @@ void NoteProject();
 
 /// To be called in every tick: obeys the signal. Screens that have changed are shown as they are now; when
 /// something that all screens share has changed, all of them are. The cells keep what they have.
-void ReloadTimr();
+/// @param before, after  called around a load of what all screens share, the cells among it
+void ReloadTimr(void (*before)(), void (*after)());
 
 } // namespace tessary
