@@ -1,6 +1,7 @@
 #include "links/MakeLink.h"
 
 #include "links/Modbus.h"
+#include "links/Mqtt.h"
 #include "links/Remote.h"
 #include "links/Simulate.h"
 #include "links/Socket.h"
@@ -25,6 +26,8 @@ std::unique_ptr<Link> MakeLink(const LinkConnection& connection, Looks& looks, L
     switch (connection.kind) {
     case LINK_MODBUS:
         return std::make_unique<Remote>(connection, looks, who, MakeWorker<Modbus>);
+    case LINK_MQTT:
+        return std::make_unique<Remote>(connection, looks, who, MakeWorker<Mqtt>);
     case LINK_SOCKET:
         return std::make_unique<Socket>(connection, looks, who);
     default:

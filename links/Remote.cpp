@@ -17,6 +17,9 @@ namespace
 
 /// How long the value may take that the plant holds after an order that it has taken.
 constexpr double CONFIRM_MODBUS = 10.0;
+/// Of a broker, a value from before the order may still be on its way: another one than that of the order
+/// only counts when none has followed it for so long.
+constexpr double SETTLE_MQTT = 1.0;
 
 const char* FailedText(const LinkConnection& connection, std::string& buffer)
 {
@@ -64,7 +67,7 @@ void Remote::tick(double now)
     takeOutcomes(now);
     findChanges();
     exchange_->readings.take(
-        [this](std::size_t index, const Reading& reading) { takeReading(index, reading); });
+        [this, now](std::size_t index, const Reading& reading) { takeReading(index, reading, now); });
     endWaits(now, false);
     sendOrders();
     counts_.updates = exchange_->updates.load(std::memory_order_relaxed);
@@ -122,26 +125,39 @@ void Remote::takeOutcomes(double now)
         if (!isRead(outcome.cell)) {
             known.device = known.seen;
             known.pending = 0;
-        } else if (known.answer) {
-            confirm(outcome.cell, *known.answer);
+        } else if (known.answer && isFinal(outcome.cell, *known.answer)) {
+            confirm(outcome.cell, LinkValue(*known.answer));
         } else {
             const bool modbus = connection().kind == LINK_MODBUS;
-            known.confirmBy = now + (modbus ? CONFIRM_MODBUS : connection().timeout / 1000.0);
+            const double longest = modbus ? CONFIRM_MODBUS : connection().timeout / 1000.0;
+            known.confirmBy = now + (known.answer ? SETTLE_MQTT : longest);
             ++waits_;
         }
     }
 }
 
-void Remote::takeReading(std::size_t index, const Reading& reading)
+void Remote::takeReading(std::size_t index, const Reading& reading, double now)
 {
     Known& known = known_[index];
     known.device = reading.value;
-    if (known.pending == 0)
+    if (known.pending == 0) {
         put(index, reading.value);
-    else if (reading.after >= known.pending && known.confirmBy > 0.0)
+        return;
+    }
+    if (reading.after < known.pending)
+        return;
+    if (known.confirmBy > 0.0 && isFinal(index, reading.value)) {
         confirm(index, reading.value);
-    else if (reading.after >= known.pending)
-        known.answer = reading.value;
+        return;
+    }
+    known.answer = reading.value;
+    if (known.confirmBy > 0.0)
+        known.confirmBy = std::min(known.confirmBy, now + SETTLE_MQTT);
+}
+
+bool Remote::isFinal(std::size_t index, const LinkValue& value) const
+{
+    return connection().kind == LINK_MODBUS || value == known_[index].seen;
 }
 
 void Remote::confirm(std::size_t index, const LinkValue& value)
@@ -163,6 +179,10 @@ void Remote::endWaits(double now, bool lost)
         Known& known = known_[index];
         if (known.confirmBy <= 0.0 || (!lost && now < known.confirmBy))
             continue;
+        if (known.answer) { // what the plant has made of the order
+            confirm(index, LinkValue(*known.answer));
+            continue;
+        }
         --waits_;
         known.confirmBy = 0.0;
         known.pending = 0;

@@ -32,14 +32,15 @@ class Remote : public Link
         LinkValue seen;                  ///< what it held when it was looked at last; of cells to write
         std::optional<LinkValue> device; ///< what the plant holds
         std::uint64_t pending = 0;       ///< the newest order, until the plant has answered with its value
-        std::optional<LinkValue> answer; ///< that has come before the outcome
+        std::optional<LinkValue> answer; ///< that has come since, and does not count yet
         double confirmBy = 0.0; ///< the order was taken, and the value has to follow by then; 0: not yet
     };
 
     void begin();
     void takeNotes();
     void takeOutcomes(double now);
-    void takeReading(std::size_t index, const Reading& reading);
+    void takeReading(std::size_t index, const Reading& reading, double now);
+    bool isFinal(std::size_t index, const LinkValue& value) const;
     void confirm(std::size_t index, const LinkValue& value);
     void findChanges();
     void changed(std::size_t index, const LinkValue& before);
