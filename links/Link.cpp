@@ -42,8 +42,6 @@ std::string Link::placeOf(const LinkPoint& point) const
 void Link::setState(LinkState state, Cause cause, const std::string& detail)
 {
     problem_ = CauseText(cause, Language);
-    if (!problem_.empty() && !detail.empty())
-        problem_ += " (" + detail + ")";
     if (state != state_) {
         state_ = state;
         const char* const name = connection_.name.c_str();

@@ -47,6 +47,7 @@ class Link
     std::string placeOf(const LinkPoint& point) const;
 
     /// Changes state, status cell, log and looks.
+    /// @param detail  for the log
     void setState(LinkState state, Cause cause, const std::string& detail);
     LinkState state() const { return state_; }
     /// The same for one point, which is told once.

@@ -3,15 +3,12 @@
 #include "base/Constants.h"
 
 #include <algorithm>
-#include <arpa/inet.h>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <sys/resource.h>
-#include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
@@ -100,20 +97,6 @@ std::string LinkedPlant::run(const std::string& command)
         output.append(buffer, size);
     pclose(pipe);
     return output;
-}
-
-int LinkedPlant::freePort()
-{
-    const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* const plain = reinterpret_cast<sockaddr*>(&address);
-    EXPECT_EQ(bind(descriptor, plain, size), 0);
-    getsockname(descriptor, plain, &size);
-    close(descriptor);
-    return ntohs(address.sin_port);
 }
 
 std::string LinkedPlant::errorLine()

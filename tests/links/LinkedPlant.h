@@ -3,6 +3,7 @@
 
 #include "comndata/ComnData.h"
 #include "tessary_plant.h"
+#include "tests/links/FreePort.h"
 #include "tests/support/Program.h"
 #include "tests/support/Project.h"
 
@@ -31,7 +32,6 @@ class LinkedPlant : public testing::Test
     std::unique_ptr<Program> server(const std::string& script, const std::vector<std::string>& arguments);
     /// Runs a command and returns what it prints.
     static std::string run(const std::string& command);
-    static int freePort();
 
     static double number(int offset) { return Get_dData(100 + offset, nullptr, 0); }
     static std::string text(int offset) { return Get_sData(100 + offset, nullptr, 0); }
