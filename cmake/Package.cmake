@@ -37,3 +37,8 @@ file(RELATIVE_PATH headers /${CMAKE_INSTALL_LIBDIR}/pkgconfig /${CMAKE_INSTALL_I
 write_pkgconfig(${PROJECT_BINARY_DIR}/installed/tessary.pc ${libraries} ${headers} "")
 install(FILES ${PROJECT_BINARY_DIR}/installed/tessary.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 write_pkgconfig(${PROJECT_BINARY_DIR}/tessary.pc . include "${INSTRUMENT_LINK_OPTIONS}")
+
+if(TARGET tessary_plant)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/tessary-plant.pc.in ${PROJECT_BINARY_DIR}/tessary-plant.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/tessary-plant.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endif()

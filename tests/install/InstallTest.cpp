@@ -158,6 +158,30 @@ TEST_F(Install, has_what_pkg_config_finds)
     EXPECT_TRUE(fs::exists("plant-by-pkg-config"));
 }
 
+#ifdef TESSARY_PLANT
+TEST_F(Install, has_the_links_to_a_plant)
+{
+    writeFile("linked.cpp", "#include <tessary/tessary.h>\n"
+                            "#include <tessary/tessary_plant.h>\n"
+                            "CPtrnDisp* GetPtrnWnd(const char*) { return new CPtrnDisp; }\n"
+                            "int UserInit() { return tessary::LinksInit(nullptr); }\n"
+                            "void UserTimr() { tessary::LinksTimr(); }\n"
+                            "void UserExit() { tessary::LinksExit(); }\n");
+    EXPECT_THAT(
+        expectRuns(
+            "g++ -Wall -Wextra linked.cpp $(pkg-config --cflags --libs tessary-plant) " TESSARY_LINK_FLAGS
+            " -o linked-by-pkg-config"),
+        IsEmpty());
+    fs::create_directory("linked");
+    writeFile("linked/CMakeLists.txt",
+              "cmake_minimum_required(VERSION 3.16)\nproject(linked CXX)\n"
+              "find_package(Tessary REQUIRED)\nadd_executable(linked ../linked.cpp)\n"
+              "target_link_libraries(linked PRIVATE Tessary::main Tessary::plant)\n");
+    expectRuns("cmake -S linked -B linked-build" + options());
+    EXPECT_THAT(expectRuns("cmake --build linked-build"), Not(HasSubstr("warning")));
+}
+#endif
+
 TEST_F(Install, has_headers_of_which_each_can_be_included)
 {
     const std::string folder = "moved/include/";
