@@ -25,6 +25,7 @@ class BuildCommand : public Command
     std::string output_;
     std::filesystem::path header_;
     bool quiet_ = false;
+    bool reseed_ = false;
 };
 
 void BuildCommand::addOptions(CLI::App& line)
@@ -36,6 +37,9 @@ void BuildCommand::addOptions(CLI::App& line)
     line.add_option(
         "--header", header_,
         "C++ header with the cells and screens as constants; otherwise cells.h beside the profile");
+    line.add_flag(
+        "--reseed", reseed_,
+        "Write log flags and wiring table anew, whatever the panel has saved; a copy of that stays");
     line.add_flag("-q,--quiet", quiet_, "Say nothing unless something is wrong");
     line.footer(
         "Nothing is changed unless all sources are right. Files that are up to date keep their time;\n"
@@ -49,7 +53,7 @@ int BuildCommand::run()
     try {
         if (header_.empty())
             header_ = DefaultHeader(output_);
-        report = Build(source_, output_, header_, diagnostics);
+        report = Build(source_, output_, header_, diagnostics, reseed_ ? Reseed::Always : Reseed::Never);
     } catch (const std::filesystem::filesystem_error& problem) {
         ReportUnwritten(problem, diagnostics);
     }

@@ -111,7 +111,7 @@ fs::path DefaultHeader(const fs::path& output)
 }
 
 std::optional<OutputReport> Build(const fs::path& source, const fs::path& output, const fs::path& header,
-                                  Diagnostics& diagnostics)
+                                  Diagnostics& diagnostics, Reseed reseed)
 {
     const fs::path folder = FolderPath(output);
     if (!CheckOutputPlace(source, folder, output.string(), diagnostics))
@@ -131,7 +131,7 @@ std::optional<OutputReport> Build(const fs::path& source, const fs::path& output
     if (!header.empty())
         constants = {fs::absolute(header), CellsHeader(project, patterns)};
     return WriteOutput(folder, MadeFiles(project, patterns), SectionFiles(project, ProjectFile::Seed),
-                       {profile, profileBytes}, constants);
+                       {profile, profileBytes}, constants, reseed, diagnostics);
 }
 
 } // namespace ptn

@@ -2,51 +2,14 @@
 #pragma once
 
 #include "tools/ptn/common/Files.h"
-#include "tools/ptn/system/TemporaryFolder.h"
+#include "tools/ptn/compiled/Seeds.h"
 
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace ptn
 {
-
-/// A folder that goes again when it was not there before and has stayed empty.
-class MadeFolder
-{
-  public:
-    explicit MadeFolder(const std::filesystem::path& path);
-    ~MadeFolder();
-    MadeFolder(const MadeFolder&) = delete;
-    MadeFolder& operator=(const MadeFolder&) = delete;
-
-    const std::filesystem::path& path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-    bool made_;
-};
-
-/// New files, written into a hidden folder first and moved to their places when everything is complete. What
-/// is not moved is removed again, and so is the folder itself when it was made for them.
-class Staging
-{
-  public:
-    /// @param folder  where the files will go; made when needed
-    explicit Staging(const std::filesystem::path& folder);
-
-    /// Writes a file unless the folder has it with the same bytes already.
-    void add(const std::string& name, const std::string& bytes);
-
-    /// Moves the files in. @return how many there were
-    int moveIn();
-
-  private:
-    MadeFolder folder_;
-    TemporaryFolder temporary_; ///< within the folder; files can only be moved within one file system
-    std::vector<std::string> names_;
-};
 
 /// A file outside of the project directory.
 struct LooseFile {
@@ -63,15 +26,18 @@ struct OutputReport {
 };
 
 /// Brings a project directory and the profile up to date. Files of the build before that are not made any
-/// more are removed; everything else there stays.
+/// more are removed; everything else there stays. All files are on the disk before the first of them takes
+/// its place. While they do, tessary::UNFINISHED_MARK stands in the folder: a build that is killed then
+/// leaves it, the panel refuses such a project, and the next build makes it whole. Who else builds into the
+/// folder is waited for.
 /// @param files  those that the build alone writes, relative to the project directory
-/// @param seeds  files that the program goes on writing: they are written when they are missing or when
-///               they have changed since the build that wrote them last; what the program has made of them
-///               stays otherwise
+/// @param seeds  files that the program goes on writing, see compiled/Seeds.h; a warning tells which of the
+///               program's have stayed although their sources have changed
 /// @param header  the constants for the program, when they are wanted
 /// A signal to end that arrives meanwhile has its effect afterwards.
-/// Throws std::filesystem::filesystem_error when something can not be written; nothing has been moved then.
+/// Throws std::filesystem::filesystem_error when something can not be written.
 OutputReport WriteOutput(const std::filesystem::path& folder, const FileMap& files, const FileMap& seeds,
-                         const LooseFile& profile, const std::optional<LooseFile>& header);
+                         const LooseFile& profile, const std::optional<LooseFile>& header, Reseed reseed,
+                         Diagnostics& diagnostics);
 
 } // namespace ptn
