@@ -2,7 +2,7 @@
 # where what it needs is installed, Tessary::plant; see docs/installing.md.
 include(CMakeFindDependencyMacro)
 find_dependency(PkgConfig)
-pkg_check_modules(TESSARY_TOOLKIT QUIET IMPORTED_TARGET gtk+-2.0 gthread-2.0 x11)
+pkg_check_modules(TESSARY_TOOLKIT QUIET IMPORTED_TARGET gtk+-2.0 gthread-2.0 x11 xscrnsaver libsystemd)
 if(NOT TESSARY_TOOLKIT_FOUND)
   set(Tessary_FOUND FALSE)
   set(Tessary_NOT_FOUND_MESSAGE "pkg-config does not find gtk+-2.0, gthread-2.0 and x11")

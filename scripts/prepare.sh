@@ -44,8 +44,8 @@ build_preset() {
     cmake --build --preset "$1" --parallel "$(nproc)" || fail "the build failed; the first error stands above"
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libyaml-cpp-dev libcli11-dev libfmt-dev
-    libmodbus-dev libmosquitto-dev nlohmann-json3-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libxss-dev libsystemd-dev libyaml-cpp-dev
+    libcli11-dev libfmt-dev libmodbus-dev libmosquitto-dev nlohmann-json3-dev)
 RUN_PACKAGES=(locales xfonts-base xfonts-intl-japanese xfonts-intl-japanese-big fonts-droid-fallback)
 HEADLESS_PACKAGES=(xvfb xdotool scrot)
 TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxres-dev libncurses-dev clang

@@ -1,23 +1,35 @@
 #include "shell/Program.h"
 
+#include "base/EucText.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "shell/DisplayGuard.h"
 #include "shell/Locale.h"
 #include "shell/Options.h"
 #include "shell/ProgramEnd.h"
 #include "shell/Refusal.h"
 #include "shell/Startup.h"
+#include "shell/Supervisor.h"
+#include "window/PtrnDisp.h"
 #include "window/Registry.h"
 #include "window/Request.h"
+#include "window/Slots.h"
 
 #include <cstdlib>
 #include <gtk/gtk.h>
+#include <optional>
 
 namespace tessary
 {
 
 namespace
 {
+
+int SupervisedTick(void*)
+{
+    TellSupervisor();
+    return Timer_Event(nullptr);
+}
 
 /// @return whether the first window is to be shown; not when a signal came while a message box was up
 bool Start(char* path)
@@ -31,6 +43,19 @@ bool Start(char* path)
     return answer == 1 && !EndedBySignal();
 }
 
+/// What keeps the operator from seeing the first screen. Without a registered one the panel goes on: it may
+/// get a window later.
+std::optional<Refusal> FirstScreenProblem()
+{
+    if (!AppliWnd || (AppliWnd->WindRect.width > 0 && AppliWnd->WindRect.height > 0))
+        return std::nullopt;
+    const std::string name = AppliWnd->PtrnName;
+    return Refusal{"最初の画面「" + name + "」を表示できません。",
+                   "The first screen '" + EucToUtf8(name.c_str()) + "' can not be shown: its pattern in '" +
+                       ProjPath + "' is missing, can not be read, or has no size. Build the project again.",
+                   1};
+}
+
 } // namespace
 
 bool PrepareProgram(int* argc, char*** argv)
@@ -40,6 +65,7 @@ bool PrepareProgram(int* argc, char*** argv)
     UseEucLocale();
     if (!StartToolkit(argc, argv))
         return false;
+    GuardDisplay();
     gdk_rgb_init();
     return true;
 }
@@ -47,14 +73,18 @@ bool PrepareProgram(int* argc, char*** argv)
 void RunProgram(char* path, const std::string& screen)
 {
     // Before the start-up, so that a message box it shows already lives among ticks.
-    const guint tick = gtk_timeout_add(100, Timer_Event, nullptr);
+    const guint tick = gtk_timeout_add(100, SupervisedTick, nullptr);
 
     if (Start(path)) {
         PtrnDispTopWnd(screen.empty() ? ProfileReadAsc(ProfName, "PTRN", "PTRNSTART") : screen.c_str(),
                        nullptr, 0);
-        gtk_main();
+        if (const auto problem = FirstScreenProblem())
+            RefuseStart(*problem);
+        else
+            gtk_main();
     }
 
+    TellSupervisorOfEnd();
     gtk_timeout_remove(tick);
     UserExit();
     TessaryExit();

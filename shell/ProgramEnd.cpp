@@ -61,6 +61,7 @@ void WatchSignals()
 {
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         g_unix_signal_add(number, TakeSignal, nullptr);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow fails to be written, as on a full disk
 }
 
 bool EndedBySignal()

@@ -11,7 +11,8 @@ void EndProgram();
 /// From now on SIGTERM, SIGINT and SIGHUP end the program as the end of the stop countdown does, without its
 /// stop pattern and its delay; an entry in progress is discarded. Main loops that begin after that, as of a
 /// message box, end at once. A second signal changes nothing. To be called once, before the toolkit starts.
-/// Signals that come before a main loop runs are obeyed by the first one.
+/// Signals that come before a main loop runs are obeyed by the first one. A limit to the size of files does
+/// not end the program: writing fails.
 void WatchSignals();
 
 /// Whether a signal has ended the program.

@@ -17,9 +17,14 @@ int startStatus;
 
 void RefuseStart(const Refusal& refusal)
 {
-    startStatus = refusal.status;
-    Tell(refusal.advice);
+    Fail(refusal.advice, refusal.status);
     MessageBox("起動不可", refusal.box.c_str(), 1, 1);
+}
+
+void Fail(const std::string& advice, int status)
+{
+    startStatus = status;
+    Tell(advice);
 }
 
 int StartStatus()

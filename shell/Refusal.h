@@ -16,7 +16,10 @@ struct Refusal {
 /// Tells it and waits until the message box is closed.
 void RefuseStart(const Refusal& refusal);
 
-/// Exit status of the program: that of the last refusal, 0 without one.
+/// Tells on standard error why the program can not go on, without a box.
+void Fail(const std::string& advice, int status);
+
+/// Exit status of the program: that of the last refusal or failure, 0 without one.
 int StartStatus();
 
 /// Writes a line to standard error, beginning with the program's name.

@@ -5,6 +5,7 @@
 #include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/Profile.h"
+#include "config/ProjectMark.h"
 #include "config/Settings.h"
 #include "dialogs/PtrnMente.h"
 #include "draw/FontProblem.h"
@@ -12,6 +13,8 @@
 #include "log/Category.h"
 #include "log/Clock.h"
 #include "log/Logfile.h"
+#include "shell/DisplayGuard.h"
+#include "shell/Instance.h"
 #include "shell/Locale.h"
 #include "shell/ProgramEnd.h"
 #include "shell/Refusal.h"
@@ -71,6 +74,12 @@ std::optional<Refusal> ProfileProblem()
                            "' names no project. Set PROJECT in the section [TESSARY] to the "
                            "project's folder.",
                        Has(Correction::StartStatus) ? 1 : 0};
+    if (FileExist(ProjPath, UNFINISHED_MARK))
+        return Refusal{"プロジェクト(" + std::string(ProjPath) + ")の作成が完了していません。",
+                       "The project '" + std::string(ProjPath) +
+                           "' is half old and half new: a build was interrupted, or is going on. Build it "
+                           "again with \"ptn build\".",
+                       1};
     return std::nullopt;
 }
 
@@ -83,6 +92,12 @@ int TessaryInit(char* path)
     FindProfile(path);
     if (const auto problem = ProfileProblem()) {
         RefuseStart(*problem);
+        return 0;
+    }
+    if (Has(Correction::OneInstance) && !BeOnlyInstance(ProfName)) {
+        Fail("A program with the profile '" + std::string(ProfName) +
+                 "' is running already. End it first, or give this one a profile of its own.",
+             1);
         return 0;
     }
 
@@ -107,6 +122,7 @@ void TessaryExit()
     ComnDataExit();
     LogfileWrite("", "システム停止", nullptr, 0);
     LogfileExit();
+    EndInstance();
     SetEdition(1);
     Platform = 0;
     ticks = 0;
@@ -152,6 +168,7 @@ int Timer_Event(void*)
     if (SystmWnd)
         SystmWnd->TimrEvent();
     CountStop();
+    NoticeLostWindow();
     DeleteRetiredWnd();
     return 1;
 }

@@ -2,6 +2,7 @@
 #include "base/Coord.h"
 #include "base/EucText.h"
 #include "comndata/PtrnCode.h"
+#include "config/Edition.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
 #include "draw/Resource.h"
@@ -13,6 +14,7 @@
 #include "window/PtrnDisp.h"
 #include "window/Retire.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <utility>
@@ -26,6 +28,24 @@ namespace
 RECT RectAt(int x, int y, int width, int height)
 {
     return {x, y, Shift(x, width), Shift(y, height), width, height};
+}
+
+/// The nearest place at which a part of that size lies on the display, with its beginning if it is larger.
+int Reachable(int place, int size, int display)
+{
+    return std::max(0, std::min(place, display - size));
+}
+
+/// The display may have become smaller since the place was remembered.
+void BringToDisplay(const CPtrnDisp& wnd, SIZE size, int& x, int& y)
+{
+    const POINT place = {Reachable(x, size.cx, DispSizeX), Reachable(y, size.cy, DispSizeY)};
+    if (place.x == x && place.y == y)
+        return;
+    LogText(CATEGORY_WINDOW, nullptr, 0, "ウィンドウを画面内に移動  [%s / (%d,%d) → (%d,%d)]", wnd.PtrnName,
+            x, y, place.x, place.y);
+    x = place.x;
+    y = place.y;
 }
 
 } // namespace
@@ -120,6 +140,8 @@ void CPtrnDisp::PlaceWindow()
         if (x == 0 && y == 0) { // never saved
             x = static_cast<int>((static_cast<std::int64_t>(DispSizeX) - width) / 2);
             y = static_cast<int>((static_cast<std::int64_t>(DispSizeY) - height) / 2);
+        } else if (Has(Correction::ReachablePlace)) {
+            BringToDisplay(*this, {width, height}, x, y);
         }
     }
     WindRect = RectAt(x, y, width, height);

@@ -10,11 +10,14 @@
 
 #include <algorithm>
 #include <gtk/gtk.h>
+#include <utility>
 
 using namespace tessary;
 
 namespace
 {
+
+bool lost; ///< the application window, to another program
 
 template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
 {
@@ -71,7 +74,7 @@ void KeepUnbuffered(GdkWindow* window)
                            [](gpointer context) { cairo_destroy(static_cast<cairo_t*>(context)); });
 }
 
-/// The system window lies over the application window, also over one that comes later.
+/// The window lies over its parent, also over one that comes later.
 void KeepAbove(const CPtrnDisp& wnd, GtkWidget* parent)
 {
     if (!wnd.Widget || !GTK_WIDGET_REALIZED(wnd.Widget))
@@ -81,13 +84,14 @@ void KeepAbove(const CPtrnDisp& wnd, GtkWidget* parent)
 }
 
 /// Without a window manager the window shown last lies on top, also of the children that its own init hook
-/// has opened.
+/// has opened. A window manager, which did not know this window when it was told that they belong to it, is
+/// told again.
 void RaiseChildren(const CPtrnDisp& wnd)
 {
     for (const CPtrnDisp* child : {wnd.ChildWnd1, wnd.ChildWnd2}) {
-        if (!child || !child->Widget || !GTK_WIDGET_REALIZED(child->Widget))
+        if (!child)
             continue;
-        gdk_window_raise(child->Widget->window);
+        KeepAbove(*child, wnd.Widget);
         RaiseChildren(*child);
     }
 }
@@ -107,18 +111,35 @@ struct tessary::WindowSignals {
     {
         wnd->Shown = true;
         FreeKeyboard(widget, false);
+        RaiseChildren(*wnd);
         if (wnd == AppliWnd && SystmWnd)
             KeepAbove(*SystmWnd, widget);
         return FALSE;
     }
 
+    /// The button that holds a control may be released where this window does not hear of it.
+    static int LetGo(GtkWidget*, GdkEvent*, CPtrnDisp* wnd)
+    {
+        if (wnd->PtrnData)
+            wnd->PtrnData->LButtonUp();
+        wnd->MouseLeave();
+        return FALSE;
+    }
+
     static int Destroy(GtkWidget* widget, CPtrnDisp* wnd)
     {
-        if (wnd->Widget == widget)
+        if (wnd->Widget == widget) {
             wnd->LeaveWidget();
+            lost = lost || wnd == AppliWnd;
+        }
         return TRUE;
     }
 };
+
+bool tessary::TakeLostWindow()
+{
+    return std::exchange(lost, false);
+}
 
 /// However the toolkit window went, nothing may draw on it or destroy it again.
 void CPtrnDisp::LeaveWidget()
@@ -167,6 +188,8 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     Connect(top, "key_release_event", Key_Release, wnd);
     Connect(top, "configure_event", WindowSignals::Configure, wnd);
     Connect(top, "map_event", WindowSignals::Map, wnd);
+    Connect(top, "unmap_event", WindowSignals::LetGo, wnd);
+    Connect(area, "grab_broken_event", WindowSignals::LetGo, wnd);
     Connect(top, "delete_event", Refuse_Delete, wnd);
     Connect(top, "unrealize", Window_Unrealize, wnd);
     Connect(top, "destroy", WindowSignals::Destroy, wnd);

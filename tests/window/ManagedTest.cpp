@@ -277,3 +277,17 @@ TEST_F(StartingManager, overlooks_a_window_only_until_it_is_asked_again)
         "the window");
     waitShown(AppliWnd);
 }
+
+TEST_F(Managed, keep_the_child_above_that_their_init_hook_has_opened)
+{
+    know(plain("form", 200, 150));
+    hooks.init = [](CPtrnDisp& wnd) {
+        if (std::string(wnd.PtrnName) == "form")
+            wnd.PtrnDispChild(1, "q", 250, 200, nullptr, 0);
+    };
+    openTop("form");
+    user.waitFor([&] { return titles() == std::vector<std::string>{"form", "q"}; }, "the child above");
+    click(AppliWnd, 20, 8);
+    waitActive(AppliWnd);
+    EXPECT_THAT(titles(), ElementsAre("form", "q"));
+}

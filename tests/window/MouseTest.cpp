@@ -6,6 +6,7 @@
 #include "window/Request.h"
 
 #include <gmock/gmock.h>
+#include <gtk/gtk.h>
 #include <X11/keysym.h>
 
 using namespace tessary;
@@ -80,6 +81,32 @@ TEST_F(Mouse, the_hook_can_keep_an_event_from_the_items)
     click(AppliWnd, 20, 50);
     click(AppliWnd, 20, 50, 3);
     EXPECT_THAT(effects(), ElementsAre("mesg 100", "rbtn 100")) << "only 1 keeps it";
+}
+
+TEST_F(Mouse, a_held_control_is_let_go_when_its_window_is_unmapped)
+{
+    open(panel("top"));
+    press(AppliWnd, 15, 105);
+    ASSERT_NE(AppliWnd->PtrnData->RepeatFlag, 0);
+    GdkEvent* const unmapped = gdk_event_new(GDK_UNMAP);
+    unmapped->any.window = static_cast<GdkWindow*>(g_object_ref(AppliWnd->Widget->window));
+    gtk_main_do_event(unmapped);
+    gdk_event_free(unmapped);
+    EXPECT_EQ(AppliWnd->PtrnData->RepeatFlag, 0);
+    release();
+}
+
+TEST_F(Mouse, a_held_control_is_let_go_when_another_program_takes_the_pointer)
+{
+    open(panel("top"));
+    press(AppliWnd, 15, 105);
+    ASSERT_NE(AppliWnd->PtrnData->RepeatFlag, 0);
+    GdkEvent* const broken = gdk_event_new(GDK_GRAB_BROKEN);
+    broken->grab_broken.window = static_cast<GdkWindow*>(g_object_ref(AppliWnd->DrawArea->window));
+    gtk_main_do_event(broken);
+    gdk_event_free(broken);
+    EXPECT_EQ(AppliWnd->PtrnData->RepeatFlag, 0);
+    release();
 }
 
 TEST_F(Mouse, the_hook_can_keep_motion_from_a_held_control)
