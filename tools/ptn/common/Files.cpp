@@ -20,7 +20,7 @@ std::optional<std::string> ReadBytes(const fs::path& file)
         return std::nullopt;
     // What a file system says of a file's size may be wrong, or change.
     std::string bytes;
-    std::vector<char> part(1024 * 1024);
+    std::vector<char> part(std::size_t{1024} * 1024);
     while (in && bytes.size() <= LARGEST_INPUT) {
         in.read(part.data(), static_cast<std::streamsize>(part.size()));
         bytes.append(part.data(), static_cast<std::size_t>(in.gcount()));

@@ -12,7 +12,7 @@ namespace
 {
 
 /// Most pixels of a picture: several times those of the largest display.
-constexpr long long MOST_PIXELS = 16 * 1024 * 1024;
+constexpr long long MOST_PIXELS = 16LL * 1024 * 1024;
 
 bool BeginsWith(const std::string& bytes, const std::string& begin)
 {

@@ -126,7 +126,7 @@ std::string ErrorsOf(GObject* process, GAsyncResult* result)
 {
     char* errors = nullptr;
     g_subprocess_communicate_utf8_finish(G_SUBPROCESS(process), result, nullptr, &errors, nullptr);
-    const std::string text = errors ? errors : "";
+    std::string text = errors ? errors : "";
     g_free(errors);
     return text;
 }
