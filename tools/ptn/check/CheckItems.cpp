@@ -65,6 +65,8 @@ class Checker
 
     void text(const std::string& text, std::size_t limit, const char* what)
     {
+        if (text.empty()) // as most are, and converting takes time
+            return;
         if (text.size() > limit)
             say("{} has {} bytes; the panel keeps {}. Shorten it.", what, text.size(), limit);
         Diagnostics found;
