@@ -7,8 +7,8 @@ usage() {
     cat <<'TEXT'
 Usage: scripts/package.sh [--help] [--no-trial] FOLDER
 
-Installs what is missing, builds the Debian packages tessary and libtessary-dev from the sources in git
-into FOLDER, which must be new or empty, and has lintian look at them: its errors and warnings fail.
+Installs what is missing, builds the Debian packages tessary, tessary-panel and libtessary-dev from the
+sources in git into FOLDER, which must be new or empty, and has lintian look at them: its errors and warnings fail.
 
 Then the packages are tried: they are installed into a bare Debian of their own in FOLDER/root
 (debootstrap, which needs root and the mirror that apt uses), where the project of "ptn new" is built.
@@ -92,7 +92,11 @@ try_packages() {
             g++ cmake make /tmp/*.deb'
         in_root sh -ec 'cd /tmp
             [ "$(ptn --version)" = "$1" ]
-            ptn new plant
+            ptn new look
+            ptn check look
+            ptn build look look/build/ProjPath
+            tessary-panel --version
+            ptn new --program plant
             cmake -S plant -B plant/build
             cmake --build plant/build
             g++ plant/program/Registry.cpp $(pkg-config --cflags --libs tessary) -o by-pkg-config
