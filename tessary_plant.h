@@ -30,8 +30,8 @@ enum class LinkState { Connecting = 0, Connected = 1, Lost = 2 };
 
 /// One connection.
 struct LinkStatus {
-    std::string name; ///< UTF-8
-    LinkState state = LinkState::Connecting;
+    std::string name;                        ///< UTF-8
+    LinkState state = LinkState::Connecting; ///< how it is
     std::string problem;       ///< what is wrong, in EUC-JP and the language of the panel; or empty
     std::uint64_t updates = 0; ///< values that have come in
     std::uint64_t written = 0; ///< values that the plant has taken

@@ -94,6 +94,8 @@ fi
 # The compile commands are those of the tests, but clang can not read gcc's precompiled headers.
 cmake -S . -B build-tidy -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTESSARY_TESTS=ON -DTESSARY_BENCH=ON \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+# What the programs of the manual include.
+cmake --build build-tidy --target tessary_headers >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 
 # One source; nothing is printed unless there is a finding.
 look() {

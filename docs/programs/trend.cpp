@@ -50,8 +50,9 @@ class TrendWnd : public CPtrnDisp
     POINT Place(const RECT& frame, std::size_t i) const
     {
         const float part = std::min(std::max(Samples[i] / FULL_SCALE, 0.0F), 1.0F);
-        return {frame.left + frame.width * static_cast<int>(i) / (SAMPLES - 1),
-                frame.bottom - static_cast<int>(static_cast<float>(frame.height) * part)};
+        const int x = frame.left + frame.width * static_cast<int>(i) / (SAMPLES - 1);
+        const int y = frame.bottom - static_cast<int>(static_cast<float>(frame.height) * part);
+        return {x, y};
     }
 
     std::deque<float> Samples;

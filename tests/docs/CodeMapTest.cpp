@@ -9,7 +9,7 @@
 
 TEST(CodeMap, names_places_that_are_there)
 {
-    static const std::regex path("`([A-Za-z/]+(?:/|\\.[a-z]+))`");
+    static const std::regex PATH("`([A-Za-z/]+(?:/|\\.[a-z]+))`");
     const std::string page = TextOf("CONTRIBUTING.md");
     const std::size_t begin = page.find("## I want to");
     ASSERT_NE(begin, std::string::npos);
@@ -17,7 +17,7 @@ TEST(CodeMap, names_places_that_are_there)
 
     std::vector<std::string> missing;
     int seen = 0;
-    for (std::sregex_iterator at(map.begin(), map.end(), path), end; at != end; ++at) {
+    for (std::sregex_iterator at(map.begin(), map.end(), PATH), end; at != end; ++at) {
         ++seen;
         if (!std::filesystem::exists(Program::sourceFolder() + "/" + (*at)[1].str()))
             missing.push_back((*at)[1]);

@@ -59,10 +59,10 @@ std::set<std::string> Anchors(const std::string& page)
 /// Targets of the links of a page, those into the network left out.
 std::vector<std::string> Targets(const std::string& page)
 {
-    static const std::regex link(R"(\]\(([^)\s]+)\))");
+    static const std::regex LINK(R"(\]\(([^)\s]+)\))");
     std::vector<std::string> targets;
     const std::string text = WithoutCode(TextOf(page));
-    for (std::sregex_iterator at(text.begin(), text.end(), link), end; at != end; ++at)
+    for (std::sregex_iterator at(text.begin(), text.end(), LINK), end; at != end; ++at)
         if (const std::string target = (*at)[1]; target.find("://") == std::string::npos)
             targets.push_back(target);
     return targets;

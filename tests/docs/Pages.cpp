@@ -42,8 +42,8 @@ std::vector<std::string> Pages()
 std::vector<std::string> FrameworkSources()
 {
     std::vector<std::string> files;
-    for (const char* folder :
-         {"base", "config", "log", "comndata", "draw", "pattern", "window", "dialogs", "shell", "program"})
+    for (const char* folder : {"base", "config", "log", "comndata", "draw", "pattern", "window", "dialogs",
+                               "shell", "links", "program"})
         AddFiles(folder, {".cpp", ".h"}, true, &files);
     std::sort(files.begin(), files.end());
     return files;
@@ -56,12 +56,12 @@ std::string TextOf(const std::string& file)
 
 std::vector<std::string> Literals(const std::string& source)
 {
-    static const std::regex literal(R"re("((?:[^"\\]|\\.)*)")re");
+    static const std::regex LITERAL(R"re("((?:[^"\\]|\\.)*)")re");
     std::vector<std::string> found;
     std::istringstream lines(source);
     for (std::string line; std::getline(lines, line);) {
         line.erase(std::min(line.find("//"), line.size()));
-        for (std::sregex_iterator at(line.begin(), line.end(), literal), end; at != end; ++at)
+        for (std::sregex_iterator at(line.begin(), line.end(), LITERAL), end; at != end; ++at)
             found.push_back((*at)[1]);
     }
     return found;

@@ -15,8 +15,8 @@ using Keys = std::set<std::string>; // "SECTION/KEY"
 /// Whether a literal looks like a key, or like the beginning of one whose number follows.
 bool IsKey(const std::string& literal)
 {
-    static const std::regex key("[A-Z][A-Z_]{3,}(%03d)?");
-    return std::regex_match(literal, key);
+    static const std::regex KEY("[A-Z][A-Z_]{3,}(%03d)?");
+    return std::regex_match(literal, KEY);
 }
 
 /// Of a call whose key is no literal: those in the same file that may be meant.
@@ -29,11 +29,11 @@ void AddComputed(const std::string& section, const std::string& source, Keys* ke
 
 Keys KeysOfSources()
 {
-    static const std::regex call(R"re(Profile(?:Read|Write)\w*\(\s*ProfName,\s*"(\w+)",\s*(?:"(\w+)")?)re");
+    static const std::regex CALL(R"re(Profile(?:Read|Write)\w*\(\s*ProfName,\s*"(\w+)",\s*(?:"(\w+)")?)re");
     Keys keys;
     for (const std::string& file : FrameworkSources()) {
         const std::string source = TextOf(file);
-        for (std::sregex_iterator at(source.begin(), source.end(), call), end; at != end; ++at) {
+        for (std::sregex_iterator at(source.begin(), source.end(), CALL), end; at != end; ++at) {
             if ((*at)[2].matched)
                 keys.insert((*at)[1].str() + "/" + (*at)[2].str());
             else
@@ -46,16 +46,16 @@ Keys KeysOfSources()
 /// Rows "| `KEY` ..." below headings "## [SECTION]".
 Keys KeysOfPage()
 {
-    static const std::regex heading(R"(## \[(\w+)\])");
-    static const std::regex row(R"(\| `([A-Z_]+)`.*)");
+    static const std::regex HEADING(R"(## \[(\w+)\])");
+    static const std::regex ROW(R"(\| `([A-Z_]+)`.*)");
     Keys keys;
     std::string section;
     std::istringstream lines(TextOf("docs/profile.md"));
     std::smatch match;
     for (std::string line; std::getline(lines, line);) {
-        if (std::regex_match(line, match, heading))
+        if (std::regex_match(line, match, HEADING))
             section = match[1];
-        else if (std::regex_match(line, match, row))
+        else if (std::regex_match(line, match, ROW))
             keys.insert(section + "/" + match[1].str());
     }
     return keys;

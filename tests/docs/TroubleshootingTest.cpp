@@ -38,10 +38,10 @@ bool HasJapanese(const std::string& text)
 /// The parts of quotations in the page, which "..." separates, that are Japanese.
 std::vector<std::string> Quotations()
 {
-    static const std::regex quotation("`([^`\n]+)`");
+    static const std::regex QUOTATION("`([^`\n]+)`");
     const std::string page = TextOf(PAGE);
     std::vector<std::string> parts;
-    for (std::sregex_iterator at(page.begin(), page.end(), quotation), end; at != end; ++at) {
+    for (std::sregex_iterator at(page.begin(), page.end(), QUOTATION), end; at != end; ++at) {
         std::string rest = (*at)[1];
         while (!rest.empty()) {
             const std::size_t dots = rest.find("...");
