@@ -1,8 +1,9 @@
 #include "shell/Supervisor.h"
 
 #include <cstdint>
-#include <glib.h>
+#include <gtk/gtk.h>
 #include <systemd/sd-daemon.h>
+#include <utility>
 
 namespace tessary
 {
@@ -10,26 +11,35 @@ namespace tessary
 namespace
 {
 
-/// Time from one sign of life to the next, in microseconds; 0 when none is expected.
-gint64 Interval()
+bool ticked; ///< since the last sign of life
+
+/// Time from one sign of life to the next, in milliseconds; 0 when none is expected.
+guint Interval()
 {
-    std::uint64_t within = 0;
-    return sd_watchdog_enabled(0, &within) > 0 ? static_cast<gint64>(within / 2) : 0;
+    std::uint64_t within = 0; // microseconds
+    return sd_watchdog_enabled(0, &within) > 0 ? static_cast<guint>(within / 2 / 1000) : 0;
+}
+
+/// A message box that is opened within a tick waits for the operator, and the ticks wait with it: its main
+/// loop is a sign of life too.
+gboolean TellLife(void*)
+{
+    if (std::exchange(ticked, false) || gtk_main_level() > 1)
+        sd_notify(0, "WATCHDOG=1");
+    return TRUE;
 }
 
 } // namespace
 
 void TellSupervisor()
 {
-    static const gint64 INTERVAL = [] {
+    static const bool READY = [] {
         sd_notify(0, "READY=1");
-        return Interval();
+        if (const guint interval = Interval())
+            g_timeout_add(interval, TellLife, nullptr);
+        return true;
     }();
-    static gint64 next = 0;
-    if (INTERVAL == 0 || g_get_monotonic_time() < next)
-        return;
-    next = g_get_monotonic_time() + INTERVAL;
-    sd_notify(0, "WATCHDOG=1");
+    ticked = READY;
 }
 
 void TellSupervisorOfEnd()
