@@ -37,7 +37,7 @@ constexpr int TOPIC_BYTES = 1000;
 const std::vector<Field<LinkPoint>>& PointFields()
 {
     using P = LinkPoint;
-    static const std::vector<Field<P>> fields = {
+    static const std::vector<Field<P>> FIELDS = {
         {"data", &P::data, POINTS, 0, 0, "needed", "cell: CODE, or CODE+2; the first one of several"},
         {"count", &P::count, POINTS, 1, LINK_CELLS_MAX, "1",
          "cells that follow each other, with as many values in the plant"},
@@ -80,13 +80,13 @@ const std::vector<Field<LinkPoint>>& PointFields()
         {"limit", &P::limit, SIMULATE, -ANY, ANY, "0", "above, below: 1 when the cell 'of' is, else 0"},
         {"start", &P::start, SIMULATE, -ANY, ANY, "0", "flow and follow: the first value"},
     };
-    return fields;
+    return FIELDS;
 }
 
 const std::vector<Field<LinkConnection>>& ConnectionFields()
 {
     using C = LinkConnection;
-    static const std::vector<Field<C>> fields = {
+    static const std::vector<Field<C>> FIELDS = {
         {"unit", &C::unit, MODBUS, 0, 255, "1", "number of the device"},
         {"period", &C::period, MODBUS | SIMULATE, 100, HOUR, "1 s; simulate 100 ms",
          "how often values are asked for", FieldForm::Duration},
@@ -113,7 +113,7 @@ const std::vector<Field<LinkConnection>>& ConnectionFields()
         {"keepalive", &C::keepalive, MQTT, 5000, HOUR, "10 s", "how soon a broker that hangs is noticed",
          FieldForm::Duration},
     };
-    return fields;
+    return FIELDS;
 }
 
 int ChoiceOf(const char* const* choices, const std::string& name)

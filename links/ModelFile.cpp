@@ -54,14 +54,14 @@ Json ToJson(const LostLook& look)
 
 template <class T> void PutFields(Json& to, const T& from, int kind, const std::vector<Field<T>>& fields)
 {
-    static const T initial;
+    static const T INITIAL;
     for (const Field<T>& field : fields) {
         if (!field.of(kind))
             continue;
         std::visit(
             [&](auto member) {
                 const Json value = ToJson(from.*member);
-                if (value != ToJson(initial.*member))
+                if (value != ToJson(INITIAL.*member))
                     to[field.name] = value;
             },
             field.member);

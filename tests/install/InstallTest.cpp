@@ -152,13 +152,12 @@ TEST_F(Install, has_what_pkg_config_finds)
 {
     expectRuns("moved/bin/ptn build plant by-hand/ProjPath");
     EXPECT_THAT(expectRuns("g++ -Wall -Wextra -Iby-hand plant/program/Registry.cpp "
-                           "$(pkg-config --cflags --libs tessary) " TESSARY_LINK_FLAGS
+                           "$(pkg-config --cflags --libs tessary tessary-plant) " TESSARY_LINK_FLAGS
                            " -o plant-by-pkg-config"),
                 IsEmpty());
     EXPECT_TRUE(fs::exists("plant-by-pkg-config"));
 }
 
-#ifdef TESSARY_PLANT
 TEST_F(Install, has_the_links_to_a_plant)
 {
     writeFile("linked.cpp", "#include <tessary/tessary.h>\n"
@@ -180,7 +179,6 @@ TEST_F(Install, has_the_links_to_a_plant)
     expectRuns("cmake -S linked -B linked-build" + options());
     EXPECT_THAT(expectRuns("cmake --build linked-build"), Not(HasSubstr("warning")));
 }
-#endif
 
 TEST_F(Install, has_headers_of_which_each_can_be_included)
 {

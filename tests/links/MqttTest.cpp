@@ -8,6 +8,8 @@
 #include <csignal>
 #include <fstream>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tessary;
 using testing::EndsWith;
@@ -176,6 +178,25 @@ TEST_F(MqttPlant, tells_others_that_it_is_there)
     EXPECT_EQ(retained("tessary/panel1/online"), "1\n");
     LinksExit();
     EXPECT_EQ(retained("tessary/panel1/online"), "0\n");
+}
+
+TEST_F(MqttPlant, that_is_killed_is_told_by_its_last_will)
+{
+    broker();
+    plant({"{ data: A, topic: t }"}, "    online: tessary/panel1/online\n");
+    LinksExit();
+    const pid_t panel = fork();
+    if (panel == 0) {
+        LinksInit(nullptr);
+        for (;;) {
+            LinksTimr();
+            usleep(10000);
+        }
+    }
+    ASSERT_TRUE(waitFor([&] { return retained("tessary/panel1/online") == "1\n"; }, "the other panel"));
+    kill(panel, SIGKILL);
+    waitpid(panel, nullptr, 0);
+    EXPECT_TRUE(waitFor([&] { return retained("tessary/panel1/online") == "0\n"; }, "its last will"));
 }
 
 TEST_F(MqttPlant, broker_that_ends_is_lost_until_it_is_there_again)

@@ -342,7 +342,7 @@ void ReadField(const tessary::Field<T>& field, const Source& source, const Subje
 template <class T>
 std::vector<std::string> FieldTexts(const T& from, int kind, const std::vector<tessary::Field<T>>& fields)
 {
-    static const T initial;
+    static const T INITIAL;
     std::vector<std::string> texts;
     for (const tessary::Field<T>& field : fields) {
         if (!field.of(kind))
@@ -351,7 +351,7 @@ std::vector<std::string> FieldTexts(const T& from, int kind, const std::vector<t
             [&](auto member) {
                 // A choice without a name is no value that could be written either.
                 const std::string text = ValueText(field.form, field.choices, from.*member);
-                if (text != ValueText(field.form, field.choices, initial.*member))
+                if (text != ValueText(field.form, field.choices, INITIAL.*member))
                     texts.push_back(std::string(field.name) + ": " + text);
             },
             field.member);

@@ -2,6 +2,7 @@
 #include "cells.h" // made by the build: the cells and screens of project.yaml and screens/
 
 #include <tessary/tessary.h>
+#include <tessary/tessary_plant.h>
 
 #include <cstring>
 
@@ -26,14 +27,18 @@ CPtrnDisp* GetPtrnWnd(const char* name)
 int UserInit()
 {
     Set_iData(SETPOINT, 60, nullptr, 0);
-    return 1;
+    return tessary::LinksInit(nullptr); // cells that live in a plant: the section 'links', see "ptn help links"
 }
 
-void UserExit() {}
+void UserExit()
+{
+    tessary::LinksExit();
+}
 
 // Every 100 ms: the speed follows its setpoint, the pumps change state now and then.
 void UserTimr()
 {
+    tessary::LinksTimr();
     const int speed = Get_iData(SPEED, nullptr, 0);
     const int setpoint = Get_iData(SETPOINT, nullptr, 0);
     if (speed != setpoint)
