@@ -52,7 +52,7 @@ std::string NumberText(double number)
 
 std::string TextFromOutside(std::string_view utf8)
 {
-    constexpr std::size_t LOOKED_AT = 4 * TEXT_BUFFER;
+    constexpr std::size_t LOOKED_AT = std::size_t{4} * TEXT_BUFFER;
     std::string text(utf8.substr(0, std::min(utf8.find('\0'), LOOKED_AT)));
     for (char& letter : text)
         if (static_cast<unsigned char>(letter) < ' ' || letter == 0x7F)
