@@ -376,13 +376,16 @@ std::optional<int> CellNumberOf(const CodeTable& codes, const tessary::CellName&
     return row->first + name.offset + element;
 }
 
-#define FOR(T)                                                                                               \
-    template void ReadField<T>(const tessary::Field<T>&, const Source&, const Subject&, const CodeTable&,    \
-                               T&, Diagnostics&);                                                            \
-    template std::vector<std::string> FieldTexts<T>(const T&, int, const std::vector<tessary::Field<T>>&);   \
-    template std::vector<std::string> FieldNames<T>(int, const std::vector<tessary::Field<T>>&);
-FOR(tessary::LinkPoint)
-FOR(tessary::LinkConnection)
-#undef FOR
+template void ReadField(const tessary::Field<tessary::LinkPoint>&, const Source&, const Subject&,
+                        const CodeTable&, tessary::LinkPoint&, Diagnostics&);
+template std::vector<std::string> FieldTexts(const tessary::LinkPoint&, int,
+                                             const std::vector<tessary::Field<tessary::LinkPoint>>&);
+template std::vector<std::string> FieldNames(int, const std::vector<tessary::Field<tessary::LinkPoint>>&);
+template void ReadField(const tessary::Field<tessary::LinkConnection>&, const Source&, const Subject&,
+                        const CodeTable&, tessary::LinkConnection&, Diagnostics&);
+template std::vector<std::string> FieldTexts(const tessary::LinkConnection&, int,
+                                             const std::vector<tessary::Field<tessary::LinkConnection>>&);
+template std::vector<std::string> FieldNames(int,
+                                             const std::vector<tessary::Field<tessary::LinkConnection>>&);
 
 } // namespace ptn
