@@ -40,7 +40,7 @@ constexpr Area AREAS[] = {
     {"program", Group::program, 0},
     {"app", Group::sample, 0},
     {"app/ptn", Group::registration, 0}, // the sample's own part of the tool
-    {"tools/ptn/system", Group::tool, 0},
+    {"tools/ptn/system", Group::tool, 0, true},
     {"tools/ptn/common", Group::tool, 0},
     {"tools/ptn/yaml", Group::tool, 1},
     {"tools/ptn/model", Group::tool, 2, true}, // reads pictures

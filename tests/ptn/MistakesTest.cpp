@@ -309,7 +309,8 @@ const Mistake SCREENS[] = {
      "  - { type: button, at: [192, 416], size: [160, 48], text: Reset, "
      "action: message, data: PUMP+0 }\n  - { use: foot }\n",
      "",
-     "src/screens/detail.yaml:1: nothing leads away from the screen 'Detail' again. Give it a button with an "
+     "src/screens/detail.yaml:1: warning: nothing leads away from the screen 'Detail' again. Give it a "
+     "button with an "
      "action "},
     {"screen_in_a_comment_only", "program/Registry.cpp", "\"Ask\", ", "/* \"Ask\", */",
      "src/screens/main.yaml:15: button at 192,416: the program's registry does not know 'Ask', so nothing "

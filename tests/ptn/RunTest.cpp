@@ -32,7 +32,7 @@ class Run : public testing::Test
     Run()
     {
         sources.write("look.yaml", "styles: { window: { width: 200, height: 100 } }\n");
-        sources.write("project.yaml", "codes: { CLOCK: 99, A: 5, B: 3 }\n"
+        sources.write("project.yaml", "codes: { CLOCK: 7, SYSTEM: 92, A: 5, B: 3 }\n"
                                       "colors: { black: '#000000', white: '#FFFFFF',"
                                       " hot: { no: 50, rgb: '#FF8000' } }\n"
                                       "fonts: { a: '-*-fixed-medium-r-normal--16-*' }\n"

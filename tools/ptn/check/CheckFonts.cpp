@@ -1,44 +1,15 @@
 #include "base/EucText.h"
 #include "tools/ptn/check/Check.h"
 #include "tools/ptn/common/Names.h"
-#include "tools/ptn/system/PrivateServer.h"
+#include "tools/ptn/system/ServerFonts.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <memory>
-#include <X11/Xlib.h>
+#include <optional>
 
 namespace ptn
 {
 
 namespace
 {
-
-/// A server with fewer fonts has only those that are built in: it can not tell what a panel has.
-constexpr int FEWEST_FONTS = 100;
-
-struct CloseServer {
-    void operator()(Display* server) const { XCloseDisplay(server); }
-};
-using Server = std::unique_ptr<Display, CloseServer>;
-
-int FontsLike(Display* server, const std::string& name, int most)
-{
-    int count = 0;
-    char** names = XListFonts(server, name.c_str(), most, &count);
-    if (names)
-        XFreeFontNames(names);
-    return count;
-}
-
-// That of the user or a private one, with the fonts of an X server as it is installed; null without one.
-Server OpenServer()
-{
-    const char* named = std::getenv("DISPLAY");
-    Server server(XOpenDisplay(named && *named ? named : PrivateDisplay().c_str()));
-    const bool whole = server && FontsLike(server.get(), "*", FEWEST_FONTS) >= FEWEST_FONTS;
-    return whole ? std::move(server) : nullptr;
-}
 
 // The font that every X server has with its usual fonts, in the sizes that it is made in.
 bool IsUsual(const std::string& name)
@@ -57,16 +28,14 @@ bool IsUsual(const std::string& name)
 void CheckFonts(const ProjectSource& project, const Place& whole, Diagnostics& diagnostics)
 {
     const Resources& resources = project.resources;
-    Server server;
-    bool asked = false;
+    std::optional<ServerFonts> server; // asked only when there is something to ask
     for (const auto& [number, name] : resources.fonts().names())
         for (const std::string& font : resources.fontNames(number)) {
             if (font.empty() || IsUsual(font))
                 continue;
-            if (!asked)
-                server = OpenServer();
-            asked = true;
-            if (!server || FontsLike(server.get(), font, 1) > 0)
+            if (!server)
+                server.emplace();
+            if (server->mayHave(font))
                 continue;
             const Place& place = resources.fontPlace(number);
             diagnostics.warning(

@@ -36,8 +36,8 @@ class WaysBack
                     fmt::format("nothing in the screen '{}' closes it, while it blocks '{}' that opens "
                                 "it. Give it a button with the action close, or write 'modeless: yes'.",
                                 name, EucToUtf8(parent->second)));
-            if (isDeadEnd(pattern))
-                diagnostics.error(
+            if (isDeadEnd(pattern)) // every screen begins so, while it is being written
+                diagnostics.warning(
                     pattern.place,
                     fmt::format("nothing leads away from the screen '{}' again. Give it a button with "
                                 "an action such as open-application.",
