@@ -12,7 +12,6 @@
 #include <unistd.h>
 
 using namespace tessary;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;

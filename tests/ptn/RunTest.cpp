@@ -19,9 +19,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-using testing::AllOf;
 using testing::HasSubstr;
-using testing::Not;
 
 constexpr std::uint32_t HOT = 0xFF8000;
 constexpr std::uint32_t WHITE = 0xFFFFFF;
