@@ -249,7 +249,7 @@ int BenchPanels(int count)
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
     std::vector<Child> panels;
     for (int i = 0; i < count; ++i)
-        panels.emplace_back([&, i] { RunPanel(TOPICS, TOPICS * ROUNDS, results[i]); });
+        panels.emplace_back([&, i] { RunPanel(TOPICS, std::uint64_t{TOPICS} * ROUNDS, results[i]); });
     std::this_thread::sleep_for(std::chrono::seconds(5));
     Child publisher([] { Publish(TOPICS, PER_SECOND, ROUNDS); });
     for (Child& panel : panels)

@@ -32,7 +32,7 @@ std::set<std::string> missing; ///< bitmaps that the log has named
 
 /// Images that are kept, and bytes of all their pixels together.
 constexpr std::size_t MOST_KEPT = 16;
-constexpr std::size_t MOST_KEPT_BYTES = 64 * 1024 * 1024;
+constexpr std::size_t MOST_KEPT_BYTES = std::size_t{64} * 1024 * 1024;
 
 /// What tells a file from the one that was there before.
 using FileMark = std::tuple<dev_t, ino_t, off_t, time_t, long>;

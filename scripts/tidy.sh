@@ -97,6 +97,12 @@ cmake -S . -B build-tidy -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTESSARY_TESTS=ON -D
 # What the programs of the manual include.
 cmake --build build-tidy --target tessary_headers >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 
+# What a program includes that a build makes of its project. That of the tests has it already; to make it here takes
+# the whole tool.
+(cd build-sanitize 2>/dev/null && find . -name cells.h -exec cp --parents {} ../build-tidy \;) || true
+[ -e build-tidy/app/sample_app_cells/cells.h ] || cmake --build build-tidy --target sample_app_project >"$log" 2>&1 ||
+    { cat "$log" >&2; exit 1; }
+
 # One source; nothing is printed unless there is a finding.
 look() {
     if [ -n "$END" ] && [ "$(date +%s)" -ge "$END" ]; then

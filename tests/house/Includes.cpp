@@ -195,8 +195,7 @@ class Tree
     /// The file of the tree that an include means; empty when it is none of them.
     std::string target(const std::string& file, const std::string& header) const
     {
-        const std::string beside =
-            (fs::path(file).parent_path() / header).lexically_normal().generic_string();
+        std::string beside = (fs::path(file).parent_path() / header).lexically_normal().generic_string();
         if (sources_.count(beside) > 0)
             return beside;
         return sources_.count(header) > 0 ? header : "";
