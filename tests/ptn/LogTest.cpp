@@ -96,6 +96,24 @@ TEST_F(Log, is_followed_into_the_next_day)
     EXPECT_EQ(outputOf(follower, "one\ntwo\nthree\nfour\n"), "one\ntwo\nthree\nfour\n");
 }
 
+TEST_F(Log, is_followed_to_the_last_line_of_each_day)
+{
+    std::string expected = "first 10\n";
+    writeFile("log/20260110.log", expected);
+    const Program follower("ptn", "ptn", {"log", "-f", "log"});
+    ASSERT_EQ(outputOf(follower, expected), expected);
+    for (int day = 10; day < 99; ++day) {
+        // The last line is written while the one before is looked at, and the next day begins at once.
+        const std::string today = std::to_string(day);
+        const std::string tomorrow = std::to_string(day + 1);
+        for (const std::string line : {"middle ", "last "})
+            append("log/202601" + today + ".log", line + today + "\n");
+        append("log/202601" + tomorrow + ".log", "first " + tomorrow + "\n");
+        expected += "middle " + today + "\nlast " + today + "\nfirst " + tomorrow + "\n";
+        ASSERT_EQ(outputOf(follower, expected), expected);
+    }
+}
+
 TEST_F(Log, may_begin_while_it_is_followed)
 {
     const Program follower("ptn", "ptn", {"log", "-f", "log"});

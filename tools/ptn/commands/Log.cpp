@@ -183,6 +183,8 @@ void LogCommand::goOn()
         const fs::path next = DayFile(folder_, file_.filename().string(), false);
         if (next.empty())
             break;
+        if (!file_.empty())
+            show(); // what was written since, before the new day began
         showRest();
         file_ = next;
         at_ = 0;
