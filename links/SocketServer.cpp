@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <poll.h>
-#include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -67,7 +65,7 @@ bool IsOwn(int descriptor)
 } // namespace
 
 SocketServer::SocketServer(std::string path, CellCodes codes)
-    : path_(std::move(path)), codes_(std::move(codes)), wakeUp_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
+    : path_(std::move(path)), codes_(std::move(codes))
 {
 }
 
@@ -79,7 +77,6 @@ SocketServer::~SocketServer()
         close(listening_);
         unlink(path_.c_str());
     }
-    close(wakeUp_);
 }
 
 std::string SocketServer::open()
@@ -99,41 +96,13 @@ std::string SocketServer::open()
         return std::strerror(error);
     }
     listening_ = descriptor;
-    thread_ = std::thread([self = shared_from_this()] { self->loop(); });
+    thread_.start([self = shared_from_this()] { self->loop(); });
     return "";
-}
-
-void SocketServer::wake()
-{
-    const std::uint64_t one = 1;
-    [[maybe_unused]] const ssize_t written = write(wakeUp_, &one, sizeof one);
-}
-
-void SocketServer::stop()
-{
-    stopping_ = true;
-    wake();
-}
-
-void SocketServer::end(std::chrono::steady_clock::time_point deadline)
-{
-    if (!thread_.joinable())
-        return;
-    std::unique_lock<std::mutex> lock(mutex_);
-    const bool ended = ending_.wait_until(lock, deadline, [this] { return ended_; });
-    lock.unlock();
-    if (ended)
-        thread_.join();
-    else
-        thread_.detach();
 }
 
 void SocketServer::loop()
 {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_BLOCK, &all, nullptr);
-    while (!stopping_) {
+    while (!thread_.stopping()) {
         waitForSomething();
         takeAnswers();
         for (auto& [number, client] : clients_) {
@@ -142,14 +111,11 @@ void SocketServer::loop()
         }
         dropClients();
     }
-    const std::lock_guard<std::mutex> lock(mutex_);
-    ended_ = true;
-    ending_.notify_all();
 }
 
 void SocketServer::waitForSomething()
 {
-    std::vector<pollfd> polled = {{wakeUp_, POLLIN, 0}, {listening_, POLLIN, 0}};
+    std::vector<pollfd> polled = {{thread_.wakeUp(), POLLIN, 0}, {listening_, POLLIN, 0}};
     bool held = !gone_.empty();
     for (const auto& [number, client] : clients_) {
         // Nothing more is read of a client whose requests wait.
@@ -160,10 +126,8 @@ void SocketServer::waitForSomething()
                           0});
     }
     poll(polled.data(), polled.size(), held ? 50 : 60000);
-    if (polled[0].revents) {
-        std::uint64_t count = 0;
-        [[maybe_unused]] const ssize_t got = read(wakeUp_, &count, sizeof count);
-    }
+    if (polled[0].revents)
+        thread_.takeWake();
     std::size_t at = 2;
     for (auto& [number, client] : clients_) {
         const short events = polled[at++].revents;

@@ -2,19 +2,16 @@
 // touched on the tick alone.
 #pragma once
 
+#include "links/Background.h"
 #include "links/Exchange.h"
 #include "links/SocketLine.h"
 
-#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
-#include <thread>
 
 namespace tessary
 {
@@ -51,9 +48,9 @@ class SocketServer : public std::enable_shared_from_this<SocketServer>
     /// Makes the socket, which only its owner can use.
     /// @return what is wrong; empty when it listens
     std::string open();
-    void wake();
-    void stop();
-    void end(std::chrono::steady_clock::time_point deadline);
+    void wake() { thread_.wake(); }
+    void stop() { thread_.stop(); }
+    void end(std::chrono::steady_clock::time_point deadline) { thread_.end(deadline); }
 
     Ring<ClientRequest> requests{1024};
     Ring<ClientAnswer> answers{4096};
@@ -81,15 +78,10 @@ class SocketServer : public std::enable_shared_from_this<SocketServer>
     std::string path_;
     CellCodes codes_;
     int listening_ = -1;
-    int wakeUp_;
     std::map<std::uint64_t, Client> clients_;
     std::deque<std::uint64_t> gone_; ///< that the tick has not been told yet
     std::uint64_t last_ = 0;         ///< number of the newest client
-    std::atomic<bool> stopping_{false};
-    std::thread thread_;
-    std::mutex mutex_; ///< of `ended_`
-    std::condition_variable ending_;
-    bool ended_ = false;
+    Background thread_;
 };
 
 } // namespace tessary

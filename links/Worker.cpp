@@ -1,10 +1,8 @@
 #include "links/Worker.h"
 
 #include <algorithm>
-#include <csignal>
 #include <functional>
 #include <poll.h>
-#include <sys/eventfd.h>
 #include <unistd.h>
 
 namespace tessary
@@ -20,14 +18,6 @@ constexpr milliseconds LONGEST_WAIT(30000);
 /// A connection that held as long was a good one.
 constexpr std::chrono::seconds GOOD(10);
 
-/// Signals are the main thread's.
-void BlockSignals()
-{
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_BLOCK, &all, nullptr);
-}
-
 } // namespace
 
 milliseconds BackOff::next()
@@ -40,62 +30,33 @@ milliseconds BackOff::next()
 
 Worker::Worker(const LinkConnection& connection, std::shared_ptr<Exchange> exchange)
     : connection_(connection), exchange_(std::move(exchange)),
-      wakeUp_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)),
       backOff_(static_cast<unsigned>(std::hash<std::string>()(connection.name) ^
                                      static_cast<std::size_t>(getpid()) ^
                                      static_cast<std::size_t>(Clock::now().time_since_epoch().count())))
 {
 }
 
-Worker::~Worker()
-{
-    close(wakeUp_);
-}
+Worker::~Worker() = default;
 
 void Worker::start()
 {
     // The thread owns its object too, so that it may outlive the connection.
-    thread_ = std::thread([self = shared_from_this()] { self->loop(); });
-}
-
-void Worker::wake()
-{
-    const std::uint64_t one = 1;
-    // It can only fail where the counter is full, and then it wakes all the same.
-    [[maybe_unused]] const ssize_t written = write(wakeUp_, &one, sizeof one);
+    thread_.start([self = shared_from_this()] { self->loop(); });
 }
 
 void Worker::stop()
 {
-    stopping_ = true;
-    wake();
+    thread_.stop();
     interrupt();
-}
-
-void Worker::end(Clock::time_point deadline)
-{
-    if (!thread_.joinable())
-        return;
-    std::unique_lock<std::mutex> lock(mutex_);
-    const bool ended = ending_.wait_until(lock, deadline, [this] { return ended_; });
-    lock.unlock();
-    if (ended)
-        thread_.join();
-    else
-        thread_.detach();
 }
 
 void Worker::loop()
 {
-    BlockSignals();
     while (!stopping()) {
         const Failure failure = run();
         if (!stopping())
             waitAfter(failure);
     }
-    const std::lock_guard<std::mutex> lock(mutex_);
-    ended_ = true;
-    ending_.notify_all();
 }
 
 void Worker::connected()
@@ -154,14 +115,12 @@ short Worker::wait(int descriptor, short events, Clock::time_point until)
     while (!notes_.empty() && exchange_->notes.push(notes_.front()))
         notes_.pop_front();
     const auto left = std::chrono::ceil<milliseconds>(until - Clock::now());
-    pollfd polled[2] = {{wakeUp_, POLLIN, 0}, {descriptor, events, 0}};
+    pollfd polled[2] = {{thread_.wakeUp(), POLLIN, 0}, {descriptor, events, 0}};
     const int timeout =
         static_cast<int>(std::clamp<long long>(left.count(), 0, notes_.empty() ? 60000 : 100));
     poll(polled, 2, timeout);
-    if (polled[0].revents) {
-        std::uint64_t count = 0;
-        [[maybe_unused]] const ssize_t got = read(wakeUp_, &count, sizeof count);
-    }
+    if (polled[0].revents)
+        thread_.takeWake();
     return polled[1].revents;
 }
 

@@ -1,18 +1,15 @@
 // The thread of a connection: connects, serves, and after a loss tries again for ever.
 #pragma once
 
+#include "links/Background.h"
 #include "links/Exchange.h"
 #include "links/Model.h"
 
-#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <deque>
 #include <memory>
-#include <mutex>
 #include <random>
 #include <string>
-#include <thread>
 
 namespace tessary
 {
@@ -41,11 +38,11 @@ class Worker : public std::enable_shared_from_this<Worker>
 
     void start();
     /// Tells it that there are orders. Never waits.
-    void wake();
+    void wake() { thread_.wake(); }
     void stop();
     /// Waits for its end until that time. A thread that still hangs in the system then is left to itself; it
     /// touches nothing but what it owns.
-    void end(std::chrono::steady_clock::time_point deadline);
+    void end(std::chrono::steady_clock::time_point deadline) { thread_.end(deadline); }
 
   protected:
     using Clock = std::chrono::steady_clock;
@@ -62,7 +59,7 @@ class Worker : public std::enable_shared_from_this<Worker>
     /// Ends a wait within run(), from another thread.
     virtual void interrupt() {}
 
-    bool stopping() const { return stopping_.load(); }
+    bool stopping() const { return thread_.stopping(); }
     void connected();
     void tell(Note note);
     void finish(const Order& order, Cause cause);
@@ -82,17 +79,12 @@ class Worker : public std::enable_shared_from_this<Worker>
 
     LinkConnection connection_;
     std::shared_ptr<Exchange> exchange_;
-    int wakeUp_; ///< descriptor
-    std::atomic<bool> stopping_{false};
     bool connected_ = false;
     Clock::time_point since_; ///< connected
     Failure last_;
     BackOff backOff_;
     std::deque<Note> notes_; ///< that the ring had no place for
-    std::thread thread_;
-    std::mutex mutex_; ///< of `ended_`
-    std::condition_variable ending_;
-    bool ended_ = false;
+    Background thread_;
 };
 
 } // namespace tessary

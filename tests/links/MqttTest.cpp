@@ -189,7 +189,7 @@ TEST_F(MqttPlant, that_is_killed_is_told_by_its_last_will)
         LinksInit(nullptr);
         for (;;) {
             LinksTimr();
-            usleep(10000);
+            usleep(10000); // the ticks of a panel that lives until it is killed
         }
     }
     ASSERT_TRUE(waitFor([&] { return retained("tessary/panel1/online") == "1\n"; }, "the other panel"));

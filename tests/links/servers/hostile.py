@@ -26,7 +26,7 @@ def serve(mode, peer):
                 peer.sendall(os.urandom(60))
             while mode == "dribble":
                 peer.sendall(request[:1])
-                time.sleep(0.2)
+                time.sleep(0.2)  # slower than any timeout: that is what is tried
             request = peer.recv(1000)
     except OSError:
         pass

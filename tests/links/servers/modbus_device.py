@@ -56,14 +56,15 @@ async def serve():
     slave = ModbusSlaveContext(zero_mode=True, **{KEYS[area]: made[area] for area in AREAS})
     context = ModbusServerContext(slaves=slave, single=True)
     if kind == "tcp":
-        task = asyncio.create_task(
-            StartAsyncTcpServer(context=context, address=("127.0.0.1", int(where)), allow_reuse_address=True))
+        server = await StartAsyncTcpServer(
+            context=context, address=("127.0.0.1", int(where)), allow_reuse_address=True, defer_start=True)
+        server.serving.add_done_callback(lambda _: print("ready", flush=True))
     else:
-        task = asyncio.create_task(
-            StartAsyncSerialServer(context=context, framer=ModbusRtuFramer, port=where, baudrate=19200, parity="N"))
-    await asyncio.sleep(0.3)
-    print("ready", flush=True)
-    await task
+        server = await StartAsyncSerialServer(
+            context=context, framer=ModbusRtuFramer, port=where, baudrate=19200, parity="N", defer_start=True)
+        await server.start()
+        print("ready", flush=True)
+    await server.serve_forever()
 
 
 asyncio.run(serve())
