@@ -11,7 +11,8 @@ Installs what is missing, builds the Debian packages tessary, tessary-panel and 
 sources in git into FOLDER, which must be new or empty, and has lintian look at them: its errors and warnings fail.
 
 Then the packages are tried: they are installed into a bare Debian of their own in FOLDER/root
-(debootstrap, which needs root and the mirror that apt uses), where the project of "ptn new" is built.
+(debootstrap, which needs root and the mirror that apt uses). There the tutorial of the manual is done as it is
+printed, and a project with a program is built with CMake and with pkg-config.
 
   --no-trial  build and look only
 TEXT
@@ -39,12 +40,12 @@ done
 
 . scripts/prepare.sh
 . scripts/sources.sh
+. scripts/root.sh
 has_git || fail "packages are built from what is in git, which knows nothing of this folder"
 mkdir -p "$folder"
 folder=$(cd "$folder" && pwd)
 [ -z "$(ls -A "$folder")" ] || fail "$folder is not empty"
 install_packages "${BUILD_PACKAGES[@]}" dpkg-dev debhelper fakeroot help2man lintian
-[ "$trial" = no ] || install_packages debootstrap
 
 version=$(sed -n 's/^project(tessary VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
 [ -n "$version" ] || fail "CMakeLists.txt names no version"
@@ -70,36 +71,26 @@ build_packages() {
     lintian --fail-on error,warning "$folder"/*.changes || fail "see what lintian has found above"
 }
 
-# in_root COMMAND...: within the bare Debian, which is not to start services.
-in_root() { as_root chroot "$folder/root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 "$@"; }
-
-make_root() {
-    local mirror suite
-    read -r mirror suite < <(apt-get indextargets --format '$(REPO_URI) $(CODENAME)' \
-        'Identifier: Packages' 'Origin: Debian' 'Component: main') || fail "apt names no mirror of Debian"
-    say "Making a bare Debian $suite from $mirror"
-    as_root debootstrap --variant=minbase "$suite" "$folder/root" "$mirror" >"$folder/root.log" 2>&1 ||
-        { tail -n 10 "$folder/root.log" >&2; fail "debootstrap failed; the whole output is in $folder/root.log"; }
-    as_root sh -c "printf '#!/bin/sh\nexit 101\n' >'$folder/root/usr/sbin/policy-rc.d'"
-    as_root chmod +x "$folder/root/usr/sbin/policy-rc.d"
-}
-
 try_packages() {
-    say "Installing the packages there, and building a new project with them"
-    as_root cp "$folder"/*.deb "$folder/root/tmp"
+    say "Installing the packages there, doing the tutorial, and building a program with them"
+    as_root mkdir -p "$root/tmp/manual/docs" "$root/tmp/manual/scripts"
+    as_root cp "$folder"/*.deb "$root/tmp"
+    as_root cp docs/writing-screens.md "$root/tmp/manual/docs"
+    as_root cp scripts/tutorial.sh "$root/tmp/manual/scripts"
     {
         in_root sh -c 'DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
-            g++ cmake make /tmp/*.deb'
+            g++ cmake make man-db xvfb xdotool locales xfonts-base xfonts-intl-japanese /tmp/*.deb'
+        in_root localedef -i ja_JP -f EUC-JP ja_JP.eucJP
         in_root sh -ec 'cd /tmp
             [ "$(ptn --version)" = "$1" ]
-            ptn new look
-            ptn check look
-            ptn build look look/build/ProjPath
             tessary-panel --version
+            man --where ptn tessary-panel
+            manual/scripts/tutorial.sh tutorial
             ptn new --program plant
             cmake -S plant -B plant/build
             cmake --build plant/build
-            g++ plant/program/Registry.cpp $(pkg-config --cflags --libs tessary) -o by-pkg-config
+            ptn build plant by-hand/ProjPath
+            g++ -Iby-hand plant/program/Registry.cpp $(pkg-config --cflags --libs tessary tessary-plant) -o by-pkg-config
             ptn check /usr/share/doc/tessary/examples/project' - "$version"
     } >"$folder/trial.log" 2>&1 ||
         { tail -n 30 "$folder/trial.log" >&2; fail "the trial failed; the whole output is in $folder/trial.log"; }
@@ -109,7 +100,7 @@ try_packages() {
 copy_sources
 build_packages
 if [ "$trial" = yes ]; then
-    make_root
+    make_root "$folder/root"
     try_packages
 fi
 rm -f "$log"

@@ -6,7 +6,9 @@
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <regex>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 namespace
@@ -19,6 +21,8 @@ using testing::SizeIs;
 struct Block {
     bool yaml = false; ///< between ```yaml and ```; else indented
     std::string text;
+    std::string file; ///< that a line "<!-- into FILE -->" above names
+    std::string line; ///< of that file, below which it goes; empty: it is the whole file
 };
 
 // The blocks of a chapter's part below "## title"; of the whole file without a title.
@@ -29,18 +33,22 @@ std::vector<Block> Blocks(const std::string& file, const std::string& title)
     bool inside = title.empty();
     bool fenced = false;
     bool open = false;
+    static const std::regex INTO("<!-- into ([^ ]+)(?: below \"(.*)\")? -->");
+    Block named{true, "", "", ""};
     for (std::string line; std::getline(lines, line);) {
         if (line.compare(0, 3, "## ") == 0 && !title.empty())
             inside = line == "## " + title;
+        if (std::smatch into; std::regex_match(line, into, INTO))
+            named = {true, "", into[1], into[2]};
         const bool indented = !fenced && line.compare(0, 4, "    ") == 0;
         if (inside && line.compare(0, 3, "```") == 0) {
             fenced = !fenced && line == "```yaml";
             open = fenced;
             if (fenced)
-                blocks.push_back({true, ""});
+                blocks.push_back(std::exchange(named, {true, "", "", ""}));
         } else if (inside && (fenced || indented)) {
             if (!open)
-                blocks.push_back({false, ""});
+                blocks.push_back({false, "", "", ""});
             open = true;
             blocks.back().text += line.substr(fenced ? 0 : 4) + "\n";
         } else {
@@ -50,12 +58,18 @@ std::vector<Block> Blocks(const std::string& file, const std::string& title)
     return blocks;
 }
 
-void Insert(const std::string& file, const std::string& after, const std::string& text)
+/// Does with a block what the page says: a new file, or lines of one.
+void Put(const Block& block)
 {
-    std::string all = readFile(file);
-    const std::size_t at = all.find(after);
-    ASSERT_NE(at, std::string::npos) << after;
-    writeFile(file, all.insert(at + after.size(), text));
+    ASSERT_NE(block.file, "") << block.text;
+    if (block.line.empty()) {
+        writeFile(block.file, block.text);
+        return;
+    }
+    std::string all = readFile(block.file);
+    const std::size_t at = all.find("\n" + block.line);
+    ASSERT_NE(at, std::string::npos) << block.line;
+    writeFile(block.file, all.insert(all.find('\n', at + 1) + 1, block.text));
 }
 
 class Manual : public testing::Test
@@ -91,25 +105,24 @@ class Manual : public testing::Test
 
 TEST_F(Manual, has_a_tutorial_whose_commands_run_as_printed)
 {
-    int screens = 0;
+    int changes = 0;
     for (const Block& block : Blocks("docs/writing-screens.md", "Tutorial")) {
-        if (block.yaml && ++screens == 1) {
-            writeFile("plant/screens/tank.yaml", block.text);
-            const std::string found = sources.run("check plant").err;
-            EXPECT_THAT(found, HasSubstr("no code 'LEVEL'"));
-            EXPECT_THAT(found, HasSubstr("the screen 'Tank' can not be reached"));
-        } else if (block.yaml) {
-            Insert("plant/project.yaml", "  PUMP: 4 # 102-105\n", "  LEVEL: 1\n");
-            Insert("plant/screens/main.yaml", "\nitems:\n", block.text);
-            buildScreens();
-            expectRuns("render plant Tank");
+        if (block.yaml) {
+            Put(block);
+            if (++changes == 1) {
+                const std::string found = sources.run("check plant").err;
+                EXPECT_THAT(found, HasSubstr("no code 'LEVEL'"));
+                EXPECT_THAT(found, HasSubstr("the screen 'Tank' can not be reached"));
+            }
         } else {
             std::istringstream lines(block.text);
             for (std::string line; std::getline(lines, line);)
                 run(line);
         }
     }
-    EXPECT_EQ(screens, 2);
+    EXPECT_EQ(changes, 3);
+    buildScreens();
+    expectRuns("render plant Tank");
     for (const char* made : {"main.png", "plant/build/plant.ini", "plant/build/ProjPath/Tank.ptn",
                              "plant-again/screens/Tank.yaml"})
         EXPECT_NE(readFile(made), "") << made;
