@@ -1,14 +1,52 @@
 #!/usr/bin/env bash
-# tour.sh FOLDER: runs build/panel on a virtual screen, goes the way of project/tour.txt, saves the pictures in
-# FOLDER, and stops the panel by its stop button.
+# Runs a panel on a virtual screen, goes a way through its screens, saves pictures, and stops it.
 set -euo pipefail
+
+usage() {
+    cat <<'TEXT'
+Usage: scripts/tour.sh [--help] [--program COMMAND] [--way FILE] [--windows NAMES] FOLDER
+
+Runs a panel on a virtual screen, goes the way through its screens that a file tells, and saves the pictures of it
+in FOLDER. The way ends with the panel's stop button.
+
+  --program COMMAND  what runs the panel (default: ./panel, in build/)
+  --way FILE         the way; project/tour.txt, which is the default, tells how such a file is written
+  --windows NAMES    pictures, such as popup,stop, that show the window in front only, instead of the whole screen
+TEXT
+}
 
 fail() { echo "tour.sh: $*" >&2; exit 1; }
 
-mkdir -p "$1"
-shots=$(cd "$1" && pwd)
-cd "$(dirname "$0")/.."
-way=$PWD/project/tour.txt
+here=$(cd "$(dirname "$0")/.." && pwd)
+program="env --chdir=$here/build ./panel"
+way=$here/project/tour.txt
+windows_only=
+shots=
+while [ $# -gt 0 ]; do
+    case $1 in
+    -h | --help)
+        usage
+        exit 0
+        ;;
+    --program | --way | --windows)
+        [ $# -ge 2 ] || { usage >&2; exit 2; }
+        case $1 in
+        --program) program=$2 ;;
+        --way) way=$2 ;;
+        --windows) windows_only=$2 ;;
+        esac
+        shift
+        ;;
+    -*)
+        usage >&2
+        exit 2
+        ;;
+    *) shots=$1 ;;
+    esac
+    shift
+done
+[ -n "$shots" ] || { usage >&2; exit 2; }
+mkdir -p "$shots"
 now=$(mktemp --suffix=.png)
 before=$(mktemp --suffix=.png)
 
@@ -26,8 +64,8 @@ until_done() {
     local what=$1 end=$((SECONDS + 20))
     shift
     until "$@"; do
-        kill -0 "$panel" 2>/dev/null || fail "the panel ended while it was to $what; see build/log"
-        [ $SECONDS -lt $end ] || fail "the panel did not $what; see build/log"
+        kill -0 "$panel" 2>/dev/null || fail "the panel ended while it was to $what; see its log"
+        [ $SECONDS -lt $end ] || fail "the panel did not $what; see its log"
         sleep 0.1
     done
 }
@@ -38,7 +76,8 @@ has_windows() { [ -n "$(windows)" ]; }
 has_other_windows() { [ "$(windows)" != "$1" ]; }
 
 # The clock of the title bar is drawn by the tick that draws everything else; no window covers it.
-see_clock() { scrot --overwrite --autoselect 770,8,210,32 "$1"; }
+clock=770,8,210,32
+see_clock() { scrot --overwrite --autoselect "$clock" "$1"; }
 has_ticked() {
     see_clock "$now"
     ! cmp -s "$before" "$now"
@@ -52,6 +91,23 @@ wait_ticks() {
     done
 }
 
+# place_of_front: where the window in front is; the server lists windows from the back to the front.
+place_of_front() {
+    local X Y WIDTH HEIGHT
+    eval "$(xdotool search --onlyvisible --pid "$panel" 2>/dev/null | tail -n 1 |
+        xargs xdotool getwindowgeometry --shell | grep -E '^(X|Y|WIDTH|HEIGHT)=[0-9]+$')"
+    echo "$X,$Y,$WIDTH,$HEIGHT"
+}
+# save NAME
+save() {
+    if [[ ,$windows_only, == *,$1,* ]]; then
+        scrot --overwrite --autoselect "$(place_of_front)" "$shots/$1.png"
+    else
+        scrot --overwrite "$shots/$1.png"
+    fi
+    echo "$shots/$1.png"
+}
+
 click() { xdotool mousemove "$1" "$2" click 1 mousemove 1023 400; }
 
 # The server chooses a free display number and tells it when it is ready.
@@ -60,13 +116,23 @@ server=$!
 read -r -t 20 number <&3 || fail "Xvfb did not start"
 export DISPLAY=:$number
 
-(cd build && exec ./panel) &
+$program &
 panel=$!
 until_done "show a window" has_windows
 
 # No picture is taken before the panel has drawn what it shows.
 while read -r name x y; do
-    case $name in '' | '#'*) continue ;; esac
+    case $name in
+    '' | '#'*) continue ;;
+    clock)
+        clock=$x
+        continue
+        ;;
+    run)
+        eval "$x $y"
+        continue
+        ;;
+    esac
     if [ -z "$y" ]; then
         wait_ticks "$x"
     else
@@ -80,8 +146,7 @@ while read -r name x y; do
         wait_ticks 1
     fi
     case $name in - | =) continue ;; esac
-    scrot --overwrite "$shots/$name.png"
-    echo "$shots/$name.png"
+    save "$name"
 done <"$way"
 
 end=$((SECONDS + 20))
@@ -93,4 +158,4 @@ status=0
 wait "$panel" || status=$?
 panel=
 [ "$status" = 0 ] || fail "the panel ended with status $status"
-echo "The panel ran and stopped; its pictures are in $shots, its log in build/log."
+echo "The panel ran and stopped; its pictures are in $shots."

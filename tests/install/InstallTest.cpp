@@ -229,6 +229,8 @@ TEST_F(Install, has_one_version)
     EXPECT_THAT(newest, testing::StartsWith("\n## [" TESSARY_VERSION "]"));
     EXPECT_THAT(readFile("plant/CMakeLists.txt"),
                 HasSubstr("find_package(Tessary " TESSARY_VERSION " REQUIRED)"));
+    EXPECT_THAT(readFile(Program::sourceFolder() + "/project/screens/version.yaml"),
+                HasSubstr("Tessary " TESSARY_VERSION "]"));
 }
 
 TEST_F(Install, completes_what_is_typed_for_the_tool)
