@@ -18,6 +18,8 @@ constexpr int FIELD_HEIGHT = 14;
 /// Scalable fonts of this size have such a line.
 constexpr int FONT_PIXELS = 12;
 constexpr char FONT_NAME[] = "DejaVu Sans Mono";
+/// The server's font whose line is as high.
+constexpr char SERVER_FONT_NAME[] = "-*-fixed-medium-r-normal--14-*-*-*-c-70-iso8859-1";
 constexpr int TICK_MILLISECONDS = 100;
 
 struct Rgb {

@@ -1,9 +1,13 @@
-// The fields in FLTK: boxes with labels in a double-buffered window.
+// The fields in FLTK: boxes with labels in a double-buffered window. With SERVER_FONTS the labels are drawn
+// in the server's font of the same height, as FLTK does where it is built without smooth letters.
 #include "bench/compare/Fields.h"
 
+#include <cstring>
 #include <FL/Fl.H>
 #include <FL/Fl_Box.H>
 #include <FL/Fl_Double_Window.H>
+#include <FL/fl_draw.H>
+#include <FL/x.H>
 #include <vector>
 
 namespace
@@ -14,9 +18,31 @@ Fl_Color Color(Rgb color)
     return fl_rgb_color(color.red, color.green, color.blue);
 }
 
+#ifdef SERVER_FONTS
+class Field : public Fl_Box
+{
+  public:
+    using Fl_Box::Fl_Box;
+
+  private:
+    void draw() override
+    {
+        static XFontStruct* const FONT = XLoadQueryFont(fl_display, SERVER_FONT_NAME);
+        draw_box();
+        fl_color(labelcolor());
+        XSetFont(fl_display, fl_gc, FONT->fid);
+        const int length = static_cast<int>(std::strlen(label()));
+        XDrawString(fl_display, fl_window, fl_gc, x() + w() - XTextWidth(FONT, label(), length),
+                    y() + FONT->ascent, label(), length);
+    }
+};
+#else
+using Field = Fl_Box;
+#endif
+
 Fl_Box* NewField(int field)
 {
-    auto* box = new Fl_Box(FL_FLAT_BOX, FieldLeft(field), FieldTop(field), FIELD_WIDTH, FIELD_HEIGHT, "");
+    auto* box = new Field(FL_FLAT_BOX, FieldLeft(field), FieldTop(field), FIELD_WIDTH, FIELD_HEIGHT, "");
     box->color(Color(FIELD_COLOR));
     box->labelcolor(Color(TEXT_COLOR));
     box->labelfont(FL_COURIER);
