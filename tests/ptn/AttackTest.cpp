@@ -70,6 +70,29 @@ TEST_F(Attack, by_repeats_in_groups_ends_at_the_limit_of_items)
                 HasSubstr("the screen gets more than 100000 items. Repeat less."));
 }
 
+TEST_F(Attack, by_many_screens_of_many_items_ends_at_the_limit_of_a_project)
+{
+    const std::string line = "{ type: line, rect: [1, 1, 9, 1], repeat: { count: [1000, 90] } }";
+    for (const char* name : {"a", "b", "c", "d", "e"})
+        sources.write(std::string("screens/") + name + ".yaml",
+                      std::string("name: ") + name + "\nitems: [" + line + "]\n");
+    const std::string found = said();
+    EXPECT_THAT(found,
+                HasSubstr("src/screens/d.yaml:2: item 1 (line): the project gets more than 300000 items"));
+    EXPECT_EQ(found.find("the project gets"), found.rfind("the project gets")) << "it is said once";
+}
+
+TEST_F(Attack, by_many_screens_of_groups_in_groups_ends_at_the_limit_of_a_project)
+{
+    sources.write("groups.yaml", Tower("{ type: line, rect: [1, 1, 9, 1] }"));
+    for (char name = 'a'; name < 'a' + 20; ++name)
+        sources.write(std::string("screens/") + name + ".yaml",
+                      std::string("name: ") + name + "\nitems: [{ use: g11 }]\n");
+    const std::string found = said();
+    EXPECT_THAT(found, HasSubstr("has more than 200000 entries with its groups written out. Use fewer."));
+    EXPECT_EQ(found.find("the project gets"), found.rfind("the project gets")) << "it is said once";
+}
+
 TEST_F(Attack, by_aliases_of_aliases_is_refused)
 {
     std::string text = "name: a\nx0: &x0 [1, 1, 1, 1, 1, 1, 1, 1, 1, 1]\n";
@@ -94,6 +117,12 @@ TEST_F(Attack, by_an_alias_of_itself_is_refused)
 TEST_F(Attack, by_very_many_values_is_refused_before_they_are_read)
 {
     sources.write("more.yaml", "colors: [" + std::string(8'000'000, ',') + "]\n");
+    EXPECT_THAT(said(), HasSubstr("src/more.yaml: holds more than a project can need. Write less, "));
+}
+
+TEST_F(Attack, by_a_very_long_text_is_refused_before_it_is_read)
+{
+    sources.write("more.yaml", "colors: { a: '" + std::string(16'000'000, 'x') + "' }\n");
     EXPECT_THAT(said(), HasSubstr("src/more.yaml: holds more than a project can need. Write less, "));
 }
 

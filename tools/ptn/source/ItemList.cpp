@@ -20,6 +20,10 @@ constexpr std::size_t MAX_ITEMS = 100000;
 /// Entries of a screen with its groups written out: those in groups count as often as these are used.
 constexpr std::size_t MAX_ENTRIES = 20000;
 
+/// The same of all screens of a project.
+constexpr std::size_t MAX_PROJECT_ITEMS = 300000;
+constexpr std::size_t MAX_PROJECT_ENTRIES = 200000;
+
 using Items = std::vector<PatternItem>;
 
 /// Copies that "repeat" makes.
@@ -89,6 +93,17 @@ class ListReader
 bool ListReader::hasRoom(std::size_t items, const Subject& label, const Place& place)
 {
     made_ += items;
+    Amount& amount = context_.amount;
+    amount.items += items;
+    if (!amount.full && (amount.items > MAX_PROJECT_ITEMS || amount.entries > MAX_PROJECT_ENTRIES)) {
+        amount.full = full_ = true;
+        diagnostics_.error(
+            place, label,
+            ": the project gets more than {} items, or has more than {} entries with its groups "
+            "written out. Use fewer.",
+            MAX_PROJECT_ITEMS, MAX_PROJECT_ENTRIES);
+    }
+    full_ = full_ || amount.full;
     if (full_ || (made_ <= MAX_ITEMS && entries_ <= MAX_ENTRIES))
         return !full_;
     full_ = true;
@@ -265,6 +280,7 @@ Items ListReader::readEntry(const Source& source, const std::string& number, int
 {
     Subject label = Subject::oneOf("item " + number);
     ++entries_;
+    ++context_.amount.entries;
     if (!hasRoom(0, label, source.place()))
         return {};
     const std::vector<Entry> entries = SpelledOut(Entries(source, label, diagnostics_), label, diagnostics_);

@@ -5,16 +5,25 @@
 #include "tools/ptn/model/Pattern.h"
 #include "tools/ptn/source/ProjectSource.h"
 
+#include <cstddef>
 #include <optional>
 
 namespace ptn
 {
+
+/// What screens have become that are read one after another, with groups and copies written out.
+struct Amount {
+    std::size_t entries = 0;
+    std::size_t items = 0;
+    bool full = false; ///< there is no room for more in a project, which was reported
+};
 
 /// What reading items needs to know.
 struct ItemContext {
     const ProjectSource& project;
     const Styles& styles; ///< the screen's own, over those of the project
     const Groups& groups; ///< the screen's own, over those of the project
+    Amount& amount;       ///< of the project
     Diagnostics& diagnostics;
 };
 

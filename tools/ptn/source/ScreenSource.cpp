@@ -32,8 +32,8 @@ const std::vector<std::string> SCREEN_KEYS = {"name",   "title",  "logo",   "bac
 class ScreenReader
 {
   public:
-    ScreenReader(const ProjectSource& project, Diagnostics& diagnostics)
-        : project_(project), diagnostics_(diagnostics),
+    ScreenReader(const ProjectSource& project, Amount& amount, Diagnostics& diagnostics)
+        : project_(project), amount_(amount), diagnostics_(diagnostics),
           window_({HeaderParms()}, pattern_.header.Parm1, project.vocabulary(), diagnostics)
     {
         pattern_.header.Version = PATTERN_VERSION;
@@ -50,6 +50,7 @@ class ScreenReader
     void readParm2(const Source& source);
 
     const ProjectSource& project_;
+    Amount& amount_;
     Diagnostics& diagnostics_;
     Pattern pattern_;
     Attributes window_;
@@ -86,7 +87,7 @@ std::optional<Pattern> ScreenReader::read(const Source& source)
     if (parts.count("class"))
         readClass(parts["class"]);
     groups_.read(part("groups"), &project_.groups, diagnostics_);
-    pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, diagnostics_});
+    pattern_.items = ReadItems(part("items"), "'items'", {project_, styles_, groups_, amount_, diagnostics_});
     if (parts.count("exact"))
         ReadExactHeader(part("exact"), pattern_.header, diagnostics_);
     return pattern_;
@@ -196,17 +197,11 @@ void ScreenReader::readParm2(const Source& source)
 
 } // namespace
 
-std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
-                                  Diagnostics& diagnostics)
-{
-    const std::optional<Source> source = ReadYaml(file, diagnostics);
-    return source ? ReadScreen(*source, project, diagnostics) : std::nullopt;
-}
-
 std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
                                   Diagnostics& diagnostics)
 {
-    return ScreenReader(project, diagnostics).read(source);
+    Amount amount;
+    return ScreenReader(project, amount, diagnostics).read(source);
 }
 
 namespace
@@ -248,10 +243,14 @@ ScreenSet ReadScreens(const std::filesystem::path& folder, const ProjectSource& 
                       Diagnostics& diagnostics)
 {
     ScreenSet screens;
+    Amount amount;
     CheckReadable(folder / "screens", diagnostics);
     CheckYamlNames(folder / "screens", diagnostics);
     for (const std::string& file : YamlFiles(folder / "screens")) {
-        std::optional<Pattern> pattern = ReadScreen(file, project, diagnostics);
+        const std::optional<Source> source = ReadYaml(file, diagnostics);
+        std::optional<Pattern> pattern;
+        if (source)
+            pattern = ScreenReader(project, amount, diagnostics).read(*source);
         if (pattern)
             screens.patterns.push_back(std::move(*pattern));
         else

@@ -12,12 +12,8 @@
 namespace ptn
 {
 
-/// Reads a screen's file.
-/// @return none, with errors reported, when the file can not be read or the screen has no usable name
-std::optional<Pattern> ReadScreen(const std::string& file, const ProjectSource& project,
-                                  Diagnostics& diagnostics);
-
-/// The same for a file that has been read already.
+/// Reads a screen, alone.
+/// @return none, with errors reported, when it has no usable name
 std::optional<Pattern> ReadScreen(const Source& source, const ProjectSource& project,
                                   Diagnostics& diagnostics);
 

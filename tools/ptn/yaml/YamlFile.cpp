@@ -11,7 +11,9 @@ namespace
 {
 
 /// Marks that begin or part values, which tell how much a text may become in memory.
-constexpr std::ptrdiff_t MOST_MARKS = 1'000'000;
+constexpr std::ptrdiff_t MOST_MARKS = 500'000;
+/// The reader takes its time for each byte, whatever stands there.
+constexpr std::size_t MOST_BYTES = 16'000'000;
 /// Values that aliases may stand for beside those that are written.
 constexpr long long MOST_REPEATED = 200'000;
 constexpr int DEEPEST = 500;
@@ -74,7 +76,7 @@ bool CheckAmount(const std::string& file, const std::string& text, Diagnostics& 
     const auto marks = std::count_if(text.begin(), text.end(), [](char byte) {
         return byte == ',' || byte == '\n' || byte == ':' || byte == '[' || byte == '{' || byte == '-';
     });
-    if (marks <= MOST_MARKS)
+    if (marks <= MOST_MARKS && text.size() <= MOST_BYTES)
         return true;
     diagnostics.error({file, 0},
                       "holds more than a project can need. Write less, or use 'repeat' and groups.");
