@@ -1,6 +1,7 @@
 #include "log/Logfile.h"
 
 #include "base/EucText.h"
+#include "config/Edition.h"
 #include "config/FileCntl.h"
 #include "config/FileReport.h"
 #include "config/Profile.h"
@@ -12,7 +13,11 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
+#include <fnmatch.h>
 #include <memory>
+#include <optional>
+#include <string>
 #include <sys/stat.h>
 #include <vector>
 
@@ -91,7 +96,7 @@ int FileDay(const char* name)
     return CalcDate(2000 + number(2), number(4), number(6));
 }
 
-/// Only names in upper case are found, while LogName ends in lower case: pruning touches the files that
+/// Only names in upper case are found, while LogName ends in lower case: this touches the files that
 /// somebody renamed for it. A name that ends before the day's last digit has no date and is kept.
 void DeleteOldFiles(int days)
 {
@@ -104,14 +109,49 @@ void DeleteOldFiles(int days)
             FileDelete(LogPath, list[i], nullptr, 0);
 }
 
+/// Day number of a name that LogName has had; none for other names, whoever has given them.
+std::optional<int> OwnFileDay(const std::string& name)
+{
+    if (fnmatch("[0-9][0-9][0-9][0-9][0-9][0-9][0-9][0-9].log", name.c_str(), 0) != 0)
+        return std::nullopt;
+    const int year = std::stoi(name.substr(0, 4));
+    const int month = std::stoi(name.substr(4, 2));
+    const int day = std::stoi(name.substr(6, 2));
+    if (day < 1 || day > Get_DayCount(year, month))
+        return std::nullopt;
+    return CalcDate(year, month, day);
+}
+
+/// However many there are: the panel may have stood still for long.
+void DeleteOwnOldFiles(int days)
+{
+    const int today = CalcDate(LocalTime.tm_year, LocalTime.tm_mon, LocalTime.tm_mday);
+    std::vector<std::string> old;
+    std::error_code unreadable;
+    for (std::filesystem::directory_iterator entry(LogPath, unreadable), end; !unreadable && entry != end;
+         entry.increment(unreadable)) {
+        const std::string name = entry->path().filename().string();
+        const std::optional<int> day = OwnFileDay(name);
+        std::error_code gone;
+        if (day && std::int64_t{today} - *day > days &&
+            entry->symlink_status(gone).type() == std::filesystem::file_type::regular)
+            old.push_back(name);
+    }
+    for (const std::string& name : old)
+        FileDelete(LogPath, name.c_str(), nullptr, 0);
+}
+
 void ChangeDay()
 {
     LogDay = LocalTime.tm_mday;
     LogfileSave(); // these lines are yesterday's
     SetLogName();
     const int days = ProfileReadInt(ProfName, "LOG", "LOGSAVE");
-    if (days > 0)
-        DeleteOldFiles(days);
+    if (days <= 0)
+        return;
+    DeleteOldFiles(days);
+    if (Has(Correction::LogPruning))
+        DeleteOwnOldFiles(days);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "tests/log/LogFixture.h"
+#include "tests/support/UseEdition.h"
 
 #include <gmock/gmock.h>
 
@@ -168,4 +169,62 @@ TEST_F(LogPruning, does_nothing_in_a_missing_directory)
     changeTo(2026, 1, 9);
     EXPECT_EQ(LogDay, 9);
     fs::create_directory(project.logFolder());
+}
+
+TEST_F(LogPruning, deletes_what_the_log_itself_has_written_in_edition_2)
+{
+    const UseEdition corrected;
+    put("20260101.log");
+    put("20260101.LOG");
+    changeTo(2026, 1, 8);
+    EXPECT_THAT(files(), UnorderedElementsAre("20260101.log", "20260101.LOG"));
+    changeTo(2026, 1, 9);
+    EXPECT_THAT(files(), IsEmpty());
+}
+
+TEST_F(LogPruning, deletes_nothing_but_day_files_in_edition_2)
+{
+    const UseEdition corrected;
+    const std::vector<std::string> others = {
+        "20200101.Log", "20200101.log.gz", "2020010.log",   "120200101.log", "20201301.log", "20200230.log",
+        "20200100.log", "aazz0101.log",    "20200101-.log", ".20200101.log", "20200101"};
+    for (const std::string& name : others)
+        put(name);
+    fs::create_directory(path("20200102.log"));
+    fs::create_symlink(path("20200101.Log"), path("20200103.log"));
+    put("20990101.log"); // the clock was ahead once
+    put("20200104.log");
+    changeTo(2026, 1, 9);
+    std::vector<std::string> kept = others;
+    kept.insert(kept.end(), {"20200102.log", "20200103.log", "20990101.log"});
+    EXPECT_THAT(files(), testing::UnorderedElementsAreArray(kept));
+}
+
+TEST_F(LogPruning, deletes_day_files_of_years_at_once_and_keeps_those_of_a_year_in_edition_2)
+{
+    const UseEdition corrected;
+    project.set("LOG", "LOGSAVE", "366");
+    for (int day = CalcDate(2020, 1, 1); day < CalcDate(2026, 1, 9); day++) {
+        int date[3];
+        CalcDate(date, day);
+        char name[32];
+        std::snprintf(name, sizeof name, "%04d%02d%02d.log", date[0], date[1], date[2]);
+        put(name);
+    }
+    ASSERT_THAT(files(), SizeIs(2200));
+    changeTo(2026, 1, 9);
+    EXPECT_THAT(files(), SizeIs(366));
+    EXPECT_EQ(text("20250108.log"), "old");
+    EXPECT_EQ(text("20250107.log"), "");
+}
+
+TEST_F(LogPruning, is_off_without_a_positive_number_of_days_in_edition_2)
+{
+    const UseEdition corrected;
+    put("20200101.log");
+    for (const char* days : {"0", "-7", ""}) {
+        project.set("LOG", "LOGSAVE", days);
+        changeTo(2026, 1, LocalTime.tm_mday + 1);
+    }
+    EXPECT_THAT(files(), ElementsAre("20200101.log"));
 }
