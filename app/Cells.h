@@ -17,6 +17,10 @@ constexpr int COUNTER_CELL = panel::COUNTER;
 constexpr int COUNTER_COPY_CELL = panel::COUNTER2;
 constexpr int COLOR_STEP_CELLS[] = {panel::COLOR_STEP2 + 1, panel::COLOR_STEP2, panel::COLOR_STEP1};
 
+// Stop.
+constexpr int STOP_ASK_CELL = panel::SPARE492;
+constexpr int STOP_TELL_CELL = panel::SPARE492 + 1;
+
 // Shapes.
 constexpr CellRange BLINK_MARKS = {panel::MARK, panel::count::MARK};
 

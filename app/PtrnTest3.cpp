@@ -92,6 +92,18 @@ void TakeHeader()
 /// the table before the old one is taken down.
 const CPtrnTest3* tableOwner = nullptr;
 
+/// The error line has a look of its own for good news.
+void AnswerSaving(bool saved)
+{
+    const char* const texts[][2] = {
+        {"配線表を保存できません", "配線表を保存しました"},
+        {"The wiring table could not be saved", "The wiring table is saved"},
+        {"Die Verdrahtung konnte nicht gesichert werden", "Die Verdrahtung ist gesichert"}};
+    const int language = Language == 0 || Language == 1 ? Language : 2;
+    DispErrorMesg(texts[language][saved ? 1 : 0]);
+    Set_Color(DTNO_SYSEROR, saved ? 2 : 1, nullptr, 0);
+}
+
 } // namespace
 
 void CPtrnTest3::PtrnInitFunc()
@@ -126,8 +138,7 @@ void CPtrnTest3::InitHaisenhyo()
 void CPtrnTest3::PtrnMesgFunc(int no)
 {
     if (no == TABLE_SAVE_CELL) {
-        if (!SaveHaisenhyo())
-            DispErrorMesg(Language == 0 ? "配線表を保存できません" : "The wiring table could not be saved");
+        AnswerSaving(SaveHaisenhyo());
     } else if (no == TABLE_PRINT_CELL) {
         PtrnSetCursor(CURSOR_BUSY, nullptr, 0);
         PrintHaisenhyo();

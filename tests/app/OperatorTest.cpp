@@ -1,5 +1,6 @@
 // The sample panel as it is built and started, under an operator's hands: the real program with the sample
 // project, told by what is on the screen, in the log and in its exit status.
+#include "app/Cells.h"
 #include "tests/app/SampleProject.h"
 
 #include <array>
@@ -335,4 +336,32 @@ TEST_F(Operator, looks_at_the_version_and_stops_the_panel)
     EXPECT_EQ(*program->status(), 0) << program->output();
     EXPECT_EQ(program->output(), "");
     EXPECT_EQ(project.messages().back(), "システム停止");
+}
+
+TEST_F(Operator, is_told_that_the_panel_stops_and_is_offered_no_way_back)
+{
+    clickOn(actionOf(ACTION_OPEN_SYSTEM, "システム終了"));
+    show("システム終了");
+    const RECT stop = actionOf(ACTION_STOP);
+    const RECT back = actionOf(ACTION_CLOSE_SYSTEM);
+    RECT told{};
+    for (int i = 0; i < pattern->PtrnCont; i++)
+        if (pattern->PtrnData[i].DataNo == STOP_TELL_CELL)
+            told = pattern->PtrnData[i].Rect;
+    const auto isPlain = [&](const RECT& place) {
+        const Picture seen = look(place);
+        for (int y = 0; y < seen.height(); y++)
+            for (int x = 0; x < seen.width(); x++)
+                if (seen.at(x, y) != seen.at(0, 0))
+                    return false;
+        return true;
+    };
+    const RECT line = {told.left, told.top, told.left + 160, told.top + 20, 160, 20};
+    EXPECT_TRUE(isPlain(line));
+    EXPECT_FALSE(isPlain(back));
+    clickOn(stop);
+    ASSERT_TRUE(user.waitFor([&] { return isPlain(stop) && isPlain(back) && !isPlain(line); }, "the notice"));
+    clickOn(back);
+    ASSERT_TRUE(user.waitFor([&] { return program->status().has_value(); }, "the end of the panel"));
+    EXPECT_EQ(*program->status(), 0) << program->output();
 }

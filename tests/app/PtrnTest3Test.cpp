@@ -157,6 +157,28 @@ TEST_F(TableForm, saves_nothing_when_the_file_is_gone)
     EXPECT_THAT(project.messages(), ElementsAre("ファイルのオープンに失敗 [Haisenhyo]"));
 }
 
+TEST_F(TableForm, tells_on_the_error_line_whether_the_table_was_saved)
+{
+    openTable(3);
+    const std::vector<std::pair<const char*, const char*>> answers = {
+        {"配線表を保存しました", "配線表を保存できません"},
+        {"The wiring table is saved", "The wiring table could not be saved"},
+        {"Die Verdrahtung ist gesichert", "Die Verdrahtung konnte nicht gesichert werden"}};
+    const std::string file = project.folder() + "/Haisenhyo";
+    for (std::size_t language = 0; language < answers.size(); language++) {
+        Language = static_cast<int>(language);
+        clickSave();
+        EXPECT_EQ(text(DTNO_SYSEROR), answers[language].first);
+        EXPECT_EQ(colorOf(DTNO_SYSEROR), 2);
+        const std::string bytes = project.read("Haisenhyo");
+        unlink(file.c_str());
+        clickSave();
+        EXPECT_EQ(text(DTNO_SYSEROR), answers[language].second);
+        EXPECT_EQ(colorOf(DTNO_SYSEROR), 1);
+        project.write("Haisenhyo", bytes);
+    }
+}
+
 TEST_F(TableForm, ends_printing_with_the_normal_pointer)
 {
     openTable(3);
