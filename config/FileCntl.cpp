@@ -80,6 +80,13 @@ int WriteInPlace(CFileWrite& writer, const char* dir, const char* name, const Fi
     return WriteBytes(writer, place, buffer, size, event, report);
 }
 
+/// Whether that is why a folder takes no new file, for ever. A full or failing disk would take half of a file
+/// that is written in place.
+bool IsRefusal(int reason)
+{
+    return reason == EACCES || reason == EPERM || reason == EROFS || reason == ENAMETOOLONG;
+}
+
 /// The file is replaced as a whole. Where its folder takes no new file it is written in place: better than
 /// not at all.
 int WriteWhole(const char* dir, const char* name, const FilePlace& place, const void* buffer, int size,
@@ -92,10 +99,16 @@ int WriteWhole(const char* dir, const char* name, const FilePlace& place, const 
         return -1;
     }
     Replacement replacement;
-    const bool beside = (exists || !FileExist(dir, name)) && replacement.begin(JoinPath(dir, name)) &&
-                        WriteBeside(writer, replacement);
-    if (!beside)
+    const bool closed = !exists && FileExist(dir, name); // to create it would empty it
+    const bool begun = !closed && replacement.begin(JoinPath(dir, name));
+    if (!closed && !begun && IsRefusal(errno))
         return WriteInPlace(writer, dir, name, place, buffer, size, event, report);
+    if (!begun || !WriteBeside(writer, replacement)) {
+        if (!exists)
+            report.failure(CREATE_FILE, writer.FileName);
+        report.failure(event, writer.FileName);
+        return -1;
+    }
     const int written = WriteBytes(writer, place, buffer, size, event, report.failuresOnly());
     if (written == 1 && !replacement.commit()) {
         report.failure(event, writer.FileName);

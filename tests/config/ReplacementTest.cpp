@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <random>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -132,6 +133,32 @@ TEST_F(AReplacedFile, is_old_or_new_however_often_its_writer_is_killed)
         finished += found == fresh;
     }
     RecordProperty("finished", finished);
+}
+
+TEST_F(AReplacedFile, survives_300_kills_at_random_moments)
+{
+    std::mt19937 random(1);
+    const std::string bytes[] = {std::string(300, 'o'), std::string(20000, 'n')};
+    write("data", bytes[0]);
+    int changed = 0;
+    std::string before = bytes[0];
+    for (int round = 0; round < 300; round++) {
+        const pid_t writer = fork();
+        if (writer == 0) {
+            for (int i = 0;; i++)
+                save("data", bytes[i % 2]);
+        }
+        usleep(static_cast<useconds_t>(random() % 25000)); // the moment of the kill is what is tried
+        kill(writer, SIGKILL);
+        waitpid(writer, nullptr, 0);
+        const std::string found = read("data");
+        const std::string tailed =
+            bytes[0] + bytes[1].substr(bytes[0].size()); // the short one over the long one
+        ASSERT_TRUE(found == bytes[0] || found == bytes[1] || found == tailed) << "round " << round;
+        changed += found != before;
+        before = found;
+    }
+    EXPECT_GT(changed, 10) << "the writers were killed before they had written anything";
 }
 
 TEST_F(AReplacedFile, is_whole_when_two_programs_write_it_at_once)
