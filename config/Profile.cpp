@@ -5,6 +5,7 @@
 #include "config/PathName.h"
 #include "config/ProfileField.h"
 #include "config/ProfileImage.h"
+#include "config/ProfileReport.h"
 
 #include <cstdarg>
 #include <cstdint>
@@ -143,8 +144,11 @@ int WriteFields(const KeyPlace& place, const char* format, va_list sources)
     const bool ready =
         ProfileInit(place.file.c_str()) && WriteProfile(place.section.c_str(), place.key.c_str(), value);
     ProfileExit(place.file.c_str(), ready);
-    if (!ready)
+    if (!ready) {
         ReportFailure(UPDATE_PROFILE, place.file);
+        if (ProfileTrouble)
+            ProfileTrouble(ProfileProblem::Unsaved);
+    }
     return ready ? count : 0;
 }
 

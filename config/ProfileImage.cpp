@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "config/FileCntl.h"
 #include "config/FileReport.h"
+#include "config/ProfileReport.h"
 #include "config/ProfileText.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include <string>
 
 using namespace tessary;
+
+ProfileSink tessary::ProfileTrouble;
 
 namespace
 {
@@ -40,6 +43,14 @@ void ReplaceBytes(int from, int removed, const std::string& text)
     ProfSize = size;
 }
 
+/// @return 0, the result of what has failed
+int Trouble(ProfileProblem problem)
+{
+    if (ProfileTrouble)
+        ProfileTrouble(problem);
+    return 0;
+}
+
 } // namespace
 
 int ProfileInit(const char* file)
@@ -51,17 +62,17 @@ int ProfileInit(const char* file)
     const bool beyondCounting = size < 0 && FileExist(file, "");
     if (size > SIZE_PROFILE || beyondCounting) {
         FileReport(nullptr, 0).failure(LOAD_PROFILE, file);
-        return 0;
+        return Trouble(ProfileProblem::Unread);
     }
     if (size < 0 && IsUnreadable(file, ""))
-        return 0; // what it holds is not known: it must not be written over
+        return Trouble(ProfileProblem::Unread); // what it holds is not known: it must not be written over
     if (size < 1)
         return 1;
 
     ProfBuff = std::make_unique<char[]>(static_cast<std::size_t>(size));
     if (FileRead(file, "", ProfBuff.get(), size, 0, nullptr, 0) != 1) {
         ProfBuff.reset();
-        return 0;
+        return Trouble(ProfileProblem::Unread);
     }
     ProfSize = size;
     return 1;
@@ -69,8 +80,8 @@ int ProfileInit(const char* file)
 
 void ProfileExit(const char* file, int write)
 {
-    if (write)
-        FileWrite(file, "", ProfBuff ? ProfBuff.get() : "", ProfSize, 0, nullptr, 0);
+    if (write && FileWrite(file, "", ProfBuff ? ProfBuff.get() : "", ProfSize, 0, nullptr, 0) != 1)
+        Trouble(ProfileProblem::Unsaved);
     ProfBuff.reset();
     ProfSize = 0;
 }
