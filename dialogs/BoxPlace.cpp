@@ -1,5 +1,6 @@
 #include "dialogs/BoxPlace.h"
 
+#include "log/Guard.h"
 #include "window/Front.h"
 #include "window/PtrnDisp.h"
 
@@ -52,7 +53,7 @@ void PlaceOverPanel(GtkWidget* box)
     }
     gtk_window_set_keep_above(GTK_WINDOW(box), TRUE);
     gtk_widget_add_events(box, GDK_VISIBILITY_NOTIFY_MASK);
-    g_signal_connect(box, "visibility-notify-event", G_CALLBACK(StayAbove), nullptr);
+    g_signal_connect(box, "visibility-notify-event", G_CALLBACK(Guarded<StayAbove>::call), nullptr);
 }
 
 } // namespace tessary

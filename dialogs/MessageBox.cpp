@@ -4,6 +4,7 @@
 #include "config/Edition.h"
 #include "config/Settings.h"
 #include "dialogs/BoxPlace.h"
+#include "log/Guard.h"
 
 #include <gdk/gdkkeysyms.h>
 #include <gtk/gtk.h>
@@ -43,10 +44,10 @@ Labels ButtonLabels()
 std::vector<Button> ButtonsOf(int type)
 {
     const Labels labels = ButtonLabels();
-    const Button confirm{labels.confirm, Message_Button1};
-    const Button yes{labels.yes, Message_Button1};
-    const Button no{labels.no, Message_Button2};
-    const Button cancel{labels.cancel, Message_Button3};
+    const Button confirm{labels.confirm, Guarded<Message_Button1>::call};
+    const Button yes{labels.yes, Guarded<Message_Button1>::call};
+    const Button no{labels.no, Guarded<Message_Button2>::call};
+    const Button cancel{labels.cancel, Guarded<Message_Button3>::call};
     switch (type) {
     case 1:
         return {confirm};
@@ -80,7 +81,7 @@ GtkWidget* NewWindow(const char* title)
     gtk_container_set_border_width(GTK_CONTAINER(window), BORDER);
     gtk_widget_realize(window);
     gdk_window_set_decorations(gtk_widget_get_window(window), GDK_DECOR_TITLE);
-    g_signal_connect(window, "destroy", G_CALLBACK(Message_Destroy), nullptr);
+    g_signal_connect(window, "destroy", G_CALLBACK(Guarded<Message_Destroy>::call), nullptr);
     return window;
 }
 
@@ -138,7 +139,7 @@ gboolean PressKey(GtkWidget* window, GdkEventKey* event, gpointer type)
 /// What the box does beside edition 1.
 void Correct(GtkWidget* window, int type)
 {
-    g_signal_connect(window, "key-press-event", G_CALLBACK(PressKey), GINT_TO_POINTER(type));
+    g_signal_connect(window, "key-press-event", G_CALLBACK(Guarded<PressKey>::call), GINT_TO_POINTER(type));
     PlaceOverPanel(window);
 }
 

@@ -9,6 +9,7 @@
 #include "log/Clock.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -34,7 +35,10 @@ int LogDay;
 namespace
 {
 
+using Watch = std::chrono::steady_clock; // goes on while the clock is set
+
 std::vector<LOGBUFFER> buffer; // what LogBuff points to
+Watch::time_point oldest;      // when the first line in the buffer was written
 
 int PositiveOr(int value, int otherwise)
 {
@@ -192,11 +196,24 @@ void LogfileSave()
     LogCont = 0;
 }
 
+namespace
+{
+
+/// A look at the clock once a second may miss the second that it waits for, and whoever sets the clock may
+/// have it waited for again.
+bool IsOverdue()
+{
+    return LogCont > 0 && Watch::now() - oldest >= std::chrono::seconds(LogTimr);
+}
+
+} // namespace
+
 void LogfileTimr()
 {
     if (!*LogPath)
         return;
-    if (LogTimr > 0 && CalcTime(LocalTime.tm_hour, LocalTime.tm_min, LocalTime.tm_sec) % LogTimr == 0)
+    if (LogTimr > 0 &&
+        (CalcTime(LocalTime.tm_hour, LocalTime.tm_min, LocalTime.tm_sec) % LogTimr == 0 || IsOverdue()))
         LogfileSave();
     if (LogDay != LocalTime.tm_mday)
         ChangeDay();
@@ -217,6 +234,8 @@ void LogfileWrite(const char* mesg1, const char* mesg2, const char* file, int li
     if (file)
         SetFileName(record, file);
     record.line = line;
+    if (LogCont == 0)
+        oldest = Watch::now();
     LogBuff[LogCont++] = record;
     if (LogCont >= LogSize)
         LogfileSave();

@@ -7,6 +7,7 @@
 #include "config/Edition.h"
 #include "config/Settings.h"
 #include "draw/Resource.h"
+#include "log/Guard.h"
 #include "window/Reload.h"
 #include "window/Request.h"
 
@@ -146,7 +147,7 @@ void Reload(void (*before)(), void (*after)())
 
 void WatchReload()
 {
-    g_unix_signal_add(SIGUSR1, TakeSignal, nullptr);
+    g_unix_signal_add(SIGUSR1, Guarded<TakeSignal, TRUE>::call, nullptr);
     // Whoever has started the program may have held it back until now: before, it would have ended the
     // program.
     sigset_t reload;

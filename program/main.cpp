@@ -1,10 +1,12 @@
 // tessary-panel: the panel of a project without code of its own.
 #include "base/EucText.h"
+#include "log/Guard.h"
 #include "program/Hooks.h"
 #include "program/ProjectPlace.h"
 #include "program/Reload.h"
 #include "shell/Options.h"
 #include "shell/Program.h"
+#include "shell/ProgramEnd.h"
 #include "shell/Refusal.h"
 
 #include <glib.h>
@@ -96,9 +98,7 @@ bool WorkBeside(const std::filesystem::path& profile)
     return !problem;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
     if (AnswerOption(argc, argv, HELP))
         return 0;
@@ -120,4 +120,12 @@ int main(int argc, char** argv)
     StartScreen = Utf8ToEuc(*screen);
     std::string program = place.profile.filename().string();
     RunProgram(program.data(), StartScreen);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    EndAtException();
+    return Guard([&] { return Run(argc, argv); }, 1);
 }

@@ -1,6 +1,7 @@
 #include "shell/DisplayGuard.h"
 
 #include "log/Category.h"
+#include "log/Guard.h"
 #include "log/Logfile.h"
 #include "shell/ProgramEnd.h"
 #include "shell/Refusal.h"
@@ -76,7 +77,7 @@ void GuardDisplay()
 {
     XSetIOErrorHandler(LoseServer);
     XSetErrorHandler(TakeError);
-    gdk_window_add_filter(nullptr, DropMadeUp, nullptr);
+    gdk_window_add_filter(nullptr, Guarded<DropMadeUp>::call, nullptr);
     Display* const display = GDK_DISPLAY_XDISPLAY(gdk_display_get_default());
     int event = 0;
     int error = 0;

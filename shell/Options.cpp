@@ -1,6 +1,7 @@
 #include "shell/Options.h"
 
 #include "shell/Refusal.h"
+#include "shell/Toolkit.h"
 
 #include <cstdio>
 #include <gtk/gtk.h>
@@ -54,7 +55,7 @@ bool AnswerOption(int argc, char** argv, const char* help)
 
 bool StartToolkit(int* argc, char*** argv)
 {
-    if (gtk_init_check(argc, argv))
+    if (OpenToolkit(argc, argv))
         return true;
     const char* asked = gdk_get_display_arg_name();
     if (!asked)

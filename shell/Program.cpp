@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
+#include "log/Guard.h"
 #include "shell/DisplayGuard.h"
 #include "shell/Locale.h"
 #include "shell/Options.h"
@@ -10,6 +11,7 @@
 #include "shell/Refusal.h"
 #include "shell/Startup.h"
 #include "shell/Supervisor.h"
+#include "shell/Unshown.h"
 #include "window/PtrnDisp.h"
 #include "window/Registry.h"
 #include "window/Request.h"
@@ -25,10 +27,15 @@ namespace tessary
 namespace
 {
 
+bool lives; ///< the first screen is shown
+
 int SupervisedTick(void*)
 {
     TellSupervisor();
-    return Timer_Event(nullptr);
+    Timer_Event(nullptr);
+    if (lives)
+        CloseUnshown();
+    return TRUE;
 }
 
 /// @return whether the first window is to be shown; not when a signal came while a message box was up
@@ -56,6 +63,21 @@ std::optional<Refusal> FirstScreenProblem()
                    1};
 }
 
+/// From the start-up to the end of the main loop.
+void Live(char* path, const std::string& screen)
+{
+    if (!Start(path))
+        return;
+    PtrnDispTopWnd(screen.empty() ? ProfileReadAsc(ProfName, "PTRN", "PTRNSTART") : screen.c_str(), nullptr,
+                   0);
+    if (Ended())
+        return;
+    if (const auto problem = FirstScreenProblem())
+        return RefuseStart(*problem);
+    lives = true;
+    gtk_main();
+}
+
 } // namespace
 
 bool PrepareProgram(int* argc, char*** argv)
@@ -73,21 +95,14 @@ bool PrepareProgram(int* argc, char*** argv)
 void RunProgram(char* path, const std::string& screen)
 {
     // Before the start-up, so that a message box it shows already lives among ticks.
-    const guint tick = gtk_timeout_add(100, SupervisedTick, nullptr);
+    const guint tick = gtk_timeout_add(100, Guarded<SupervisedTick, TRUE>::call, nullptr);
 
-    if (Start(path)) {
-        PtrnDispTopWnd(screen.empty() ? ProfileReadAsc(ProfName, "PTRN", "PTRNSTART") : screen.c_str(),
-                       nullptr, 0);
-        if (const auto problem = FirstScreenProblem())
-            RefuseStart(*problem);
-        else
-            gtk_main();
-    }
+    Guard([&] { Live(path, screen); });
 
     TellSupervisorOfEnd();
     gtk_timeout_remove(tick);
-    UserExit();
-    TessaryExit();
+    Guard(UserExit);
+    Guard(TessaryExit);
     gtk_exit(EndedBySignal() ? 0 : StartStatus());
     std::abort(); // the toolkit does not say that it never returns
 }

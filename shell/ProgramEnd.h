@@ -15,7 +15,14 @@ void EndProgram();
 /// not end the program: writing fails.
 void WatchSignals();
 
-/// Whether a signal has ended the program.
+/// From now on an exception that no handler of the program has caught ends it like EndProgram(), with status
+/// 1; log and standard error tell its text.
+void EndAtException();
+
+/// Whether EndProgram() has been called.
+bool Ended();
+
+/// Whether a signal has ended the program, and no exception on the way.
 bool EndedBySignal();
 
 } // namespace tessary

@@ -1,5 +1,7 @@
 #include "shell/Supervisor.h"
 
+#include "log/Guard.h"
+
 #include <cstdint>
 #include <gtk/gtk.h>
 #include <systemd/sd-daemon.h>
@@ -36,7 +38,7 @@ void TellSupervisor()
     static const bool READY = [] {
         sd_notify(0, "READY=1");
         if (const guint interval = Interval())
-            g_timeout_add(interval, TellLife, nullptr);
+            g_timeout_add(interval, Guarded<TellLife, TRUE>::call, nullptr);
         return true;
     }();
     ticked = READY;

@@ -5,6 +5,7 @@
 #include "config/Edition.h"
 #include "draw/DrawCntl.h"
 #include "log/Category.h"
+#include "log/Guard.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/FieldEntry.h"
@@ -96,7 +97,7 @@ void InputMethod::use(GtkIMContext* context)
     context_.reset(context);
     // What is being composed is shown by the method itself, at the place that it is told.
     gtk_im_context_set_use_preedit(context, FALSE);
-    g_signal_connect(context, "commit", G_CALLBACK(commit), this);
+    g_signal_connect(context, "commit", G_CALLBACK(Guarded<commit>::call), this);
 }
 
 void InputMethod::drop()
@@ -104,7 +105,8 @@ void InputMethod::drop()
     if (!context_)
         return;
     setClient(nullptr);
-    g_signal_handlers_disconnect_by_func(context_.get(), reinterpret_cast<gpointer>(commit), this);
+    g_signal_handlers_disconnect_by_func(context_.get(), reinterpret_cast<gpointer>(Guarded<commit>::call),
+                                         this);
     context_.reset();
 }
 

@@ -193,7 +193,7 @@ void CPtrnDisp::FollowWindow()
 void CPtrnDisp::InsistOnShowing()
 {
     constexpr int second = 10; // ticks
-    if (!Shown && ++Hidden % second == 0)
+    if (!Shown && GTK_WIDGET_VISIBLE(Widget) && ++Hidden % second == 0)
         ShowAgain(Widget);
 }
 

@@ -1,6 +1,7 @@
 // The toolkit window of a pattern window.
 #include "base/EucText.h"
 #include "base/Limits.h"
+#include "log/Guard.h"
 #include "window/Events.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
@@ -19,9 +20,9 @@ namespace
 
 bool lost; ///< the application window, to another program
 
-template <class Handler> void Connect(GtkWidget* widget, const char* signal, Handler* handler, CPtrnDisp* wnd)
+template <auto Handler> void Connect(GtkWidget* widget, const char* signal, CPtrnDisp* wnd)
 {
-    gtk_signal_connect(GTK_OBJECT(widget), signal, GTK_SIGNAL_FUNC(handler), wnd);
+    gtk_signal_connect(GTK_OBJECT(widget), signal, GTK_SIGNAL_FUNC(Guarded<Handler>::call), wnd);
 }
 
 /// A window manager may not close a panel's window: windows close by their items' actions.
@@ -117,6 +118,14 @@ struct tessary::WindowSignals {
         return FALSE;
     }
 
+    /// By another program: nobody else takes a panel's window away. The ticks bring it back.
+    static int Unmap(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd)
+    {
+        wnd->Shown = false;
+        wnd->Hidden = 0;
+        return LetGo(widget, event, wnd);
+    }
+
     /// The button that holds a control may be released where this window does not hear of it.
     static int LetGo(GtkWidget*, GdkEvent*, CPtrnDisp* wnd)
     {
@@ -177,22 +186,22 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     wnd->Shown = false;
     wnd->Hidden = 0;
 
-    Connect(area, "configure_event", Configure_Event, wnd);
-    Connect(area, "expose_event", Expose_Event, wnd);
-    Connect(area, "button_press_event", Mouse_Press, wnd);
-    Connect(area, "button_release_event", Mouse_Release, wnd);
-    Connect(area, "motion_notify_event", Mouse_Motion, wnd);
-    Connect(area, "leave_notify_event", Mouse_Leave, wnd);
-    Connect(area, "scroll_event", Mouse_Wheel, wnd);
-    Connect(top, "key_press_event", Key_Press, wnd);
-    Connect(top, "key_release_event", Key_Release, wnd);
-    Connect(top, "configure_event", WindowSignals::Configure, wnd);
-    Connect(top, "map_event", WindowSignals::Map, wnd);
-    Connect(top, "unmap_event", WindowSignals::LetGo, wnd);
-    Connect(area, "grab_broken_event", WindowSignals::LetGo, wnd);
-    Connect(top, "delete_event", Refuse_Delete, wnd);
-    Connect(top, "unrealize", Window_Unrealize, wnd);
-    Connect(top, "destroy", WindowSignals::Destroy, wnd);
+    Connect<Configure_Event>(area, "configure_event", wnd);
+    Connect<Expose_Event>(area, "expose_event", wnd);
+    Connect<Mouse_Press>(area, "button_press_event", wnd);
+    Connect<Mouse_Release>(area, "button_release_event", wnd);
+    Connect<Mouse_Motion>(area, "motion_notify_event", wnd);
+    Connect<Mouse_Leave>(area, "leave_notify_event", wnd);
+    Connect<Mouse_Wheel>(area, "scroll_event", wnd);
+    Connect<Key_Press>(top, "key_press_event", wnd);
+    Connect<Key_Release>(top, "key_release_event", wnd);
+    Connect<WindowSignals::Configure>(top, "configure_event", wnd);
+    Connect<WindowSignals::Map>(top, "map_event", wnd);
+    Connect<WindowSignals::Unmap>(top, "unmap_event", wnd);
+    Connect<WindowSignals::LetGo>(area, "grab_broken_event", wnd);
+    Connect<Refuse_Delete>(top, "delete_event", wnd);
+    Connect<Window_Unrealize>(top, "unrealize", wnd);
+    Connect<WindowSignals::Destroy>(top, "destroy", wnd);
 
     wnd->PtrnInit();
     // Each step calls hooks, which may close the window: the toolkit paints it when it is realized.
