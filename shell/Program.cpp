@@ -17,9 +17,11 @@
 #include "window/Request.h"
 #include "window/Slots.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <gtk/gtk.h>
 #include <optional>
+#include <sys/resource.h>
 
 namespace tessary
 {
@@ -63,6 +65,21 @@ std::optional<Refusal> FirstScreenProblem()
                    1};
 }
 
+/// With too few files the toolkit finds no fonts for the box that would tell so, or ends where it stands.
+bool MayOpenFiles()
+{
+    constexpr rlim_t NEEDED = 24; // twice what an idle panel has open
+    rlimit files{};
+    if (getrlimit(RLIMIT_NOFILE, &files) != 0 || files.rlim_cur >= NEEDED)
+        return true;
+    const rlimit more = {std::min(NEEDED, files.rlim_max), files.rlim_max};
+    if (more.rlim_cur >= NEEDED && setrlimit(RLIMIT_NOFILE, &more) == 0)
+        return true;
+    Tell("This process may open only " + std::to_string(files.rlim_max) + " files at a time, and needs " +
+         std::to_string(NEEDED) + ". Raise its limit (ulimit -n, LimitNOFILE).");
+    return false;
+}
+
 /// From the start-up to the end of the main loop.
 void Live(char* path, const std::string& screen)
 {
@@ -82,6 +99,8 @@ void Live(char* path, const std::string& screen)
 
 bool PrepareProgram(int* argc, char*** argv)
 {
+    if (!MayOpenFiles())
+        return false;
     WatchSignals();
     gtk_set_locale();
     UseEucLocale();
