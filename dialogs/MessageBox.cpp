@@ -5,7 +5,10 @@
 #include "config/Settings.h"
 #include "dialogs/BoxPlace.h"
 #include "log/Guard.h"
+#include "draw/Scale.h"
 
+#include <algorithm>
+#include <cmath>
 #include <gdk/gdkkeysyms.h>
 #include <gtk/gtk.h>
 #include <string>
@@ -65,6 +68,35 @@ std::string ToolkitText(const char* text)
     return text ? EucToUtf8(std::string(text, EucCut(text, TEXT_LIMIT))) : "";
 }
 
+/// The box grows with the panel, but is never harder to read than the desktop's own.
+double Growth()
+{
+    return std::max(1.0, DisplayScale().factor());
+}
+
+int Grown(int pixels)
+{
+    return static_cast<int>(std::lround(pixels * Growth()));
+}
+
+/// What its text is shown with, beside what it is given. The caller owns the list.
+PangoAttrList* GrownText()
+{
+    PangoAttrList* attributes = pango_attr_list_new();
+    if (Growth() > 1)
+        pango_attr_list_insert(attributes, pango_attr_scale_new(Growth()));
+    return attributes;
+}
+
+void Grow(GtkLabel* label)
+{
+    if (Growth() <= 1)
+        return;
+    PangoAttrList* attributes = GrownText();
+    gtk_label_set_attributes(label, attributes);
+    pango_attr_list_unref(attributes);
+}
+
 void Pack(GtkWidget* box, GtkWidget* child)
 {
     gtk_box_pack_start(GTK_BOX(box), child, FALSE, FALSE, 0);
@@ -78,7 +110,7 @@ GtkWidget* NewWindow(const char* title)
     gtk_window_set_modal(GTK_WINDOW(window), TRUE);
     gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
     gtk_window_set_title(GTK_WINDOW(window), ToolkitText(title).c_str());
-    gtk_container_set_border_width(GTK_CONTAINER(window), BORDER);
+    gtk_container_set_border_width(GTK_CONTAINER(window), Grown(BORDER));
     gtk_widget_realize(window);
     gdk_window_set_decorations(gtk_widget_get_window(window), GDK_DECOR_TITLE);
     g_signal_connect(window, "destroy", G_CALLBACK(Guarded<Message_Destroy>::call), nullptr);
@@ -88,7 +120,7 @@ GtkWidget* NewWindow(const char* title)
 void Wrap(GtkLabel* label, int width)
 {
     // A path is no word: a hyphen at the end of its line would look like part of it.
-    PangoAttrList* attributes = pango_attr_list_new();
+    PangoAttrList* attributes = GrownText();
     pango_attr_list_insert(attributes, pango_attr_insert_hyphens_new(FALSE));
     gtk_label_set_attributes(label, attributes);
     pango_attr_list_unref(attributes);
@@ -100,7 +132,8 @@ void Wrap(GtkLabel* label, int width)
 GtkWidget* NewLabel(const char* text)
 {
     GtkWidget* label = gtk_label_new(ToolkitText(text).c_str());
-    const int room = gdk_screen_width() - 4 * BORDER;
+    Grow(GTK_LABEL(label));
+    const int room = gdk_screen_width() - 4 * Grown(BORDER);
     GtkRequisition wanted;
     gtk_widget_size_request(label, &wanted);
     if (wanted.width > room)
@@ -110,9 +143,10 @@ GtkWidget* NewLabel(const char* text)
 
 GtkWidget* NewButtonRow(int type, GtkWidget* window)
 {
-    GtkWidget* row = gtk_hbox_new(FALSE, 10);
+    GtkWidget* row = gtk_hbox_new(FALSE, Grown(10));
     for (const Button& button : ButtonsOf(type)) {
         GtkWidget* widget = gtk_button_new_with_label(ToolkitText(button.label).c_str());
+        Grow(GTK_LABEL(gtk_bin_get_child(GTK_BIN(widget))));
         g_signal_connect(widget, "clicked", G_CALLBACK(button.clicked), window);
         Pack(row, widget);
     }
@@ -149,7 +183,7 @@ int MessageBox(const char* title, const char* text, int, int type)
 {
     MessageButnNo = 0;
     GtkWidget* window = NewWindow(title);
-    GtkWidget* column = gtk_vbox_new(FALSE, 20);
+    GtkWidget* column = gtk_vbox_new(FALSE, Grown(20));
     Pack(column, NewLabel(text));
     Pack(column, NewButtonRow(type, window));
     gtk_container_add(GTK_CONTAINER(window), column);

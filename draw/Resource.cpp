@@ -6,6 +6,7 @@
 #include "config/Settings.h"
 #include "draw/Images.h"
 #include "draw/ResourceLoad.h"
+#include "draw/Scale.h"
 
 #include <cstring>
 
@@ -37,6 +38,7 @@ void DrawCntlInit()
     DrawCntlExit();
 
     ProfileRead(ProfName, "TESSARY", "DISPSIZE", "ii", &DispSizeX, &DispSizeY);
+    ScaleInit();
     FileRead(ProjPath, "PtrnColr", ColrData, sizeof ColrData, 0, nullptr, 0);
     FileRead(ProjPath, "PtrnMark", MarkData, sizeof MarkData, 0, nullptr, 0);
     MarkDataSet();
@@ -50,6 +52,7 @@ void DrawCntlInit()
 
 void tessary::DrawCntlExit()
 {
+    ScaleExit();
     DispSizeX = 0;
     DispSizeY = 0;
     Language = 0;

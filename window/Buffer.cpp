@@ -3,6 +3,7 @@
 #include "base/Limits.h"
 #include "config/Edition.h"
 #include "draw/DrawScope.h"
+#include "draw/Scale.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 
@@ -47,6 +48,11 @@ GdkPixmap* NewPixmap(GdkWindow* window, SIZE size)
 
 } // namespace
 
+bool CopiesDrawn()
+{
+    return Has(Correction::QuietTick) || !DisplayScale().natural();
+}
+
 SIZE BoundedBuffer(int width, int height)
 {
     const int cx = std::clamp(width, 1, COORDINATE_MAX);
@@ -58,7 +64,7 @@ std::shared_ptr<CPaintDraw> NewBuffer(GtkWidget* area, SIZE size)
     GdkPixmap* pixmap = NewPixmap(area->window, size);
     // Not everything need be drawn on: a picture of the body may be missing.
     gdk_draw_rectangle(pixmap, area->style->bg_gc[GTK_STATE_NORMAL], TRUE, 0, 0, size.cx, size.cy);
-    if (Has(Correction::QuietTick))
+    if (CopiesDrawn())
         RecordDrawings(pixmap)->add({0, 0, size.cx, size.cy});
     return {new CPaintDraw(pixmap), [](CPaintDraw* draw) {
                 GdkDrawable* buffer = draw->window;

@@ -2,9 +2,8 @@
 #include "base/Coord.h"
 #include "draw/Resource.h"
 #include "pattern/ItemParm.h"
+#include "window/OnDisplay.h"
 #include "window/PtrnDisp.h"
-
-#include <gtk/gtk.h>
 
 using namespace tessary;
 
@@ -48,9 +47,8 @@ void CPtrnDisp::MoveWindow2(POINT pt)
     rect.height = Saturate(std::int64_t{rect.bottom} - rect.top);
 
     MovePoint = current;
-    Placed = {rect.left, rect.top};
     if (Widget)
-        gtk_window_move(GTK_WINDOW(Widget), rect.left, rect.top);
+        Placed = PlaceOnDisplay(Widget, DrawArea, rect);
 }
 
 void CPtrnDisp::MoveWindow3()

@@ -2,6 +2,8 @@
 #include "window/Events.h"
 
 #include "config/Edition.h"
+#include "draw/Scale.h"
+#include "window/Buffer.h"
 #include "window/FieldEntry.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
@@ -38,9 +40,18 @@ int Modifiers(guint state)
     return MODIFIER_NONE;
 }
 
+// Every place that the toolkit tells comes through one of these two.
+
+/// A point of a window as the panel sees it.
 POINT PointOf(double x, double y)
 {
-    return {static_cast<int>(x), static_cast<int>(y)};
+    return DisplayScale().inWindow({static_cast<int>(x), static_cast<int>(y)});
+}
+
+/// A point of the display as the panel sees it.
+POINT RootPointOf(double x, double y)
+{
+    return DisplayScale().toPanel({static_cast<int>(x), static_cast<int>(y)});
 }
 
 bool IsDragging(const CPtrnDisp* wnd)
@@ -48,7 +59,7 @@ bool IsDragging(const CPtrnDisp* wnd)
     return wnd->MoveWnd == 1 || wnd->ScrollBar == 1;
 }
 
-/// A point of the screen, relative to a window that is being moved. A window manager lags behind: where the
+/// A point of the panel, relative to a window that is being moved. A window manager lags behind: where the
 /// window is on the screen is not yet where it is to be, and only the pointer's place on the screen is
 /// certain.
 POINT DragPoint(const CPtrnDisp* wnd, POINT root)
@@ -66,7 +77,7 @@ void AskPointer(const CPtrnDisp* wnd, POINT* pt)
     gdk_window_get_pointer(moving ? gdk_get_default_root_window() : wnd->DrawArea->window, &now.x, &now.y,
                            &state);
     if (!IsDragging(wnd) || (state & GDK_BUTTON1_MASK))
-        *pt = moving ? DragPoint(wnd, now) : now;
+        *pt = moving ? DragPoint(wnd, RootPointOf(now.x, now.y)) : PointOf(now.x, now.y);
 }
 
 /// The pointer may have moved on between the press that has started a drag and this moment, and its motion
@@ -89,7 +100,7 @@ void DragToRelease(CPtrnDisp* wnd, const GdkEventButton& event)
         return;
     POINT pt = PointOf(event.x, event.y);
     if (wnd->MoveWnd == 1) {
-        pt = DragPoint(wnd, PointOf(event.x_root, event.y_root));
+        pt = DragPoint(wnd, RootPointOf(event.x_root, event.y_root));
         const RECT& rect = wnd->WindRect;
         if (rect.left + wnd->Offset.x + pt.x == wnd->MovePoint.x &&
             rect.top + wnd->Offset.y + pt.y == wnd->MovePoint.y)
@@ -173,7 +184,7 @@ int Configure_Event(GtkWidget*, GdkEventConfigure*, CPtrnDisp* wnd)
 int Expose_Event(GtkWidget*, GdkEventExpose* event, CPtrnDisp* wnd)
 {
     const HandlerScope scope;
-    if (event && event->region && Has(Correction::QuietTick))
+    if (event && event->region && CopiesDrawn())
         wnd->UpdateArea(*event);
     else
         wnd->UpdateEvent();
@@ -240,7 +251,7 @@ int Mouse_Motion(GtkWidget*, GdkEventMotion* event, CPtrnDisp* wnd)
     POINT pt = PointOf(event->x, event->y);
     if (event->is_hint) {
         if (IsDragging(wnd))
-            pt = DragPoint(wnd, PointOf(event->x_root, event->y_root));
+            pt = DragPoint(wnd, RootPointOf(event->x_root, event->y_root));
         AskPointer(wnd, &pt);
     }
     wnd->MouseMove(pt, Modifiers(event->state));

@@ -1,5 +1,6 @@
 #include "window/Front.h"
 
+#include "draw/Scale.h"
 #include "pattern/ItemParm.h"
 #include "window/PtrnDisp.h"
 #include "window/Slots.h"
@@ -21,10 +22,11 @@ bool HoldsPointer(const CPtrnDisp& wnd)
 {
     if (!wnd.DrawArea || !wnd.DrawArea->window)
         return false;
-    int x = 0;
-    int y = 0;
-    gtk_widget_get_pointer(wnd.DrawArea, &x, &y);
-    return x >= 0 && y >= 0 && x < wnd.WindRect.width && y < wnd.WindRect.height;
+    POINT pointer{};
+    gtk_widget_get_pointer(wnd.DrawArea, &pointer.x, &pointer.y);
+    pointer = DisplayScale().inWindow(pointer);
+    return pointer.x >= 0 && pointer.y >= 0 && pointer.x < wnd.WindRect.width &&
+           pointer.y < wnd.WindRect.height;
 }
 
 bool IsBefore(const CPtrnDisp& child)

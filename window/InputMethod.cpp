@@ -4,6 +4,7 @@
 #include "base/EucText.h"
 #include "config/Edition.h"
 #include "draw/DrawCntl.h"
+#include "draw/Scale.h"
 #include "log/Category.h"
 #include "log/Guard.h"
 #include "log/LogText.h"
@@ -181,10 +182,11 @@ void InputMethod::move(const CPtrnDisp* wnd)
     int left = 0;
     int top = 0;
     gdk_window_get_origin(client_, &left, &top);
-    const std::int64_t x = std::int64_t{wnd->WindRect.left} - wnd->Offset.x - left + item.Parm[PARM_X1] +
+    const std::int64_t x = std::int64_t{wnd->WindRect.left} - wnd->Offset.x + item.Parm[PARM_X1] +
                            std::int64_t{cell.cx} * wnd->KeyInputPost;
-    const std::int64_t y = std::int64_t{wnd->WindRect.top} - wnd->Offset.y - top + item.Parm[PARM_Y1];
-    GdkRectangle place = {Saturate(x), Saturate(y), 1, cell.cy};
+    const std::int64_t y = std::int64_t{wnd->WindRect.top} - wnd->Offset.y + item.Parm[PARM_Y1];
+    const POINT cursor = DisplayScale().toDisplay({Saturate(x), Saturate(y)});
+    GdkRectangle place = {Shift(cursor.x, -left), Shift(cursor.y, -top), 1, DisplayScale().length(cell.cy)};
     gtk_im_context_set_cursor_location(context_.get(), &place);
 }
 

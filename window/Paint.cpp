@@ -3,11 +3,13 @@
 #include "config/Edition.h"
 #include "draw/DrawScope.h"
 #include "draw/Resource.h"
+#include "draw/Scale.h"
 #include "draw/ToolkitPtr.h"
 #include "log/Category.h"
 #include "log/LogText.h"
 #include "pattern/ItemParm.h"
 #include "window/Buffer.h"
+#include "window/Enlarge.h"
 #include "window/Manager.h"
 #include "window/PtrnDisp.h"
 #include "window/WindowCodes.h"
@@ -20,14 +22,45 @@ using namespace tessary;
 namespace
 {
 
+constexpr int POINTER_EDGE = 32;
+
+/// Whole steps that the pointer is enlarged by: as the panel is, up to what the server can show.
+int PointerSteps()
+{
+    const int wanted = DisplayScale().steps();
+    if (wanted == 1)
+        return 1;
+    guint width = 0;
+    guint height = 0;
+    gdk_display_get_maximal_cursor_size(gdk_display_get_default(), &width, &height);
+    return std::clamp(static_cast<int>(std::min(width, height)) / POINTER_EDGE, 1, wanted);
+}
+
+/// Bits of a pointer with each of them as a square.
+std::string EnlargedBits(const char* bits, int steps)
+{
+    if (steps == 1)
+        return std::string(bits, SIZE_CURSOR);
+    const int edge = POINTER_EDGE * steps;
+    std::string enlarged(static_cast<std::size_t>(edge * edge / 8), '\0');
+    for (int y = 0; y < edge; y++) {
+        for (int x = 0; x < edge; x++) {
+            const int at = y / steps * POINTER_EDGE + x / steps;
+            if (bits[at / 8] >> at % 8 & 1)
+                enlarged[static_cast<std::size_t>((y * edge + x) / 8)] |= static_cast<char>(1 << x % 8);
+        }
+    }
+    return enlarged;
+}
+
 /// A cursor's picture. One that is sent to the server in one piece would be looked up in the cursor themes on
 /// disk, at every tick, and a theme might have another picture in its place; a copy drawn there is not.
-BitmapPtr DrawnBitmap(const char* bits)
+BitmapPtr DrawnBitmap(const std::string& bits, int edge)
 {
-    const BitmapPtr sent(gdk_bitmap_create_from_data(nullptr, bits, 32, 32));
-    BitmapPtr drawn(gdk_pixmap_new(sent.get(), 32, 32, 1));
+    const BitmapPtr sent(gdk_bitmap_create_from_data(nullptr, bits.data(), edge, edge));
+    BitmapPtr drawn(gdk_pixmap_new(sent.get(), edge, edge, 1));
     const GcPtr gc(gdk_gc_new(drawn.get()));
-    gdk_draw_drawable(drawn.get(), gc.get(), sent.get(), 0, 0, 0, 0, 32, 32);
+    gdk_draw_drawable(drawn.get(), gc.get(), sent.get(), 0, 0, 0, 0, edge, edge);
     return drawn;
 }
 
@@ -50,16 +83,64 @@ bool HoldToView(GdkRegion* area, const RECT& view)
     return !gdk_region_empty(area);
 }
 
+/// The part of a window that shows what is in view of its buffer; empty when nothing is.
+Box CoveredBy(const RECT& view, POINT offset)
+{
+    if (view.width <= 0 || view.height <= 0)
+        return {};
+    const Scale& scale = DisplayScale();
+    return {scale.length(view.left - offset.x), scale.length(view.top - offset.y),
+            scale.length(view.right - offset.x), scale.length(view.bottom - offset.y)};
+}
+
+/// Copies what a window shows in an area of it.
+void CopyBuffer(GtkWidget* area, GdkPixmap* buffer, POINT offset, const Box& shown)
+{
+    const Scale& scale = DisplayScale();
+    if (!scale.sized())
+        CopyScaled(area->window, buffer, offset, scale, shown);
+    else
+        gdk_draw_drawable(area->window, area->style->black_gc, buffer, shown.left + offset.x,
+                          shown.top + offset.y, shown.left, shown.top, shown.right - shown.left,
+                          shown.bottom - shown.top);
+}
+
+/// What of a window an area of its buffer is shown in.
+GdkRegion* RegionOnWindow(GdkRegion* drawn, POINT offset)
+{
+    gdk_region_offset(drawn, -offset.x, -offset.y);
+    const Scale& scale = DisplayScale();
+    if (scale.sized())
+        return drawn;
+    GdkRegion* const shown = gdk_region_new();
+    GdkRectangle* parts = nullptr;
+    int count = 0;
+    gdk_region_get_rectangles(drawn, &parts, &count);
+    for (int i = 0; i < count; i++) {
+        const GdkRectangle& part = parts[i];
+        const Box box = scale.areaOf({part.x, part.y, part.x + part.width, part.y + part.height});
+        const GdkRectangle sized = {box.left, box.top, box.right - box.left, box.bottom - box.top};
+        gdk_region_union_with_rect(shown, &sized);
+    }
+    g_free(parts);
+    gdk_region_destroy(drawn);
+    return shown;
+}
+
 void SendPointer(GdkWindow* window, int type)
 {
     if (Has(Correction::QuietTick) && !ChangesPointer(window, type))
         return;
     // Made anew at every call: a screen class changes the pointer by storing another number, and the next
     // tick brings it to the screen. The window keeps its cursor until it gets another.
-    const BitmapPtr source = DrawnBitmap(CursorData[type]);
-    const BitmapPtr mask(gdk_bitmap_create_from_data(nullptr, CursorMask[type], 32, 32));
+    const int steps = PointerSteps();
+    const int edge = POINTER_EDGE * steps;
+    const BitmapPtr source = DrawnBitmap(EnlargedBits(CursorData[type], steps), edge);
+    const BitmapPtr mask(
+        gdk_bitmap_create_from_data(nullptr, EnlargedBits(CursorMask[type], steps).data(), edge, edge));
     const CursorPtr cursor(gdk_cursor_new_from_pixmap(source.get(), mask.get(), &CusrColr[0], &CusrColr[1],
-                                                      CursorHome[type].x, CursorHome[type].y));
+                                                      CursorHome[type].x * steps,
+                                                      CursorHome[type].y * steps));
     gdk_window_set_cursor(window, cursor.get());
 }
 
@@ -107,9 +188,8 @@ void CPtrnDisp::UpdateEvent()
         return;
     // The whole of what is in view is copied, whatever part was exposed.
     const RECT view = ViewOfBuffer();
-    if (view.width > 0 && view.height > 0)
-        gdk_draw_drawable(DrawArea->window, DrawArea->style->black_gc, Pixmap, view.left, view.top,
-                          view.left - Offset.x, view.top - Offset.y, view.width, view.height);
+    if (const Box covered = CoveredBy(view, Offset); !covered.empty())
+        CopyBuffer(DrawArea, Pixmap, Offset, covered);
     if (view.width < WindRect.width || view.height < WindRect.height)
         ClearUncovered(view);
 }
@@ -119,11 +199,7 @@ void CPtrnDisp::UpdateArea(const GdkEventExpose& event)
 {
     if (!DrawArea || !DrawArea->window || !Pixmap)
         return;
-    const RECT view = ViewOfBuffer();
-    const bool any = view.width > 0 && view.height > 0;
-    const Box covered =
-        any ? Box{view.left - Offset.x, view.top - Offset.y, view.right - Offset.x, view.bottom - Offset.y}
-            : Box{};
+    const Box covered = CoveredBy(ViewOfBuffer(), Offset);
     GdkRectangle* parts = nullptr;
     int count = 0;
     gdk_region_get_rectangles(event.region, &parts, &count);
@@ -135,9 +211,7 @@ void CPtrnDisp::UpdateArea(const GdkEventExpose& event)
             gdk_draw_rectangle(DrawArea->window, DrawArea->style->bg_gc[GTK_STATE_NORMAL], TRUE, part.x,
                                part.y, part.width, part.height);
         if (!shown.empty())
-            gdk_draw_drawable(DrawArea->window, DrawArea->style->black_gc, Pixmap, shown.left + Offset.x,
-                              shown.top + Offset.y, shown.left, shown.top, shown.right - shown.left,
-                              shown.bottom - shown.top);
+            CopyBuffer(DrawArea, Pixmap, Offset, shown);
     }
     g_free(parts);
 }
@@ -149,9 +223,8 @@ void CPtrnDisp::ClearUncovered(RECT view)
     int height = 0;
     gdk_drawable_get_size(DrawArea->window, &width, &height);
     const GdkRectangle window = {0, 0, width, height};
-    const bool any = view.width > 0 && view.height > 0;
-    const GdkRectangle covered = {any ? view.left - Offset.x : 0, any ? view.top - Offset.y : 0, view.width,
-                                  view.height};
+    const Box shown = CoveredBy(view, Offset);
+    const GdkRectangle covered = {shown.left, shown.top, shown.right - shown.left, shown.bottom - shown.top};
     GdkRegion* region = gdk_region_rectangle(&window);
     GdkRegion* taken = gdk_region_rectangle(&covered);
     gdk_region_subtract(region, taken);
@@ -169,7 +242,8 @@ void CPtrnDisp::ClearUncovered(RECT view)
 void CPtrnDisp::PtrnUpdate()
 {
     if (DrawArea)
-        gtk_widget_queue_draw_area(DrawArea, 0, 0, WindRect.width, WindRect.height);
+        gtk_widget_queue_draw_area(DrawArea, 0, 0, DisplayScale().length(WindRect.width),
+                                   DisplayScale().length(WindRect.height));
 }
 
 /// A window manager may have placed the window elsewhere. Reports come late, so what is true now counts. A
@@ -182,11 +256,13 @@ void CPtrnDisp::FollowWindow()
     if (Reported.x == Placed.x && Reported.y == Placed.y)
         return;
     gdk_window_get_origin(Widget->window, &Placed.x, &Placed.y);
-    const int dx = Saturate(std::int64_t{Placed.x} - WindRect.left);
-    const int dy = Saturate(std::int64_t{Placed.y} - WindRect.top);
-    WindRect.left = Placed.x;
+    const POINT place =
+        DisplayScale().toPanel({Placed.x + DrawArea->allocation.x, Placed.y + DrawArea->allocation.y});
+    const int dx = Saturate(std::int64_t{place.x} - WindRect.left);
+    const int dy = Saturate(std::int64_t{place.y} - WindRect.top);
+    WindRect.left = place.x;
     WindRect.right = Shift(WindRect.right, dx);
-    WindRect.top = Placed.y;
+    WindRect.top = place.y;
     WindRect.bottom = Shift(WindRect.bottom, dy);
 }
 
@@ -217,7 +293,7 @@ void CPtrnDisp::TimrEvent()
     RunDispFunc(draw.get());
     if (!Pixmap)
         return;
-    if (Has(Correction::QuietTick))
+    if (CopiesDrawn())
         ShowDrawn();
     else
         PtrnUpdate();
@@ -249,7 +325,7 @@ void CPtrnDisp::RunDispFunc(CDraw* draw)
 /// has come into view.
 void CPtrnDisp::ShowDrawn()
 {
-    GdkRegion* const region = DrawingsOf(Pixmap) ? DrawingsOf(Pixmap)->take() : nullptr;
+    GdkRegion* region = DrawingsOf(Pixmap) ? DrawingsOf(Pixmap)->take() : nullptr;
     const RECT view =
         SetRect(Offset.x, Offset.y, Shift(Offset.x, WindRect.width), Shift(Offset.y, WindRect.height));
     const bool moved = !(BoxOf(view) == BoxOf(ViewRect));
@@ -257,7 +333,7 @@ void CPtrnDisp::ShowDrawn()
     if (moved) {
         PtrnUpdate();
     } else if (region && HoldToView(region, ViewOfBuffer())) {
-        gdk_region_offset(region, -Offset.x, -Offset.y);
+        region = RegionOnWindow(region, Offset);
         gdk_window_invalidate_region(DrawArea->window, region, FALSE);
     }
     if (region)

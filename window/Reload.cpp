@@ -1,10 +1,11 @@
 #include "window/Reload.h"
 
 #include "base/BuiltIn.h"
-#include "base/Limits.h"
 #include "comndata/PtrnCode.h"
+#include "draw/Scale.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnHedr.h"
+#include "window/OnDisplay.h"
 #include "window/PtrnDisp.h"
 #include "window/Request.h"
 
@@ -52,7 +53,8 @@ struct WindowReload {
         if (!changed(wnd->PtrnName) || !ReadHedr(wnd->PtrnName, &header))
             return;
         const PTRNHEDR& before = wnd->PtrnData->PtrnHedr;
-        if (header.Parm1[HEDR_CLASS] != before.Parm1[HEDR_CLASS] && !IsBuiltIn(wnd->PtrnName))
+        if ((header.Parm1[HEDR_CLASS] != before.Parm1[HEDR_CLASS] && !IsBuiltIn(wnd->PtrnName)) ||
+            (wnd == AppliWnd && IsCovering(wnd->DrawArea) != CoversDisplay()))
             OpenAnew(*wnd);
         else
             inPlace(*wnd);
@@ -85,15 +87,51 @@ struct WindowReload {
         else if (sized && whole)
             wnd.WindRect = SetRect(old.left, old.top, old.left + wnd.Header(HEDR_WIDTH),
                                    old.top + wnd.Header(HEDR_HEIGHT));
-        if (wnd.WindRect.width != old.width || wnd.WindRect.height != old.height)
-            gtk_widget_set_size_request(wnd.DrawArea, std::clamp(wnd.WindRect.width, 1, COORDINATE_MAX),
-                                        std::clamp(wnd.WindRect.height, 1, COORDINATE_MAX));
-        if (wnd.WindRect.left == old.left && wnd.WindRect.top == old.top)
+        const bool scaled = !DisplayScale().natural(); // which may be another scale than before
+        if (scaled || wnd.WindRect.width != old.width || wnd.WindRect.height != old.height)
+            SizeOnDisplay(wnd.DrawArea, wnd.WindRect);
+        if (scaled || wnd.WindRect.left != old.left || wnd.WindRect.top != old.top)
+            wnd.Placed = PlaceOnDisplay(wnd.Widget, wnd.DrawArea, wnd.WindRect);
+        PaintRest(wnd);
+    }
+
+    /// The display has another size.
+    static void fit(CPtrnDisp* wnd)
+    {
+        if (!wnd)
             return;
-        wnd.Placed = {wnd.WindRect.left, wnd.WindRect.top};
-        gtk_window_move(GTK_WINDOW(wnd.Widget), wnd.Placed.x, wnd.Placed.y);
+        fit(wnd->ChildWnd1);
+        fit(wnd->ChildWnd2);
+        if (!wnd->Widget)
+            return;
+        SizeOnDisplay(wnd->DrawArea, wnd->WindRect);
+        wnd->Placed = PlaceOnDisplay(wnd->Widget, wnd->DrawArea, wnd->WindRect);
+        wnd->PtrnUpdate();
     }
 };
+
+namespace
+{
+
+void FitToDisplay(GdkScreen*, gpointer)
+{
+    if (!ScaleAnew())
+        return;
+    WindowReload::fit(AppliWnd);
+    WindowReload::fit(SystmWnd);
+}
+
+} // namespace
+
+void FollowDisplay()
+{
+    static const bool FOLLOWS = [] {
+        for (const char* signal : {"size-changed", "monitors-changed"})
+            g_signal_connect(gdk_screen_get_default(), signal, G_CALLBACK(FitToDisplay), nullptr);
+        return true;
+    }();
+    static_cast<void>(FOLLOWS);
+}
 
 void ReloadPtrnWnds(const Changed& changed)
 {

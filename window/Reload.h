@@ -10,9 +10,12 @@ namespace tessary
 /// and is painted at once, so that nothing else is seen in between. It keeps its place, unless the new header
 /// names another, and its children; a field in edit is left without storing, and its init hook runs again. A
 /// window whose ready-made class has changed is opened anew. A pattern that is gone stays as it was. The code
-/// table, the list of patterns and the drawing resources have been loaded before. To be called in a tick,
-/// with no other handler on the stack.
+/// table, the list of patterns and the drawing resources have been loaded before, with what may be another
+/// scale. To be called in a tick, with no other handler on the stack.
 /// @param changed  told the name of a window's pattern, in EUC-JP
 void ReloadPtrnWnds(const std::function<bool(const char* name)>& changed);
+
+/// From now on the windows of a scaled panel follow a display whose size changes.
+void FollowDisplay();
 
 } // namespace tessary

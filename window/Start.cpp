@@ -5,11 +5,12 @@
 #include "window/Events.h"
 #include "window/InputMethod.h"
 #include "window/Manager.h"
+#include "window/OnDisplay.h"
 #include "window/PtrnDisp.h"
+#include "window/Reload.h"
 #include "window/Request.h"
 #include "window/Retire.h"
 
-#include <algorithm>
 #include <gtk/gtk.h>
 #include <utility>
 
@@ -36,30 +37,24 @@ void Window_Unrealize(GtkWidget* widget, CPtrnDisp*)
     DesktopMethod().release(widget);
 }
 
-GtkWidget* NewTop(GtkWidget* parent, const char* name, RECT rect)
+GtkWidget* NewTop(GtkWidget* parent, const char* name)
 {
     GtkWidget* top = gtk_window_new(GTK_WINDOW_TOPLEVEL);
     gtk_window_set_title(GTK_WINDOW(top), EucToUtf8(name).c_str());
     gtk_window_set_decorated(GTK_WINDOW(top), FALSE);
     gtk_window_set_resizable(GTK_WINDOW(top), FALSE);
     gtk_window_set_gravity(GTK_WINDOW(top), GDK_GRAVITY_STATIC);
-    // X knows no place beyond, and no larger window.
-    gtk_window_move(GTK_WINDOW(top), std::clamp(rect.left, -COORDINATE_MAX, COORDINATE_MAX),
-                    std::clamp(rect.top, -COORDINATE_MAX, COORDINATE_MAX));
     if (parent)
         gtk_window_set_transient_for(GTK_WINDOW(top), GTK_WINDOW(parent));
     return top;
 }
 
-GtkWidget* NewArea(GtkWidget* top, RECT rect)
+GtkWidget* NewArea()
 {
     GtkWidget* area = gtk_drawing_area_new();
-    gtk_widget_set_size_request(area, std::clamp(rect.width, 1, COORDINATE_MAX),
-                                std::clamp(rect.height, 1, COORDINATE_MAX));
     // The back buffer is this window's own; the toolkit's would only cost a copy.
     gtk_widget_set_double_buffered(area, FALSE);
     gtk_widget_set_app_paintable(area, TRUE);
-    gtk_container_add(GTK_CONTAINER(top), area);
     gtk_widget_show(area);
     gtk_widget_set_events(area, GDK_POINTER_MOTION_MASK | GDK_POINTER_MOTION_HINT_MASK |
                                     GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_KEY_PRESS_MASK |
@@ -178,11 +173,13 @@ void CPtrnDisp::DestroyWidget()
 void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
 {
     const HandlerScope scope;
-    GtkWidget* top = NewTop(parent, wnd->PtrnName, rect);
-    GtkWidget* area = NewArea(top, rect);
+    GtkWidget* top = NewTop(parent, wnd->PtrnName);
+    GtkWidget* area = NewArea();
+    AddArea(top, area, rect, wnd->PtrnType == KIND_APPLICATION);
     wnd->Widget = top;
     wnd->DrawArea = area;
-    wnd->Placed = {rect.left, rect.top};
+    wnd->Placed = PlaceOnDisplay(top, area, rect);
+    PaintRest(*wnd);
     wnd->Shown = false;
     wnd->Hidden = 0;
 
@@ -213,6 +210,8 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     // No background: the server would clear each newly exposed part before the back buffer is copied.
     gdk_window_set_back_pixmap(area->window, nullptr, FALSE);
     KeepUnbuffered(area->window);
+    if (CoversDisplay())
+        FollowDisplay();
     gtk_widget_show(top);
     if (!open())
         return;

@@ -1,0 +1,129 @@
+#include "draw/Scale.h"
+
+#include "base/Coord.h"
+#include "config/Profile.h"
+#include "config/Settings.h"
+#include "draw/Resource.h"
+
+#include <algorithm>
+
+namespace tessary
+{
+
+namespace
+{
+
+Scaling wanted = Scaling::Natural;
+Scale current;
+
+std::int64_t Floor(std::int64_t value, std::int64_t divisor)
+{
+    return value >= 0 ? value / divisor : -((-value + divisor - 1) / divisor);
+}
+
+std::int64_t Ceiling(std::int64_t value, std::int64_t divisor)
+{
+    return -Floor(-value, divisor);
+}
+
+Box FirstMonitor()
+{
+    GdkScreen* const screen = gdk_screen_get_default();
+    GdkRectangle area{};
+    gdk_screen_get_monitor_geometry(screen, gdk_screen_get_primary_monitor(screen), &area);
+    return {area.x, area.y, area.x + area.width, area.y + area.height};
+}
+
+/// Without the size of the panel nothing can be told of how large it may become.
+Scale NewScale()
+{
+    if (wanted == Scaling::Natural || DispSizeX < 1 || DispSizeY < 1)
+        return Scale();
+    return Scale(wanted, {DispSizeX, DispSizeY}, FirstMonitor());
+}
+
+} // namespace
+
+Scale::Scale(Scaling scaling, SIZE panel, const Box& display) : scaling_(scaling), display_(display)
+{
+    if (natural())
+        return;
+    const std::int64_t width = std::int64_t{display.right} - display.left;
+    const std::int64_t height = std::int64_t{display.bottom} - display.top;
+    const bool wide = width * panel.cy > height * panel.cx; // the height is what there is less of
+    numerator_ = std::max<std::int64_t>(1, wide ? height : width);
+    denominator_ = wide ? panel.cy : panel.cx;
+    if (scaling == Scaling::Steps) {
+        numerator_ = std::max<std::int64_t>(1, numerator_ / denominator_);
+        denominator_ = 1;
+    }
+    // A panel that is larger than the display shows its beginning.
+    const auto begin = [](std::int64_t room, int taken) { return std::max(0, Saturate((room - taken) / 2)); };
+    origin_ = {Shift(display.left, begin(width, length(panel.cx))),
+               Shift(display.top, begin(height, length(panel.cy)))};
+}
+
+int Scale::steps() const
+{
+    return std::max(1, static_cast<int>(numerator_ / denominator_));
+}
+
+int Scale::length(int panel) const
+{
+    return Saturate(Ceiling(panel * numerator_, denominator_));
+}
+
+POINT Scale::toDisplay(POINT panel) const
+{
+    return {Shift(origin_.x, length(panel.x)), Shift(origin_.y, length(panel.y))};
+}
+
+POINT Scale::toPanel(POINT display) const
+{
+    return inWindow({Shift(display.x, -origin_.x), Shift(display.y, -origin_.y)});
+}
+
+POINT Scale::inWindow(POINT display) const
+{
+    return {Saturate(Floor(display.x * denominator_, numerator_)),
+            Saturate(Floor(display.y * denominator_, numerator_))};
+}
+
+Box Scale::areaOf(const Box& panel) const
+{
+    if (whole())
+        return {length(panel.left), length(panel.top), length(panel.right), length(panel.bottom)};
+    // Pixels are blended with those beside them, before and after they are sized.
+    const auto begin = [&](int at) { return Shift(length(Shift(at, -1)), -2); };
+    const auto end = [&](int at) { return Shift(length(Shift(at, 1)), 1); };
+    return {begin(panel.left), begin(panel.top), end(panel.right), end(panel.bottom)};
+}
+
+const Scale& DisplayScale()
+{
+    return current;
+}
+
+void ScaleInit()
+{
+    wanted = ScalingOf(ProfileReadAsc(ProfName, "TESSARY", SCALE_KEY)).value_or(Scaling::Natural);
+    current = NewScale();
+}
+
+void ScaleExit()
+{
+    wanted = Scaling::Natural;
+    current = Scale();
+}
+
+bool ScaleAnew()
+{
+    const Scale before = current;
+    current = NewScale();
+    const POINT one = before.toDisplay({0, 0});
+    const POINT other = current.toDisplay({0, 0});
+    return !(before.display() == current.display()) || before.factor() != current.factor() ||
+           one.x != other.x || one.y != other.y;
+}
+
+} // namespace tessary
