@@ -70,7 +70,7 @@ int Scale::steps() const
 
 int Scale::length(int panel) const
 {
-    return Saturate(Ceiling(panel * numerator_, denominator_));
+    return Saturate(Ceiling(2 * panel * numerator_ - denominator_, 2 * denominator_));
 }
 
 POINT Scale::toDisplay(POINT panel) const
@@ -85,8 +85,10 @@ POINT Scale::toPanel(POINT display) const
 
 POINT Scale::inWindow(POINT display) const
 {
-    return {Saturate(Floor(display.x * denominator_, numerator_)),
-            Saturate(Floor(display.y * denominator_, numerator_))};
+    const auto owner = [&](std::int64_t at) {
+        return Saturate(Floor((2 * at + 1) * denominator_, 2 * numerator_));
+    };
+    return {owner(display.x), owner(display.y)};
 }
 
 Box Scale::areaOf(const Box& panel) const

@@ -11,7 +11,7 @@ namespace tessary
 {
 
 /// A way from the pixels of a panel to those of a display. A pixel of the panel owns those of the display
-/// whose left upper corner lies within it.
+/// whose middle lies within it.
 class Scale
 {
   public:

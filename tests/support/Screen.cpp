@@ -196,8 +196,7 @@ void Screen::waitShown(CPtrnDisp* wnd)
         [&] {
             const auto windows = user.windows();
             return wnd->Pixmap && std::any_of(windows.begin(), windows.end(), [&](const ScreenWindow& shown) {
-                       return shown.x == wnd->WindRect.left && shown.y == wnd->WindRect.top &&
-                              shown.title == wnd->PtrnName;
+                       return shown.title == wnd->PtrnName && isAtPlace(wnd, shown);
                    });
         },
         std::string("the window ") + wnd->PtrnName);
@@ -213,7 +212,8 @@ void Screen::tick(int count)
 
 void Screen::moveTo(const CPtrnDisp* wnd, int x, int y)
 {
-    user.move(wnd->WindRect.left + x, wnd->WindRect.top + y);
+    const POINT place = onDisplay(wnd, x, y);
+    user.move(place.x, place.y);
     user.settle();
 }
 
@@ -250,7 +250,18 @@ void Screen::type(const std::string& text)
 
 std::uint32_t Screen::pixel(const CPtrnDisp* wnd, int x, int y)
 {
-    return user.pixel(wnd->WindRect.left + x, wnd->WindRect.top + y);
+    const POINT place = onDisplay(wnd, x, y);
+    return user.pixel(place.x, place.y);
+}
+
+POINT Screen::onDisplay(const CPtrnDisp* wnd, int x, int y) const
+{
+    return {wnd->WindRect.left + x, wnd->WindRect.top + y};
+}
+
+bool Screen::isAtPlace(const CPtrnDisp* wnd, const ScreenWindow& shown) const
+{
+    return shown.x == wnd->WindRect.left && shown.y == wnd->WindRect.top;
 }
 
 std::uint32_t Screen::bufferPixel(const CPtrnDisp* wnd, int x, int y)

@@ -94,6 +94,10 @@ class Screen : public testing::Test
     void key(unsigned long symbol, std::initializer_list<unsigned long> modifiers = {});
     void type(const std::string& text);
 
+    /// Where the display shows a point of a window, and whether a window of it is the one of a pattern.
+    virtual POINT onDisplay(const CPtrnDisp* wnd, int x, int y) const;
+    virtual bool isAtPlace(const CPtrnDisp* wnd, const ScreenWindow& shown) const;
+
     /// A pixel of a window as it is on the screen.
     std::uint32_t pixel(const CPtrnDisp* wnd, int x, int y);
     /// Its back buffer, by pattern coordinates.

@@ -235,6 +235,41 @@ TEST_F(AnInputMethod, shows_what_is_composed_in_its_own_window_at_the_cursor)
     EXPECT_EQ(own.place.x, LEFT - 5);
 }
 
+namespace
+{
+
+/// On a panel of 640 x 480 that is shown twice as large, at 0,32.
+class ScaledInputMethod : public AnInputMethod
+{
+  protected:
+    void SetUp() override
+    {
+        AnInputMethod::SetUp();
+        project.set("TESSARY", "DISPSIZE", "640,480").set("TESSARY", "SCALE", "steps");
+    }
+
+    POINT onDisplay(const CPtrnDisp* wnd, int x, int y) const override
+    {
+        return {2 * (wnd->WindRect.left + x), 32 + 2 * (wnd->WindRect.top + y)};
+    }
+
+    bool isAtPlace(const CPtrnDisp*, const ScreenWindow& shown) const override { return shown.width == 1280; }
+};
+
+} // namespace
+
+TEST_F(ScaledInputMethod, shows_what_is_composed_where_the_display_has_the_cursor)
+{
+    open(fields("p").header(HEDR_LEFT, 100).header(HEDR_TOP, 50));
+    edit(TEXT);
+    EXPECT_EQ(own.client, AppliWnd->Widget->window) << "which begins where the display does";
+    EXPECT_EQ(own.place.x, 2 * (100 + LEFT));
+    EXPECT_EQ(own.place.y, 32 + 2 * (50 + top(TEXT)));
+    EXPECT_EQ(own.place.height, 2 * LINE);
+    own.commit(utf8("漢"));
+    EXPECT_EQ(own.place.x, 2 * (100 + LEFT + 2 * CELL));
+}
+
 TEST_F(AnInputMethod, tells_the_place_relative_to_the_window_that_has_the_keyboard)
 {
     know(fields("other").header(HEDR_LEFT, 500).header(HEDR_TOP, 300).header(HEDR_MODELESS, 1));
