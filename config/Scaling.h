@@ -14,9 +14,7 @@ enum class Scaling {
     Fit,     ///< enlarged or reduced to the largest size of the same proportions
 };
 
-constexpr char SCALE_KEY[] = "SCALE";
-
-/// The words of the key; without it the size is the natural one.
+/// The words of the key; without it, and for any other word, the size is the natural one.
 constexpr std::pair<const char*, Scaling> SCALING_WORDS[] = {{"steps", Scaling::Steps},
                                                              {"fit", Scaling::Fit}};
 

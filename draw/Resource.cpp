@@ -38,7 +38,7 @@ void DrawCntlInit()
     DrawCntlExit();
 
     ProfileRead(ProfName, "TESSARY", "DISPSIZE", "ii", &DispSizeX, &DispSizeY);
-    ScaleInit();
+    ScaleInit({DispSizeX, DispSizeY});
     FileRead(ProjPath, "PtrnColr", ColrData, sizeof ColrData, 0, nullptr, 0);
     FileRead(ProjPath, "PtrnMark", MarkData, sizeof MarkData, 0, nullptr, 0);
     MarkDataSet();

@@ -3,9 +3,9 @@
 #include "base/Coord.h"
 #include "config/Profile.h"
 #include "config/Settings.h"
-#include "draw/Resource.h"
 
 #include <algorithm>
+#include <gdk/gdk.h>
 
 namespace tessary
 {
@@ -14,6 +14,7 @@ namespace
 {
 
 Scaling wanted = Scaling::Natural;
+SIZE panelSize{};
 Scale current;
 
 std::int64_t Floor(std::int64_t value, std::int64_t divisor)
@@ -37,9 +38,9 @@ Box FirstMonitor()
 /// Without the size of the panel nothing can be told of how large it may become.
 Scale NewScale()
 {
-    if (wanted == Scaling::Natural || DispSizeX < 1 || DispSizeY < 1)
+    if (wanted == Scaling::Natural || panelSize.cx < 1 || panelSize.cy < 1)
         return Scale();
-    return Scale(wanted, {DispSizeX, DispSizeY}, FirstMonitor());
+    return Scale(wanted, panelSize, FirstMonitor());
 }
 
 } // namespace
@@ -70,7 +71,7 @@ int Scale::steps() const
 
 int Scale::length(int panel) const
 {
-    return Saturate(Ceiling(2 * panel * numerator_ - denominator_, 2 * denominator_));
+    return Saturate(Ceiling(2 * (panel * numerator_) - denominator_, 2 * denominator_));
 }
 
 POINT Scale::toDisplay(POINT panel) const
@@ -106,9 +107,10 @@ const Scale& DisplayScale()
     return current;
 }
 
-void ScaleInit()
+void ScaleInit(SIZE panel)
 {
-    wanted = ScalingOf(ProfileReadAsc(ProfName, "TESSARY", SCALE_KEY)).value_or(Scaling::Natural);
+    panelSize = panel;
+    wanted = ScalingOf(ProfileReadAsc(ProfName, "TESSARY", "SCALE")).value_or(Scaling::Natural);
     current = NewScale();
 }
 

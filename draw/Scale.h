@@ -54,9 +54,9 @@ class Scale
 /// That of the running project: natural until ScaleInit, and after ScaleExit.
 const Scale& DisplayScale();
 
-/// Takes the scale from profile key "SCALE", DispSizeX, DispSizeY and the display: the monitor that comes
-/// first.
-void ScaleInit();
+/// Takes the scale from profile key "SCALE" and the display, of which it is the monitor that comes first.
+/// @param panel  its size; without one there is no scale
+void ScaleInit(SIZE panel);
 void ScaleExit();
 /// Takes it anew for a display that has changed. @return whether it is another one
 bool ScaleAnew();

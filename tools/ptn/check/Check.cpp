@@ -29,7 +29,7 @@ int Check(const fs::path& folder, const std::string& registry, Diagnostics& diag
     const bool compiled = IsCompiled(folder);
     if (compiled) {
         read = ReadCompiled(folder, diagnostics);
-        read.project.profile.checkEdition(diagnostics);
+        read.project.profile.checkLines(diagnostics);
     } else {
         read.project = ReadProject(folder, diagnostics);
         ScreenSet screens = ReadScreens(folder, read.project, diagnostics);

@@ -24,14 +24,15 @@ struct KnownKey {
 constexpr int ANY = std::numeric_limits<int>::max();
 
 const KnownKey KEYS[] = {
-    {"TESSARY", "PROJECT", false, 1, false, 0},     {"TESSARY", "EDITION", false, 1, true, ANY},
-    {"TESSARY", "DISPSIZE", false, 2, true, 32767}, {"TESSARY", "WAITTIMER", false, 1, true, ANY},
-    {"TESSARY", "SHUTDOWN", false, 1, true, ANY},   {"PTRN", "PTRNSTART", false, 1, false, 0},
-    {"PTRN", "PTRNSTOP", false, 1, false, 0},       {"LOG", "LOGFILE", false, 1, false, 0},
-    {"LOG", "LOGTIMR", false, 1, true, ANY},        {"LOG", "LOGSIZE", false, 1, true, ANY},
-    {"LOG", "LOGSAVE", false, 1, true, ANY},        {"FONT", "LANGUAGE", false, 1, true, 2},
-    {"FONT", "FONTNAME", true, 1, false, 0},        {"COLOR", "CURSOR_FG", false, 3, true, 65535},
-    {"COLOR", "CURSOR_BG", false, 3, true, 65535},  {"COLOR", "XPM_COLR", true, 3, false, 0},
+    {"TESSARY", "PROJECT", false, 1, false, 0},    {"TESSARY", "EDITION", false, 1, true, ANY},
+    {"TESSARY", "SCALE", false, 1, false, 0},      {"TESSARY", "DISPSIZE", false, 2, true, 32767},
+    {"TESSARY", "WAITTIMER", false, 1, true, ANY}, {"TESSARY", "SHUTDOWN", false, 1, true, ANY},
+    {"PTRN", "PTRNSTART", false, 1, false, 0},     {"PTRN", "PTRNSTOP", false, 1, false, 0},
+    {"LOG", "LOGFILE", false, 1, false, 0},        {"LOG", "LOGTIMR", false, 1, true, ANY},
+    {"LOG", "LOGSIZE", false, 1, true, ANY},       {"LOG", "LOGSAVE", false, 1, true, ANY},
+    {"FONT", "LANGUAGE", false, 1, true, 2},       {"FONT", "FONTNAME", true, 1, false, 0},
+    {"COLOR", "CURSOR_FG", false, 3, true, 65535}, {"COLOR", "CURSOR_BG", false, 3, true, 65535},
+    {"COLOR", "XPM_COLR", true, 3, false, 0},
 };
 
 bool IsCalled(const KnownKey& known, const std::string& name)
@@ -111,6 +112,16 @@ void CheckName(const ProfileSource::Key& key, Diagnostics& diagnostics)
                                                key.section, meant.empty() ? section : meant));
 }
 
+// What is scaled has a size.
+void CheckScale(const ProjectSource& project, Diagnostics& diagnostics)
+{
+    Place place;
+    if (project.profile.scaled(&place) && !DisplaySize(project))
+        diagnostics.error(place,
+                          "the panel is scaled to its display, but the profile does not tell its own size. "
+                          "Set 'DISPSIZE: [WIDTH, HEIGHT]' in its section 'TESSARY'.");
+}
+
 } // namespace
 
 void CheckProfile(const ProjectSource& project, Diagnostics& diagnostics)
@@ -122,6 +133,7 @@ void CheckProfile(const ProjectSource& project, Diagnostics& diagnostics)
         else
             CheckName(key, diagnostics);
     }
+    CheckScale(project, diagnostics);
 }
 
 std::optional<SIZE> DisplaySize(const ProjectSource& project)

@@ -85,21 +85,21 @@ void CheckDisplay(const Pattern& pattern, const ProjectSource& project, Diagnost
         return;
     const int width = window[HEDR_WIDTH];
     const int height = window[HEDR_HEIGHT];
+    // Only as much as the panel has is scaled to the display.
+    const char* const room = project.profile.scaled() ? "the panel that is scaled" : "the display";
     const bool placed = window[HEDR_KIND] == FRAMED && !window[HEDR_REMEMBER];
     const long long left = placed ? window[HEDR_LEFT] : 0;
     const long long top = placed ? window[HEDR_TOP] : 0;
     if (width > display->cx || height > display->cy)
-        diagnostics.error(
-            pattern.place,
-            fmt::format("its window of {} x {} pixels is larger than the display, DISPSIZE, of {} x "
-                        "{}. Make it smaller.",
-                        width, height, display->cx, display->cy));
+        diagnostics.error(pattern.place,
+                          fmt::format("its window of {} x {} pixels is larger than {}, DISPSIZE, of {} x "
+                                      "{}. Make it smaller.",
+                                      width, height, room, display->cx, display->cy));
     else if (left < 0 || top < 0 || left + width > display->cx || top + height > display->cy)
-        diagnostics.error(
-            pattern.place,
-            fmt::format("its window of {} x {} pixels at {},{} opens beyond the display, DISPSIZE, of "
-                        "{} x {}. Move it.",
-                        width, height, left, top, display->cx, display->cy));
+        diagnostics.error(pattern.place,
+                          fmt::format("its window of {} x {} pixels at {},{} opens beyond {}, DISPSIZE, of "
+                                      "{} x {}. Move it.",
+                                      width, height, left, top, room, display->cx, display->cy));
 }
 
 } // namespace

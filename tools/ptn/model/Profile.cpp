@@ -3,6 +3,7 @@
 #include "base/EucText.h"
 #include "config/Edition.h"
 #include "config/ProfileText.h"
+#include "config/Scaling.h"
 #include "tools/ptn/common/EucName.h"
 #include "tools/ptn/common/Names.h"
 #include "tools/ptn/yaml/YamlText.h"
@@ -24,7 +25,27 @@ const std::string DIR_MARK = "@DIR@/";
 const std::string WINDOW_SECTION = "WINDOW";
 const std::string FONT_KEY = "FONTNAME";
 const std::string PROGRAM_SECTION = "TESSARY";
-const std::string EDITION_KEY = "EDITION";
+
+/// A key that has a section of its own in the sources, with a name of its own.
+struct OwnLine {
+    const char* section;
+    const char* key;
+};
+constexpr OwnLine EDITION = {"edition", "EDITION"};
+constexpr OwnLine SCALE = {"scale", "SCALE"};
+constexpr OwnLine OWN_LINES[] = {EDITION, SCALE};
+
+const OwnLine* LineOfKey(const std::string& key)
+{
+    const auto* found = std::find_if(std::begin(OWN_LINES), std::end(OWN_LINES),
+                                     [&](const OwnLine& line) { return key == line.key; });
+    return found == std::end(OWN_LINES) ? nullptr : found;
+}
+
+const OwnLine& LineCalled(const std::string& section)
+{
+    return section == EDITION.section ? EDITION : SCALE;
+}
 
 bool IsName(const std::string& name)
 {
@@ -60,6 +81,12 @@ std::optional<int> KnownEdition(const std::string& text)
     return std::nullopt;
 }
 
+/// Whether a key of a compiled profile can be a line of its own again.
+bool IsKnown(const OwnLine& line, const std::string& value)
+{
+    return line.key == EDITION.key ? KnownEdition(value).has_value() : ScalingOf(value).has_value();
+}
+
 } // namespace
 
 void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
@@ -76,15 +103,18 @@ void ProfileSource::read(const Source& section, Diagnostics& diagnostics)
         for (const Entry& entry : Entries(part.value, "profile section " + Quoted(part.name), diagnostics))
             readKey(part.name, entry, diagnostics);
     }
-    checkEdition(diagnostics);
+    checkLines(diagnostics);
 }
 
 void ProfileSource::readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics)
 {
     const Subject what = "profile key " + Quoted(entry.name);
-    if (edition_ && section == edition_->section && entry.name == edition_->name) {
-        diagnostics.error(entry.place, what, " is what 'edition' is in {}:{}. Remove this one.",
-                          edition_->place.file, edition_->place.line);
+    const OwnLine* const line = section == PROGRAM_SECTION ? LineOfKey(entry.name) : nullptr;
+    const auto own = line ? lines_.find(line->section) : lines_.end();
+    if (line && own != lines_.end()) {
+        const Place& place = own->second.place;
+        diagnostics.error(entry.place, what, " is what '{}' is in {}:{}. Remove this one.", line->section,
+                          place.file, place.line);
         return;
     }
     if (!IsName(entry.name)) {
@@ -125,20 +155,27 @@ const ProfileSource::Key* ProfileSource::find(const std::string& section, const 
     return place == keys_.end() ? nullptr : &*place;
 }
 
-void ProfileSource::readEdition(const Source& section, Diagnostics& diagnostics)
+void ProfileSource::readLine(const std::string& name, const Source& section, Diagnostics& diagnostics)
 {
-    edition_ = Key{PROGRAM_SECTION, EDITION_KEY, Utf8ToEuc(section.text()), section.place()};
-    checkEdition(diagnostics);
+    lines_[name] = Key{PROGRAM_SECTION, LineCalled(name).key, Utf8ToEuc(section.text()), section.place()};
+    checkLines(diagnostics);
 }
 
-const ProfileSource::Key* ProfileSource::editionKey() const
+const ProfileSource::Key* ProfileSource::lineKey(const std::string& name) const
 {
-    return edition_ ? &*edition_ : find(PROGRAM_SECTION, EDITION_KEY);
+    const auto own = lines_.find(name);
+    return own != lines_.end() ? &own->second : find(PROGRAM_SECTION, LineCalled(name).key);
+}
+
+void ProfileSource::checkLines(Diagnostics& diagnostics) const
+{
+    checkEdition(diagnostics);
+    checkScale(diagnostics);
 }
 
 void ProfileSource::checkEdition(Diagnostics& diagnostics) const
 {
-    const Key* key = editionKey();
+    const Key* key = lineKey(EDITION.section);
     if (key && !KnownEdition(key->value))
         diagnostics.error(key->place,
                           fmt::format("there is no edition '{}'. Write a number from 1 to {}; 'ptn help "
@@ -146,10 +183,33 @@ void ProfileSource::checkEdition(Diagnostics& diagnostics) const
                                       EucToUtf8(key->value), LATEST_EDITION));
 }
 
+void ProfileSource::checkScale(Diagnostics& diagnostics) const
+{
+    const Key* key = lineKey(SCALE.section);
+    if (!key || ScalingOf(key->value))
+        return;
+    std::vector<std::string> words;
+    for (const auto& known : SCALING_WORDS)
+        words.emplace_back(known.first);
+    const std::string word = EucToUtf8(key->value);
+    diagnostics.error(
+        key->place, fmt::format("there is no scale '{}'.{} Write 'steps' to enlarge the panel by whole "
+                                "numbers, or 'fit' to fill its display; without the line it keeps its size.",
+                                word, Suggestion(word, words)));
+}
+
 int ProfileSource::edition() const
 {
-    const Key* key = editionKey();
+    const Key* key = lineKey(EDITION.section);
     return key ? KnownEdition(key->value).value_or(1) : 1;
+}
+
+bool ProfileSource::scaled(Place* place) const
+{
+    const Key* key = lineKey(SCALE.section);
+    if (key && place)
+        *place = key->place;
+    return key && ScalingOf(key->value);
 }
 
 void ProfileSource::checkPatterns(const std::set<std::string>& patterns, Diagnostics& diagnostics) const
@@ -170,12 +230,12 @@ std::string ProfileSource::bytes(const std::string& folder, const std::string& p
     std::vector<Key> keys = keys_;
     if (!find(PROGRAM_SECTION, "PROJECT"))
         keys.insert(keys.begin(), {PROGRAM_SECTION, "PROJECT", DIR_MARK + project, {}});
-    if (edition_) {
-        const auto isProject = [](const Key& key) {
-            return key.section == PROGRAM_SECTION && key.name == "PROJECT";
-        };
-        keys.insert(std::next(std::find_if(keys.begin(), keys.end(), isProject)), *edition_);
-    }
+    const auto isProject = [](const Key& key) {
+        return key.section == PROGRAM_SECTION && key.name == "PROJECT";
+    };
+    auto place = std::next(std::find_if(keys.begin(), keys.end(), isProject));
+    for (const auto& line : lines_)
+        place = std::next(keys.insert(place, line.second));
     for (int language = 0; language < 3; ++language)
         for (int font = 0; font < CONT_FONT; ++font)
             if (const std::string& name = resources.fontNames(font).at(language); !name.empty())
@@ -224,6 +284,7 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
             const int font = section.name == "FONT" && key.name.compare(0, FONT_KEY.size(), FONT_KEY) == 0
                                  ? ParseInteger(key.name.substr(FONT_KEY.size())).value_or(-1)
                                  : -1;
+            const OwnLine* const line = section.name == PROGRAM_SECTION ? LineOfKey(key.name) : nullptr;
             std::string value = key.value;
             if (value.compare(0, folder.size() + 1, folder + "/") == 0)
                 value = DIR_MARK + value.substr(folder.size() + 1);
@@ -231,8 +292,8 @@ std::map<int, std::string> ProfileSource::load(const std::string& bytes, const s
                              value == DIR_MARK + project;
             if (font >= 0 && font < 3 * FONTS_PER_LANGUAGE)
                 fonts[font] = key.value;
-            else if (section.name == PROGRAM_SECTION && key.name == EDITION_KEY && KnownEdition(value))
-                edition_ = Key{section.name, key.name, value, {file, key.line}};
+            else if (line && IsKnown(*line, value))
+                lines_[line->section] = Key{section.name, key.name, value, {file, key.line}};
             else if (!own)
                 keys_.push_back({section.name, key.name, value, {file, key.line}});
         }
@@ -245,9 +306,10 @@ void ProfileSource::keepFont(int number, const std::string& name)
     keys_.push_back({"FONT", FONT_KEY + std::to_string(number), name, {}});
 }
 
-std::string ProfileSource::editionYaml() const
+std::string ProfileSource::lineYaml(const std::string& name) const
 {
-    return edition_ ? fmt::format("edition: {}\n\n", edition_->value) : "";
+    const auto own = lines_.find(name);
+    return own != lines_.end() ? fmt::format("{}: {}\n\n", name, own->second.value) : "";
 }
 
 std::string ProfileSource::yaml() const

@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <map>
-#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -22,14 +21,18 @@ class ProfileSource
     /// of one key. "@DIR@/" at the start of a value stands for the folder that the profile lies in.
     void read(const Source& section, Diagnostics& diagnostics);
 
-    /// Puts in the section "edition" of the sources, which is a key of the profile.
-    void readEdition(const Source& section, Diagnostics& diagnostics);
+    /// Puts in a section of the sources that is a key of the profile by another name, since it decides what
+    /// the screens do: "edition" or "scale".
+    void readLine(const std::string& name, const Source& section, Diagnostics& diagnostics);
 
-    /// Reports an edition that this framework does not know, wherever the profile has it from.
-    void checkEdition(Diagnostics& diagnostics) const;
+    /// Reports an edition or a scale that this framework does not know, wherever the profile has it from.
+    void checkLines(Diagnostics& diagnostics) const;
 
     /// The project's edition; 1 where the profile names none, or none that there is.
     int edition() const;
+
+    /// Whether the panel is scaled to its display. @param place  receives where the profile says so
+    bool scaled(Place* place = nullptr) const;
 
     /// Checks that the patterns which the program opens by itself exist.
     /// @param patterns  names of the project's patterns in EUC-JP
@@ -52,8 +55,8 @@ class ProfileSource
                                     const std::string& project, const std::string& file);
     /// Keeps a font name as a plain key.
     void keepFont(int number, const std::string& name);
-    /// The sections "edition", empty where the profile names none, and "profile".
-    std::string editionYaml() const;
+    /// A section that is a key by another name, empty where the profile has no such line, and "profile".
+    std::string lineYaml(const std::string& name) const;
     std::string yaml() const;
 
     /// The value of a key in EUC-JP, empty when it is missing, and where it stands.
@@ -71,11 +74,13 @@ class ProfileSource
   private:
     void readKey(const std::string& section, const Entry& entry, Diagnostics& diagnostics);
     const Key* find(const std::string& section, const std::string& name) const;
-    const Key* editionKey() const;
+    const Key* lineKey(const std::string& name) const;
+    void checkEdition(Diagnostics& diagnostics) const;
+    void checkScale(Diagnostics& diagnostics) const;
 
     std::vector<std::string> sections_;
     std::vector<Key> keys_;
-    std::optional<Key> edition_; ///< where it stands on its own
+    std::map<std::string, Key> lines_; ///< those that stand on their own, by the names of their sections
 };
 
 } // namespace ptn

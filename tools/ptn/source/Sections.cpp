@@ -30,18 +30,30 @@ class ProgramSection : public Section
 };
 
 // A key of the profile with a name of its own, since it decides what the screens do.
-class EditionSection : public Section
+class LineSection : public Section
 {
   public:
-    EditionSection() : Section("edition", nullptr, ProjectFile::None) {}
+    explicit LineSection(const char* name) : Section(name, nullptr, ProjectFile::None) {}
     void read(P& to, const SectionSource& from) const override
     {
-        to.profile.readEdition(from.value(), from.diagnostics);
+        to.profile.readLine(name(), from.value(), from.diagnostics);
     }
     void emit(const P& of, FileMap& sources) const override
     {
-        sources["project.yaml"] += of.profile.editionYaml();
+        sources["project.yaml"] += of.profile.lineYaml(name());
     }
+};
+
+class EditionSection : public LineSection
+{
+  public:
+    EditionSection() : LineSection("edition") {}
+};
+
+class ScaleSection : public LineSection
+{
+  public:
+    ScaleSection() : LineSection("scale") {}
 };
 
 class CodeSection : public Section
@@ -283,9 +295,9 @@ template <class... Row> Rows RowsOf()
 // Made when it is needed first, which may be a registration before main.
 Rows& Table()
 {
-    static Rows rows = RowsOf<ProgramSection, EditionSection, CodeSection, ColorSection, FontSection,
-                              MarkSection, StyleSection, GroupSection, ProfileSection, MessageSection,
-                              LimitSection, FlagSection, LinkSection, RegistrySection>();
+    static Rows rows = RowsOf<ProgramSection, EditionSection, ScaleSection, CodeSection, ColorSection,
+                              FontSection, MarkSection, StyleSection, GroupSection, ProfileSection,
+                              MessageSection, LimitSection, FlagSection, LinkSection, RegistrySection>();
     return rows;
 }
 
