@@ -34,6 +34,43 @@ struct Target {
     Box visible; ///< the part that can be drawn on
 };
 
+/// Whether a colour of the display has more than the eight bits that the toolkit's own images know.
+bool IsDeep()
+{
+    return gdk_visual_get_system()->red_prec > 8;
+}
+
+/// A copy of an image on which every pixel is either opaque or not there. @param least  alpha of the opaque
+/// ones
+PixbufPtr Decided(GdkPixbuf* image, int least)
+{
+    PixbufPtr copy(gdk_pixbuf_copy(image));
+    if (!copy || !gdk_pixbuf_get_has_alpha(copy.get()))
+        return copy;
+    guchar* row = gdk_pixbuf_get_pixels(copy.get());
+    for (int y = 0; y < gdk_pixbuf_get_height(copy.get()); ++y, row += gdk_pixbuf_get_rowstride(copy.get()))
+        for (int x = 0; x < gdk_pixbuf_get_width(copy.get()); ++x)
+            row[4 * x + 3] = row[4 * x + 3] >= least ? 255 : 0;
+    return copy;
+}
+
+/// The same as below for displays of ten bits a colour.
+void PutDeep(const Target& target, GdkPixbuf* part, int x, int y, Alpha alpha)
+{
+    PixbufPtr decided;
+    if (alpha != Alpha::Blended)
+        decided = Decided(part, alpha == Alpha::OneBit ? 255 : 0);
+    GdkPixbuf* const image = decided ? decided.get() : part;
+    cairo_t* const context = gdk_cairo_create(target.window);
+    const Box& visible = target.visible;
+    cairo_rectangle(context, visible.left, visible.top, visible.right - visible.left,
+                    visible.bottom - visible.top);
+    cairo_clip(context);
+    gdk_cairo_set_source_pixbuf(context, image, x, y);
+    cairo_paint(context);
+    cairo_destroy(context);
+}
+
 void PutPixels(const Target& target, GdkPixbuf* image, int x, int y)
 {
     const auto put = gdk_pixbuf_get_has_alpha(image) ? gdk_draw_rgb_32_image : gdk_draw_rgb_image;
@@ -60,7 +97,9 @@ void PutOpaquePixels(const Target& target, GdkPixbuf* image, int x, int y)
 
 void PutPart(const Target& target, GdkPixbuf* part, int x, int y, Alpha alpha)
 {
-    if (alpha == Alpha::OneBit)
+    if (IsDeep())
+        PutDeep(target, part, x, y, alpha);
+    else if (alpha == Alpha::OneBit)
         PutOpaquePixels(target, part, x, y);
     else if (alpha == Alpha::Blended && gdk_pixbuf_get_has_alpha(part))
         gdk_draw_pixbuf(target.window, target.gc, part, 0, 0, x, y, -1, -1, GDK_RGB_DITHER_NONE, 0, 0);

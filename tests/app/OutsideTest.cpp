@@ -1,6 +1,7 @@
 // What other programs of the display, the display and the system do to the real program.
 #include "tests/app/Outside.h"
 #include "tests/app/Panel.h"
+#include "tests/support/OtherServer.h"
 
 #include <csignal>
 #include <cstdlib>
