@@ -4,8 +4,8 @@
 #include "config/Edition.h"
 #include "config/Settings.h"
 #include "dialogs/BoxPlace.h"
-#include "log/Guard.h"
 #include "draw/Scale.h"
+#include "log/Guard.h"
 
 #include <algorithm>
 #include <cmath>

@@ -48,6 +48,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtk2.0-dev libxss-dev libsys
     libcli11-dev libfmt-dev libmodbus-dev libmosquitto-dev nlohmann-json3-dev)
 RUN_PACKAGES=(locales xfonts-base xfonts-intl-japanese xfonts-intl-japanese-big fonts-droid-fallback)
 HEADLESS_PACKAGES=(xvfb xdotool scrot)
+FUZZ_PACKAGES=(clang libclang-rt-dev llvm xvfb)
 TEST_PACKAGES=(libgtest-dev libgmock-dev libxtst-dev libxfixes-dev libxrandr-dev libxres-dev libncurses-dev clang
     xvfb openbox clang-format clang-tidy git mosquitto mosquitto-clients python3-pymodbus python3-serial python3-serial-asyncio socat mbpoll openssl)
 

@@ -1,6 +1,5 @@
 // The toolkit window of a pattern window.
 #include "base/EucText.h"
-#include "base/Limits.h"
 #include "log/Guard.h"
 #include "window/Events.h"
 #include "window/InputMethod.h"
