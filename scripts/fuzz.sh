@@ -93,7 +93,7 @@ for name in "${targets[@]}"; do
     took=$(grep -aoE 'Done [0-9]+ runs in [0-9]+' "$out" | grep -oE '[0-9]+$' || echo '-')
     finding=none
     if [ "$took" = - ]; then
-        finding=$(grep -aoE "(SUMMARY: .*|BROKEN PROMISE: .*)" "$out" | tail -n 1)
+        finding=$(grep -aoE '(SUMMARY: |BROKEN PROMISE: |ERROR \*\*: ).*' "$out" | tail -n 1 || true)
         status=1
     fi
     printf '%-14s %9s %12s %9s %7s %7s %7s  %s\n' "$name" "$took" "$executions" "$rate" "$(figure 'cov: [0-9]+')" \
