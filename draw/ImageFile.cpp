@@ -6,7 +6,9 @@
 #include "log/Logfile.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -60,6 +62,19 @@ std::size_t BytesOf(const PixbufPtr& image)
     return image ? gdk_pixbuf_get_byte_length(image.get()) : 0;
 }
 
+/// Whether the file is a BMP whose pixels begin behind its end. The decoder makes room for all that would
+/// stand before them, up to 4 GB, before it knows how large the picture is.
+bool IsBeyond(std::string_view start, const std::string& path)
+{
+    constexpr std::size_t place = 10; // of the number that tells
+    std::uint32_t pixels = 0;
+    if (start.substr(0, 2) != "BM" || start.size() < place + sizeof pixels)
+        return false;
+    std::memcpy(&pixels, start.data() + place, sizeof pixels);
+    struct stat status = {};
+    return stat(path.c_str(), &status) != 0 || pixels > status.st_size;
+}
+
 /// The formats that a panel needs, by how their files begin. Nothing else reaches a decoder, of which the
 /// toolkit has many: some ask for gigabytes for a file of a few bytes.
 bool HasImageFormat(const std::string& path)
@@ -71,9 +86,10 @@ bool HasImageFormat(const std::string& path)
     std::ifstream file(path, std::ios::binary);
     file.read(bytes, sizeof bytes);
     const std::string_view start(bytes, static_cast<std::size_t>(file.gcount()));
-    return std::any_of(std::begin(BEGINNINGS), std::end(BEGINNINGS), [&](std::string_view beginning) {
-        return start.substr(0, beginning.size()) == beginning;
-    });
+    return !IsBeyond(start, path) &&
+           std::any_of(std::begin(BEGINNINGS), std::end(BEGINNINGS), [&](std::string_view beginning) {
+               return start.substr(0, beginning.size()) == beginning;
+           });
 }
 
 PixbufPtr Shared(const PixbufPtr& image)

@@ -18,11 +18,18 @@
 #include <unistd.h>
 #include <vector>
 
-// The name is the sanitizer's.
+// The names are the sanitizers'.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions()
 {
     return LEAK_SUPPRESSIONS;
+}
+
+/// No input is worth more memory at a time than the largest picture takes, about twice.
+extern "C" const char* __asan_default_options();
+extern "C" const char* __asan_default_options()
+{
+    return "max_allocation_size_mb=1024";
 }
 
 namespace fuzz

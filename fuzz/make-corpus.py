@@ -93,6 +93,8 @@ server:
 
 def build(ptn, source, work):
     subprocess.run([ptn, "build", "-q", source, work / "ProjPath"], check=True)
+    for profile in work.glob("*.ini"):  # names the folder
+        profile.write_bytes(profile.read_bytes().replace(os.fsencode(work), b"/plant"))
     return work / "ProjPath"
 
 
@@ -157,7 +159,7 @@ def main():
                 ["project.yaml", "links.yaml", "look.yaml", "screens/station.yaml", "screens/stop.yaml"])
         sources("popup", ROOT / "project",
                 ["project.yaml", "codes.yaml", "colors.yaml", "styles.yaml", "groups.yaml", "wiring.csv",
-                 "screens/popup.yaml", "screens/graphs.yaml"])
+                 "screens/popup.yaml"])
         put("sources", "pictures", pack([
             ("project.yaml", b"codes: { A: 5 }\ncolors: { a: '#000000', b: { no: 50, rgb: '#FF8000' } }\n"
              b"marks: { m: { no: 100, image: m.png }, n: { no: 0, art: \"X.X\\n.X.\" } }\n"

@@ -22,7 +22,7 @@ void Press(CPtrnData& data, PTRNDATA item)
         data.LButtonDown(point, &pressed);
         for (int tick = 0; tick < REPEATTIMER1 + REPEATTIMER2 + 1; ++tick)
             data.ReptPtrnData(&pressed);
-        data.MouseMove({point.x + 1, point.y - 1});
+        data.MouseMove({point.x ^ 1, point.y ^ 1});
         data.LButtonUp();
     }
     data.WheelToScroll(0, &item);

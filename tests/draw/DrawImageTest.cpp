@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -503,6 +504,32 @@ TEST_F(DrawBmap, of_a_file_with_too_many_pixels_draws_nothing)
 {
     project.write("Bitmap/huge.pbm", "P4\n10008 10000\n" + std::string(10008 / 8 * 10000, '\0'));
     canvas->DrawBmap(0, 0, 12, 10, NONE, "huge.pbm");
+    EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
+}
+
+/// Most address space that the process has had so far, in KiB.
+long mostMemory()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;)
+        if (word == "VmPeak:") {
+            long size = 0;
+            status >> size;
+            return size;
+        }
+    return -1;
+}
+
+TEST_F(DrawBmap, of_a_file_whose_pixels_begin_beyond_its_end_takes_no_memory_for_what_is_not_there)
+{
+    // The offset of the pixels, at 10, is 2 GB.
+    project.write("Bitmap/far.bmp",
+                  std::string("BM\x86\0\0\0\0\0\0\0\0\0\0\x80\x28\0\0\0\5\0\0\0\5\0\0\0\1\0\x18\0", 30) +
+                      std::string(100, '\0'));
+    const long before = mostMemory();
+    ASSERT_GT(before, 0);
+    canvas->DrawBmap(0, 0, 12, 10, NONE, "far.bmp");
+    EXPECT_LT(mostMemory() - before, 1024 * 1024);
     EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
 }
 

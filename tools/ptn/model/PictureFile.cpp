@@ -102,7 +102,8 @@ bool IsCutOff(const PictureHead& head, const std::string& bytes)
         return bytes.find_last_not_of('\0') == std::string::npos ||
                bytes[bytes.find_last_not_of('\0')] != ';';
     if (format == "bmp")
-        return Head(bytes).low(2, 4) > static_cast<long long>(bytes.size());
+        // Its size, and where its pixels begin: the decoder makes room for all that would stand before them.
+        return std::max(Head(bytes).low(2, 4), Head(bytes).low(10, 4)) > static_cast<long long>(bytes.size());
     return format == "xpm" && bytes.find("};") == std::string::npos;
 }
 
