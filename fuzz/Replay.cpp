@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr unsigned SEED = 20261122;
-constexpr std::size_t LONGEST = 64 * 1024;
+constexpr std::size_t LONGEST = std::size_t{64} * 1024;
 
 std::string Read(const fs::path& path)
 {

@@ -154,7 +154,7 @@ std::int32_t Input::number()
 
 std::string Input::text()
 {
-    const std::string value(rest_.substr(0, rest_.find('\0')));
+    std::string value(rest_.substr(0, rest_.find('\0')));
     rest_.remove_prefix(std::min(value.size() + 1, rest_.size()));
     return value;
 }

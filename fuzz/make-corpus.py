@@ -3,7 +3,7 @@
 
 Usage: fuzz/make-corpus.py [PTN]      PTN: the authoring tool, by default build-sanitize/ptn
 """
-import os, shutil, struct, subprocess, sys, tempfile, zlib
+import os, struct, subprocess, sys, tempfile, zlib
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -184,7 +184,6 @@ def main():
             ("MesgData.prf", b"[MESGDATA]\nMESG1=A,1,one,two,three\n"),
             ("LimtData.prf", b"[LIMTDATA]\nLIMT1=A,4,0,3F80,4120,1,2\n"),
             ("Bitmap/x.png", PICTURES["rgb.png"]), ("a.ptn", (station / "Stop.ptn").read_bytes())]))
-    shutil.rmtree(CORPUS / "__pycache__", ignore_errors=True)
 
 
 main()

@@ -4,7 +4,8 @@ set -euo pipefail
 
 usage() {
     cat <<'TEXT'
-Usage: scripts/tour.sh [--help] [--program COMMAND] [--way FILE] [--windows NAMES] FOLDER
+Usage: scripts/tour.sh [--help] [--program COMMAND] [--way FILE] [--windows NAMES]
+                       [--seconds NUMBER] FOLDER
 
 Runs a panel on a virtual screen, goes the way through its screens that a file tells, and saves the pictures of it
 in FOLDER. The way ends with the panel's stop button.
@@ -12,6 +13,7 @@ in FOLDER. The way ends with the panel's stop button.
   --program COMMAND  what runs the panel (default: ./panel, in build/)
   --way FILE         the way; project/tour.txt, which is the default, tells how such a file is written
   --windows NAMES    pictures, such as popup,stop, that show the window in front only, instead of the whole screen
+  --seconds NUMBER   how long each step may take (20)
 TEXT
 }
 
@@ -21,6 +23,7 @@ here=$(cd "$(dirname "$0")/.." && pwd)
 program="env --chdir=$here/build ./panel"
 way=$here/project/tour.txt
 windows_only=
+patience=20
 shots=
 while [ $# -gt 0 ]; do
     case $1 in
@@ -28,12 +31,13 @@ while [ $# -gt 0 ]; do
         usage
         exit 0
         ;;
-    --program | --way | --windows)
+    --program | --way | --windows | --seconds)
         [ $# -ge 2 ] || { usage >&2; exit 2; }
         case $1 in
         --program) program=$2 ;;
         --way) way=$2 ;;
         --windows) windows_only=$2 ;;
+        --seconds) patience=$2 ;;
         esac
         shift
         ;;
@@ -59,9 +63,9 @@ finish() {
 }
 trap finish EXIT
 
-# until_done WHAT COMMAND...: repeats the command until it succeeds, for twenty seconds at most.
+# until_done WHAT COMMAND...: repeats the command until it succeeds, as long as a step may take.
 until_done() {
-    local what=$1 end=$((SECONDS + 20))
+    local what=$1 end=$((SECONDS + patience))
     shift
     until "$@"; do
         kill -0 "$panel" 2>/dev/null || fail "the panel ended while it was to $what; see its log"
@@ -149,7 +153,7 @@ while read -r name x y; do
     save "$name"
 done <"$way"
 
-end=$((SECONDS + 20))
+end=$((SECONDS + patience))
 while kill -0 "$panel" 2>/dev/null; do
     [ $SECONDS -lt $end ] || fail "the panel did not stop after its stop button was pressed"
     sleep 0.1
