@@ -62,17 +62,22 @@ std::size_t BytesOf(const PixbufPtr& image)
     return image ? gdk_pixbuf_get_byte_length(image.get()) : 0;
 }
 
-/// Whether the file is a BMP whose pixels begin behind its end. The decoder makes room for all that would
-/// stand before them, up to 4 GB, before it knows how large the picture is.
+/// Whether the file is a BMP whose header or pixels lie behind its end. The decoder makes room for all that
+/// would stand before them, up to 4 GB, before it knows how large the picture is.
 bool IsBeyond(std::string_view start, const std::string& path)
 {
-    constexpr std::size_t place = 10; // of the number that tells
-    std::uint32_t pixels = 0;
-    if (start.substr(0, 2) != "BM" || start.size() < place + sizeof pixels)
-        return false;
-    std::memcpy(&pixels, start.data() + place, sizeof pixels);
     struct stat status = {};
-    return stat(path.c_str(), &status) != 0 || pixels > status.st_size;
+    if (start.substr(0, 2) != "BM" || stat(path.c_str(), &status) != 0)
+        return false;
+    for (const std::size_t place : {10, 14}) { // where the pixels begin; size of the second header
+        std::uint32_t number = 0;
+        if (start.size() < place + sizeof number)
+            return true;
+        std::memcpy(&number, start.data() + place, sizeof number);
+        if (number > status.st_size)
+            return true;
+    }
+    return false;
 }
 
 /// The formats that a panel needs, by how their files begin. Nothing else reaches a decoder, of which the
@@ -82,7 +87,7 @@ bool HasImageFormat(const std::string& path)
     static constexpr std::string_view BEGINNINGS[] = {"\x89PNG\r\n", "\xFF\xD8\xFF", "GIF8", "BM",
                                                       "/* XPM */",   "#define",      "P1",   "P2",
                                                       "P3",          "P4",           "P5",   "P6"};
-    char bytes[16] = "";
+    char bytes[18] = "";
     std::ifstream file(path, std::ios::binary);
     file.read(bytes, sizeof bytes);
     const std::string_view start(bytes, static_cast<std::size_t>(file.gcount()));

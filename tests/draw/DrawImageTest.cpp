@@ -520,15 +520,18 @@ long mostMemory()
     return -1;
 }
 
-TEST_F(DrawBmap, of_a_file_whose_pixels_begin_beyond_its_end_takes_no_memory_for_what_is_not_there)
+TEST_F(DrawBmap, of_a_file_that_tells_of_more_than_it_has_takes_no_memory_for_it)
 {
-    // The offset of the pixels, at 10, is 2 GB.
-    project.write("Bitmap/far.bmp",
-                  std::string("BM\x86\0\0\0\0\0\0\0\0\0\0\x80\x28\0\0\0\5\0\0\0\5\0\0\0\1\0\x18\0", 30) +
-                      std::string(100, '\0'));
+    // The offset of the pixels, at 10, and the size of the second header, at 14, are 2 GB.
+    std::string offset("BM\x86\0\0\0\0\0\0\0\0\0\0\x80\x28\0\0\0\5\0\0\0\5\0\0\0\1\0\x18\0", 30);
+    std::string header = offset;
+    offset.resize(130);
+    header.replace(10, 8, std::string("\x36\0\0\0\0\0\0\x80", 8)).resize(130);
+    project.write("Bitmap/offset.bmp", offset).write("Bitmap/header.bmp", header);
     const long before = mostMemory();
     ASSERT_GT(before, 0);
-    canvas->DrawBmap(0, 0, 12, 10, NONE, "far.bmp");
+    for (const char* name : {"offset.bmp", "header.bmp"})
+        canvas->DrawBmap(0, 0, 12, 10, NONE, name);
     EXPECT_LT(mostMemory() - before, 1024 * 1024);
     EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
 }

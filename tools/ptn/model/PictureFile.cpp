@@ -91,9 +91,9 @@ long long XbmSide(const std::string& bytes, const std::string& side)
 }
 
 // What the decoders take for whole although its end is missing.
-bool IsCutOff(const PictureHead& head, const std::string& bytes)
+bool IsCutOff(const PictureHead& picture, const std::string& bytes)
 {
-    const std::string format = head.format;
+    const std::string format = picture.format;
     if (format == "png")
         return bytes.find("IEND") == std::string::npos;
     if (format == "jpeg")
@@ -101,9 +101,13 @@ bool IsCutOff(const PictureHead& head, const std::string& bytes)
     if (format == "gif")
         return bytes.find_last_not_of('\0') == std::string::npos ||
                bytes[bytes.find_last_not_of('\0')] != ';';
-    if (format == "bmp")
-        // Its size, and where its pixels begin: the decoder makes room for all that would stand before them.
-        return std::max(Head(bytes).low(2, 4), Head(bytes).low(10, 4)) > static_cast<long long>(bytes.size());
+    if (format == "bmp") {
+        // Its size, where its pixels begin, and the size of its second header: the decoder makes room for all
+        // that.
+        const Head head(bytes);
+        return std::max({head.low(2, 4), head.low(10, 4), head.low(14, 4)}) >
+               static_cast<long long>(bytes.size());
+    }
     return format == "xpm" && bytes.find("};") == std::string::npos;
 }
 
