@@ -67,11 +67,11 @@ PICTURES = {
 
 MODBUS = """plc:
   modbus: tcp://localhost:502
-  every: 500
+  period: 500 ms
   points:
     - { data: A, holding: 100, type: float32, order: CDAB, scale: 0.1 }
     - { data: A+1, coil: 3, write: true }
-    - { data: A+2, input: 7, bits: [2, 5], count: 3 }
+    - { data: A+2, input: 7, bits: 2-5, count: 3 }
 broker:
   mqtt: mqtt://localhost
   points:
@@ -80,15 +80,37 @@ broker:
 """
 SIMULATE = """tanks:
   simulate:
-  every: 200
+  period: 200 ms
   points:
-    - { data: A, wave: sine, from: -5, to: 5, period: 3000 }
+    - { data: A, wave: sine, from: -5, to: 5, period: 3 s }
     - { data: A+1, wave: steps, steps: [1, 2, 3], times: [0, 1, 2] }
     - { data: A+2, wave: follow, of: A, rate: 2, replay: steps.csv }
     - { data: A+3, wave: flow, by: { A: 1, A+1: -0.5 } }
 server:
   socket: unix:panel.sock
 """
+
+BASE = "codes: { CLOCK: 7, SYSTEM: 92, A: 5, B: 3 }\ncolors: { a: '#000000', b: { no: 50, rgb: '#FF8000' } }\n"
+SMALL_SOURCES = {
+    "tables": [("project.yaml", BASE +
+                "messages: { m: [one, two], n: { text: x, data: A+1 } }\n"
+                "limits: [{ data: A, count: 3, minimum: 0, maximum: 5, below: m, above: n }]\n"
+                "flags: { A: 1 }\nfonts: { small: '-*-fixed-medium-r-normal--14-*' }\n"
+                "profile: { LOG: { LOGSIZE: 10 } }\nedition: 2\n"),
+               ("screens/a.yaml", "name: a\n")],
+    "items": [("project.yaml", BASE + "styles: { s: { color: b } }\n"
+               "marks: { m: { no: 100, art: \"X.X\\n.X.\" } }\n"),
+              ("screens/a.yaml", "name: a\nwindow: { size: [300, 200] }\nitems:\n"
+               "  - { type: line, rect: [1, 1, 9, 1], style: s, repeat: { count: [3, 2], step: [4, 4] } }\n"
+               "  - numeric: { at: [10, 20], data: A+1, width: 5, decimals: 1 }\n"
+               "  - button: { at: [50, 50], size: [80, 30], text: [x, y], action: open-child-1, pattern: b }\n"
+               "  - scroll-bar: { rect: [100, 0, 120, 90], data: B }\n"),
+              ("screens/b.yaml", "name: b\ngroups: { g: { parameters: [x], items: "
+               "[{ mark: { at: [5, 5], mark: m, data: $x } }] } }\nitems: [{ use: g, x: A, at: [1, 1] }, "
+               "{ grid: { columns: 2, step: [20, 9] }, items: [{ text: { at: [0, 0], text: t } }, { check: { at: [0, 0], text: c, data: B+2 } }] }]\n")],
+    "links": [("project.yaml", BASE + "links:\n" + "".join("  " + line + "\n" for line in SIMULATE.splitlines())),
+              ("steps.csv", "0,1\n1.5,2\n"), ("screens/a.yaml", "name: a\n")],
+}
 
 
 def build(ptn, source, work):
@@ -157,19 +179,8 @@ def main():
         put("link-sources", "simulate", pack([("links.yaml", SIMULATE.encode()), ("steps.csv", b"0,1\n1.5,2\n")]))
         sources("station", ROOT / "examples" / "pump-station",
                 ["project.yaml", "links.yaml", "look.yaml", "screens/station.yaml", "screens/stop.yaml"])
-        sources("popup", ROOT / "project",
-                ["project.yaml", "codes.yaml", "colors.yaml", "styles.yaml", "groups.yaml", "wiring.csv",
-                 "screens/popup.yaml"])
-        put("sources", "pictures", pack([
-            ("project.yaml", b"codes: { A: 5 }\ncolors: { a: '#000000', b: { no: 50, rgb: '#FF8000' } }\n"
-             b"marks: { m: { no: 100, image: m.png }, n: { no: 0, art: \"X.X\\n.X.\" } }\n"
-             b"messages: [{ no: 3, text: [a, b], cell: A+1 }]\nlimits: [{ cells: [A, A+2], range: [0, 5] }]\n"
-             b"fonts: { small: '-*-fixed-medium-r-normal--14-*' }\n"),
-            ("m.png", PICTURES["mark.png"]),
-            ("screens/a.yaml", b"name: a\nsize: [300, 200]\ngroups:\n  g: { arguments: [x], items: [{ type: line, "
-             b"rect: [1, 1, 9, $x], repeat: { count: 3, step: [4, 4] } }] }\nitems:\n"
-             b"  - { use: g, x: 8, at: [5, 5] }\n  - { numeric: A+1, at: [10, 10], width: 5 }\n"
-             b"  - { button: text, at: [50, 50], size: [80, 30], action: close }\n")]))
+        for name, files in SMALL_SOURCES.items():
+            put("sources", name, pack((each, content.encode()) for each, content in files))
         codes = (station / "PtrnCode").read_bytes()
         put("dump", "station", pack([
             ("panel.ini", (work / "station" / "pump-station.ini").read_bytes()

@@ -80,7 +80,7 @@ run() {
         "$kept" "$PWD/fuzz/corpus/$name" >"build-fuzz/$name.log" 2>&1 || true
 }
 export -f run
-rm -f build-fuzz/*.log
+for name in "${targets[@]}"; do rm -f "build-fuzz/$name.log"; done
 printf '%s\n' "${targets[@]}" | xargs -P "$jobs" -I{} bash -c 'run {}'
 
 status=0
