@@ -60,7 +60,7 @@ std::optional<Refusal> FirstScreenProblem()
         return std::nullopt;
     const std::string name = AppliWnd->PtrnName;
     return Refusal{"最初の画面「" + name + "」を表示できません。",
-                   "The first screen '" + EucToUtf8(name.c_str()) + "' can not be shown: its pattern in '" +
+                   "The first screen '" + EucToUtf8(name) + "' can not be shown: its pattern in '" +
                        ProjPath + "' is missing, can not be read, or has no size. Build the project again.",
                    1};
 }

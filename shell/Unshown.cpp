@@ -35,11 +35,11 @@ Notice notice;
 bool pending; ///< from the tick that has found it until the box is closed
 
 /// A program may have windows without a size on purpose; only those whose file can not be read are meant.
-bool IsUnshown(const CPtrnDisp* wnd)
+bool IsUnshown(const CPtrnDisp& wnd)
 {
     PTRNHEDR header;
-    return wnd && wnd->Widget && (wnd->WindRect.width < 1 || wnd->WindRect.height < 1) &&
-           !ReadHedr(wnd->PtrnName, &header);
+    return wnd.Widget && (wnd.WindRect.width < 1 || wnd.WindRect.height < 1) &&
+           !ReadHedr(wnd.PtrnName, &header);
 }
 
 bool CanShow(const std::string& screen)
@@ -84,9 +84,11 @@ void Report(const CPtrnDisp& wnd, bool end)
 
 void CloseUnshownChildren(CPtrnDisp* wnd)
 {
+    if (!wnd)
+        return;
     for (const int which : {KIND_CHILD1, KIND_CHILD2}) {
-        CPtrnDisp* const child = !wnd ? nullptr : which == KIND_CHILD1 ? wnd->ChildWnd1 : wnd->ChildWnd2;
-        if (IsUnshown(child)) {
+        CPtrnDisp* const child = which == KIND_CHILD1 ? wnd->ChildWnd1 : wnd->ChildWnd2;
+        if (child && IsUnshown(*child)) {
             Report(*child, false);
             child->DestroyWidget();
             wnd->PtrnCloseWnd(which, nullptr, 0);
@@ -102,14 +104,14 @@ void CloseUnshown()
 {
     if (pending || WaitTimer != 0) // the end is near
         return;
-    if (IsUnshown(SystmWnd)) {
+    if (SystmWnd && IsUnshown(*SystmWnd)) {
         Report(*SystmWnd, false);
         SystmWnd->DestroyWidget(); // its remembered place is that of the screen which could not be read
         PtrnDispSysWnd("", nullptr, 0);
     }
     CloseUnshownChildren(SystmWnd);
     CloseUnshownChildren(AppliWnd);
-    if (IsUnshown(AppliWnd)) {
+    if (AppliWnd && IsUnshown(*AppliWnd)) {
         const std::string start = ProfileReadAsc(ProfName, "PTRN", "PTRNSTART");
         const bool end = !CanShow(start);
         Report(*AppliWnd, end);

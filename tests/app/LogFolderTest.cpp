@@ -6,8 +6,6 @@
 
 namespace fs = std::filesystem;
 
-using testing::HasSubstr;
-
 namespace
 {
 

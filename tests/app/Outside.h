@@ -1,6 +1,9 @@
 // What lies around a panel: other programs of its display, and a display of its own that can be taken away.
 #pragma once
 
+#include <gmock/gmock.h> // before the macros of the X library, which have its names
+#include <gtest/gtest.h>
+
 #include <csignal>
 #include <cstdlib>
 #include <string>
