@@ -11,6 +11,10 @@ constexpr int COORDINATE_MAX = 32767; ///< see COORDINATE_MIN
 /// Thickest line, outline, frame or edge that a drawing primitive accepts, in pixels.
 constexpr int LINE_WIDTH_MAX = 98;
 
+/// Pictures of more pixels than this many screens have are not shown: nobody sees more of them, and each of
+/// their pixels is held in memory.
+constexpr int PICTURE_SCREENS = 4;
+
 /// Longest field of a profile key in bytes, and of a whole text without its terminator.
 constexpr int PROFILE_FIELD_MAX = 99;
 

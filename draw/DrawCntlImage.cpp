@@ -197,7 +197,12 @@ void CDraw::DrawBmap(int xpos1, int ypos1, int xpos2, int ypos2, int colr, const
     if (!name || !*name || !Admits(gc, BoxOf(box)))
         return;
     // What is drawn again in parts, many times a second, is not read from the disk each time.
-    const std::string path = std::string(ProjPath) + "/Bitmap/" + name;
+    const std::string folder = std::string(ProjPath) + "/Bitmap";
+    if (Has(Correction::PictureFolder) && !StaysInFolder(folder, name)) {
+        ReportOutside(name);
+        return;
+    }
+    const std::string path = folder + "/" + name;
     const PixbufPtr image = IsClipped(gc) ? KeptImage(path) : FileImage(path);
     if (!image) {
         ReportMissing(name);

@@ -1,6 +1,8 @@
 #include "draw/ImageFile.h"
 
 #include "base/Constants.h"
+#include "base/Limits.h"
+#include "draw/Resource.h"
 #include "draw/ResourceLoad.h"
 #include "log/Category.h"
 #include "log/Logfile.h"
@@ -9,10 +11,12 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <string_view>
 #include <sys/stat.h>
 #include <tuple>
@@ -25,7 +29,14 @@ namespace
 {
 
 /// Most pixels of a bitmap file; a larger one counts as damaged.
-constexpr std::int64_t LARGEST_IMAGE = 100'000'000;
+std::int64_t LargestImage()
+{
+    const std::int64_t display = std::int64_t{gdk_screen_width()} * gdk_screen_height();
+    return PICTURE_SCREENS * std::max(display, std::int64_t{DispSizeX} * DispSizeY);
+}
+
+/// Bytes at the beginning of a text file in which its size stands.
+constexpr std::size_t TEXT_BEGINNING = 16384;
 
 /// Most names of missing bitmaps that are remembered.
 constexpr std::size_t MOST_MISSING = 1000;
@@ -97,6 +108,74 @@ bool HasImageFormat(const std::string& path)
            });
 }
 
+/// How a file in the format XPM or XBM, which the toolkit measures only by decoding them, begins.
+std::string BeginningOf(const std::string& path)
+{
+    std::string text(TEXT_BEGINNING, '\0');
+    std::ifstream file(path, std::ios::binary);
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    return text;
+}
+
+/// The size that an XPM file claims in its first text, which comments may precede.
+std::optional<SIZE> XpmSize(const std::string& text)
+{
+    std::size_t at = std::min(text.find('{'), text.size());
+    for (std::size_t comment = text.find("/*", at); comment < text.find('"', at);
+         comment = text.find("/*", at))
+        at = std::min(text.find("*/", comment + 2), text.size());
+    SIZE size{};
+    at = text.find('"', at);
+    if (at == std::string::npos || std::sscanf(text.c_str() + at + 1, "%d %d", &size.cx, &size.cy) != 2)
+        return std::nullopt;
+    return size;
+}
+
+bool EndsWith(const std::string& name, const std::string& end)
+{
+    return name.size() >= end.size() && name.compare(name.size() - end.size(), end.size(), end) == 0;
+}
+
+/// The size that an XBM file claims in its lines "#define NAME_width 16".
+std::optional<SIZE> XbmSize(const std::string& text)
+{
+    SIZE size{};
+    std::istringstream lines(text);
+    std::string define;
+    std::string name;
+    int value = 0;
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        if (!(words >> define >> name >> value) || define != "#define")
+            continue;
+        if (EndsWith(name, "width"))
+            size.cx = value;
+        else if (EndsWith(name, "height"))
+            size.cy = value;
+    }
+    return size;
+}
+
+/// The size of an image by its header, before anything is decoded.
+std::optional<SIZE> SizeOf(const std::string& path)
+{
+    const std::string text = BeginningOf(path);
+    if (text.compare(0, 9, "/* XPM */") == 0)
+        return XpmSize(text);
+    if (text.compare(0, 7, "#define") == 0)
+        return XbmSize(text);
+    SIZE size{};
+    if (!gdk_pixbuf_get_file_info(path.c_str(), &size.cx, &size.cy))
+        return std::nullopt;
+    return size;
+}
+
+bool Fits(const SIZE& size)
+{
+    return size.cx > 0 && size.cy > 0 && std::int64_t{size.cx} * size.cy <= LargestImage();
+}
+
 PixbufPtr Shared(const PixbufPtr& image)
 {
     return PixbufPtr(image ? GDK_PIXBUF(g_object_ref(image.get())) : nullptr);
@@ -120,10 +199,10 @@ void Keep(Kept loaded)
 
 PixbufPtr FileImage(const std::string& path)
 {
-    int width = 0;
-    int height = 0;
-    if (!MarkOf(path) || !HasImageFormat(path) || !gdk_pixbuf_get_file_info(path.c_str(), &width, &height) ||
-        std::int64_t{width} * height > LARGEST_IMAGE)
+    if (!MarkOf(path) || !HasImageFormat(path))
+        return nullptr;
+    const std::optional<SIZE> size = SizeOf(path);
+    if (!size || !Fits(*size))
         return nullptr;
     return PixbufPtr(gdk_pixbuf_new_from_file(path.c_str(), nullptr));
 }
@@ -152,13 +231,40 @@ void BitmapExit()
     kept.clear();
 }
 
-void ReportMissing(const char* name)
+namespace
+{
+
+void ReportOnce(const char* format, const char* name)
 {
     if (missing.size() >= MOST_MISSING || !missing.insert(name).second)
         return;
     char text[SIZE_LOGMESG2 + 2];
-    std::snprintf(text, sizeof text, "ビットマップの読込みに失敗 [%s]", name);
+    std::snprintf(text, sizeof text, format, name);
     LogfileWrite(CATEGORY_DRAW, text, nullptr, 0);
+}
+
+} // namespace
+
+bool StaysInFolder(const std::string& folder, const std::string& name)
+{
+    namespace fs = std::filesystem;
+    const fs::path inner(name);
+    if (inner.is_absolute() || std::find(inner.begin(), inner.end(), "..") != inner.end())
+        return false;
+    std::error_code absent;
+    const fs::path file = fs::canonical(folder + "/" + name, absent);
+    const fs::path home = absent ? fs::path() : fs::canonical(folder, absent);
+    return absent || std::mismatch(home.begin(), home.end(), file.begin(), file.end()).first == home.end();
+}
+
+void ReportMissing(const char* name)
+{
+    ReportOnce("ビットマップの読込みに失敗 [%s]", name);
+}
+
+void ReportOutside(const char* name)
+{
+    ReportOnce("ビットマップ名がフォルダ外を指す [%s]", name);
 }
 
 } // namespace tessary
