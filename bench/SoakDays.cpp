@@ -57,7 +57,7 @@ int main(int argc, char** argv)
     ProfileWriteAsc(ProfName, "LOG", "LOGFILE", folder.c_str());
     CreateFolder(folder.c_str(), nullptr, 0);
     LogfileInit();
-    project.screen("main", 20, 20);
+    project.screen("main", 20, 20, {320, 256});
     PtrnDispTopWnd("main", nullptr, 0);
     while (!AppliWnd->Pixmap)
         g_main_context_iteration(nullptr, TRUE);

@@ -1,4 +1,7 @@
 // Windows that come and go leave nothing behind, neither here nor on the X server.
+#include "config/FileCntl.h"
+#include "log/Clock.h"
+#include "log/Logfile.h"
 #include "tests/support/Footprint.h"
 #include "tests/window/KeyEdit.h"
 
@@ -80,4 +83,16 @@ TEST_F(Soak, repaints_and_ticks)
         AppliWnd->PaintEvent();
         AppliWnd->UpdateEvent();
     });
+}
+
+// The long form has a clock of its own; here each round moves to another day, and the tick back to today.
+TEST_F(Soak, days_of_a_log)
+{
+    constexpr int DAYS = 28;
+    expectNothingLeft([](int i) {
+        LogfileWrite("SOAK", "a line", __FILE__, __LINE__);
+        LocalTime.tm_mday = 1 + i % DAYS;
+        LogfileTimr();
+    });
+    EXPECT_GE(FileCount(project.logFolder().c_str(), "*.log"), DAYS);
 }
