@@ -34,12 +34,12 @@ bool IsSetByServer(const char* setting)
 
 /// The toolkit's settings, but for those of the server that name libraries: these are what they are without
 /// it.
-void Get(GObject* settings, guint id, GValue* value, GParamSpec* spec)
+void Get(GObject* settings, guint id, GValue* value, GParamSpec* property)
 {
-    if (NamesLibraries(spec->name) && IsSetByServer(spec->name))
-        g_param_value_set_default(spec, value);
+    if (NamesLibraries(property->name) && IsSetByServer(property->name))
+        g_param_value_set_default(property, value);
     else
-        toolkitsOwn(settings, id, value, spec);
+        toolkitsOwn(settings, id, value, property);
 }
 
 /// The toolkit asks its settings through their class, at its start and at each change.

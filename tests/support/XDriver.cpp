@@ -349,16 +349,6 @@ void XDriver::blot(const ScreenWindow& window)
     GC gc = XCreateGC(display_, DefaultRootWindow(display_), GCForeground | GCSubwindowMode, &values);
     XFillRectangle(display_, window.id, gc, 0, 0, 1, 1);
     XFreeGC(display_, gc);
-    // A program may draw only what has changed, and may have drawn it all before.
-    Window root = 0;
-    Window parent = 0;
-    Window* inner = nullptr;
-    unsigned count = 0;
-    if (XQueryTree(display_, window.id, &root, &parent, &inner, &count))
-        for (unsigned i = 0; i < count; ++i)
-            XClearArea(display_, inner[i], 0, 0, 1, 1, True);
-    if (inner)
-        XFree(inner);
 }
 
 ScreenWindow XDriver::waitForDrawn(const std::string& title)
