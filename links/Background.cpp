@@ -33,8 +33,15 @@ void Background::start(std::function<void()> body)
 {
     thread_ = std::thread([this, body = std::move(body)] {
         BlockSignals();
-        body();
+        std::exception_ptr thrown;
+        try {
+            body();
+        } catch (...) {
+            thrown = std::current_exception();
+        }
         const std::lock_guard<std::mutex> lock(mutex_);
+        thrown_ = thrown;
+        hasThrown_ = thrown != nullptr;
         ended_ = true;
         ending_.notify_all();
     });
@@ -64,6 +71,14 @@ void Background::end(std::chrono::steady_clock::time_point deadline)
         thread_.join();
     else
         thread_.detach();
+}
+
+void Background::rethrow()
+{
+    if (!hasThrown_.exchange(false))
+        return;
+    const std::lock_guard<std::mutex> lock(mutex_);
+    std::rethrow_exception(std::exchange(thrown_, nullptr));
 }
 
 void Background::takeWake() const

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <exception>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -32,6 +33,9 @@ class Background
     /// Waits for the thread's end until that time. One that still hangs in the system then is left to itself.
     void end(std::chrono::steady_clock::time_point deadline);
 
+    /// Throws, in the caller's thread, what the thread has ended by: nobody else would hear of it.
+    void rethrow();
+
     /// Descriptor to poll for wake().
     int wakeUp() const { return wakeUp_; }
     /// What was woken is awake: takes wake() back.
@@ -41,9 +45,11 @@ class Background
     int wakeUp_;
     std::atomic<bool> stopping_{false};
     std::thread thread_;
-    std::mutex mutex_; ///< of `ended_`
+    std::mutex mutex_; ///< of `ended_` and `thrown_`
     std::condition_variable ending_;
     bool ended_ = false;
+    std::exception_ptr thrown_;
+    std::atomic<bool> hasThrown_{false}; ///< so that a look costs nothing
 };
 
 } // namespace tessary

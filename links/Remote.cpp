@@ -61,6 +61,7 @@ void Remote::end(std::chrono::steady_clock::time_point deadline)
 
 void Remote::tick(double now)
 {
+    worker_->rethrow();
     if (!begun_)
         begin();
     takeNotes();

@@ -61,6 +61,7 @@ void Socket::end(std::chrono::steady_clock::time_point deadline)
 
 void Socket::tick(double)
 {
+    server_->rethrow();
     if (!begun_) {
         begun_ = true;
         const bool good = problem_.empty();

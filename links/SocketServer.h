@@ -50,6 +50,8 @@ class SocketServer : public std::enable_shared_from_this<SocketServer>
     std::string open();
     void wake() { thread_.wake(); }
     void stop() { thread_.stop(); }
+    /// Throws what the thread has ended by, if it was an exception.
+    void rethrow() { thread_.rethrow(); }
     void end(std::chrono::steady_clock::time_point deadline) { thread_.end(deadline); }
 
     Ring<ClientRequest> requests{1024};

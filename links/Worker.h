@@ -40,6 +40,8 @@ class Worker : public std::enable_shared_from_this<Worker>
     /// Tells it that there are orders. Never waits.
     void wake() { thread_.wake(); }
     void stop();
+    /// Throws what the thread has ended by, if it was an exception.
+    void rethrow() { thread_.rethrow(); }
     /// Waits for its end until that time. A thread that still hangs in the system then is left to itself; it
     /// touches nothing but what it owns.
     void end(std::chrono::steady_clock::time_point deadline) { thread_.end(deadline); }
