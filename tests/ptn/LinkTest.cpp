@@ -95,6 +95,17 @@ TEST_F(Links, that_are_damaged_are_no_compiled_links)
                 HasSubstr("PtrnLink: no links that can be read: no links. Get an undamaged copy."));
 }
 
+TEST_F(Links, that_a_panel_would_refuse_are_not_built)
+{
+    std::string plant = EucToUtf8(PLANT);
+    const std::string host = "broker.example";
+    plant.replace(plant.find(host), host.size(), std::string(2000, 'b'));
+    sources.write("project.yaml", plant).screen("name: Main\nwindow: { size: [64, 64] }\n");
+    const PtnResult result = sources.build();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("'links': a panel would refuse them: "));
+}
+
 TEST_F(Links, replay_a_file_of_the_sources)
 {
     sources

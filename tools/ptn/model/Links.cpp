@@ -209,6 +209,12 @@ void LinkTable::read(const Source& section, const CodeTable& codes, const fs::pa
     if (links_.size() > static_cast<std::size_t>(LINK_CONNECTIONS_MAX))
         diagnostics.error(section.place(), fmt::format("'links' has {} connections. A panel has {} at most.",
                                                        links_.size(), LINK_CONNECTIONS_MAX));
+    // Whatever has not been looked at: a panel without any links is worse than a build that fails.
+    LinkModel taken;
+    std::string problem;
+    if (!diagnostics.failed() && !ReadLinks(bytes(), taken, problem))
+        diagnostics.error(section.place(),
+                          "'links': a panel would refuse them: " + problem + ". Correct that.");
 }
 
 std::string LinkTable::bytes() const
