@@ -21,6 +21,7 @@ class Scale
     /// @param display  the part of the display that it may take, in which it is centred
     Scale(Scaling scaling, SIZE panel, const Box& display);
 
+    /// Whether the panel lies on the display as it is.
     bool natural() const { return scaling_ == Scaling::Natural; }
     /// Whether a pixel of the panel has the size of one of the display, wherever it lies.
     bool sized() const { return numerator_ == denominator_; }
@@ -28,6 +29,7 @@ class Scale
     double factor() const { return static_cast<double>(numerator_) / static_cast<double>(denominator_); }
     /// The same in whole numbers, at least 1: for what is only enlarged and only by whole steps.
     int steps() const;
+    /// Whether each pixel becomes a square of whole steps.
     bool whole() const { return numerator_ % denominator_ == 0; }
     /// The part of the display that the panel may take; empty for the natural scale.
     const Box& display() const { return display_; }
@@ -57,6 +59,7 @@ const Scale& DisplayScale();
 /// Takes the scale from profile key "SCALE" and the display, of which it is the monitor that comes first.
 /// @param panel  its size; without one there is no scale
 void ScaleInit(SIZE panel);
+/// Makes the scale natural again.
 void ScaleExit();
 /// Takes it anew for a display that has changed. @return whether it is another one
 bool ScaleAnew();
