@@ -1,5 +1,6 @@
 // The real program on displays of other sizes and depths than the tests' own.
 #include "tests/app/Panel.h"
+#include "tests/support/Apart.h"
 #include "tests/support/OtherServer.h"
 #include "tests/support/ScreenSize.h"
 
@@ -48,10 +49,10 @@ class PanelOnDisplay : public Panel
         pattern.item(PTRN_BMAP, 130, 50, 180, 100).text("glass.png");
         pattern.item(PTRN_MARK, 190, 50, 222, 82);
         pattern.item(PTRN_MARK, 230, 50, 262, 82).parm(MARK_BACKED, 1);
-        pattern.item(PTRN_CHCK, 10, 110, 80, 130).text("check").code("DATA", 1);
-        pattern.item(PTRN_RDIO, 90, 110, 160, 130).text("radio").code("DATA", 2);
-        pattern.item(PTRN_SBAR, 10, 140, 150, 164).parm(SBAR_ARROWS, 1).code("DATA", 3);
-        pattern.item(PTRN_SPIN, 170, 130, 202, 194).code("DATA", 4);
+        pattern.item(PTRN_CHCK, 10, 110, 80, 130).text("check").code("DATA", 191);
+        pattern.item(PTRN_RDIO, 90, 110, 160, 130).text("radio").code("DATA", 192);
+        pattern.item(PTRN_SBAR, 10, 140, 150, 164).parm(SBAR_ARROWS, 1).code("DATA", 193);
+        pattern.item(PTRN_SPIN, 170, 130, 202, 194).code("DATA", 194);
         return pattern;
     }
 
@@ -91,16 +92,6 @@ class PanelOnDisplay : public Panel
             },
             "the panel");
         return now;
-    }
-
-    static int apart(const Picture& one, const Picture& other)
-    {
-        int most = 0;
-        for (std::size_t i = 0; i < one.pixels.size(); ++i)
-            for (int shift = 0; shift <= 16; shift += 8)
-                most = std::max(most, std::abs(static_cast<int>(one.pixels[i] >> shift & 0xFF) -
-                                               static_cast<int>(other.pixels[i] >> shift & 0xFF)));
-        return most;
     }
 
     Picture shotAt(int depth)

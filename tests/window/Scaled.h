@@ -1,6 +1,7 @@
 // A panel that is scaled to the tests' display of 1280 x 1024.
 #pragma once
 
+#include "tests/support/Apart.h"
 #include "tests/window/KeyEdit.h"
 
 #include <cmath>
@@ -80,23 +81,3 @@ class Scaled : public KeyEdit
 
     Layout layout = TWICE;
 };
-
-/// How far the channels of two colours are apart at most.
-inline int apart(std::uint32_t one, std::uint32_t other)
-{
-    int most = 0;
-    for (int shift = 0; shift <= 16; shift += 8)
-        most = std::max(
-            most, std::abs(static_cast<int>(one >> shift & 0xFF) - static_cast<int>(other >> shift & 0xFF)));
-    return most;
-}
-
-/// How far the colours of two pictures of one size are apart at most.
-inline int apart(const Picture& one, const Picture& other)
-{
-    EXPECT_EQ(one.pixels.size(), other.pixels.size());
-    int most = 0;
-    for (std::size_t i = 0; i < std::min(one.pixels.size(), other.pixels.size()); ++i)
-        most = std::max(most, apart(one.pixels[i], other.pixels[i]));
-    return most;
-}
