@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gmock/gmock.h>
 #include <X11/Xlib.h>
 
@@ -62,7 +63,8 @@ class PanelOnDisplay : public Panel
         guchar* pixels = gdk_pixbuf_get_pixels(image);
         for (int y = 0; y < 16; ++y)
             for (int x = 0; x < 16; ++x) {
-                guchar* const pixel = pixels + y * gdk_pixbuf_get_rowstride(image) + 4 * x;
+                guchar* const pixel =
+                    pixels + std::ptrdiff_t{y} * gdk_pixbuf_get_rowstride(image) + std::ptrdiff_t{4} * x;
                 pixel[0] = static_cast<guchar>(16 * x);
                 pixel[1] = static_cast<guchar>(16 * y);
                 pixel[2] = 99;
@@ -99,7 +101,7 @@ class PanelOnDisplay : public Panel
         const OtherServer server("400x300x" + std::to_string(depth));
         const OtherUser eyes(server.name());
         runOn(server);
-        const Picture picture = look(eyes, WIDTH, HEIGHT);
+        Picture picture = look(eyes, WIDTH, HEIGHT);
         EXPECT_EQ(kill(program->pid(), SIGTERM), 0);
         EXPECT_EQ(waitEnd(), 0) << program->output();
         return picture;

@@ -52,8 +52,8 @@ class ScaledBox : public Screen, public testing::WithParamInterface<int>
 
     static void expectMiddle(const ScreenWindow& box, int x, int y)
     {
-        EXPECT_NEAR(box.x + box.width / 2, x, 2);
-        EXPECT_NEAR(box.y + box.height / 2, y, 2);
+        EXPECT_NEAR(box.x + box.width / 2.0, x, 2);
+        EXPECT_NEAR(box.y + box.height / 2.0, y, 2);
     }
 
     UseEdition edition;
@@ -71,8 +71,8 @@ TEST_P(ScaledBox, grows_with_the_panel_and_stands_in_the_middle)
     DrawCntlExit();
     begin("steps"); // three times, 1200 x 900
     const ScreenWindow box = show();
-    EXPECT_NEAR(box.width, 3 * natural.width, natural.width / 2);
-    EXPECT_NEAR(box.height, 3 * natural.height, natural.height / 2);
+    EXPECT_NEAR(box.width, 3 * natural.width, natural.width / 2.0);
+    EXPECT_NEAR(box.height, 3 * natural.height, natural.height / 2.0);
     expectMiddle(box, 640, 512);
 }
 

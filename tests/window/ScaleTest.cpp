@@ -271,7 +271,8 @@ TEST_F(ScaledDisplay, enlarges_the_pointer_by_whole_steps)
     for (int y = 0; y < 64; y += 2)
         for (int x = 0; x < 64; x += 2) {
             const auto at = [&](int dx, int dy) {
-                return pointer.pixels[static_cast<std::size_t>((y + dy) * 64 + x + dx)];
+                return pointer
+                    .pixels[std::size_t{64} * static_cast<unsigned>(y + dy) + static_cast<unsigned>(x + dx)];
             };
             ASSERT_THAT((std::vector<std::uint32_t>{at(1, 0), at(0, 1), at(1, 1)}), testing::Each(at(0, 0)))
                 << x << "," << y;
