@@ -3,6 +3,7 @@
 #include "base/BuiltIn.h"
 #include "comndata/PtrnCode.h"
 #include "draw/Scale.h"
+#include "log/Guard.h"
 #include "pattern/ItemParm.h"
 #include "pattern/PtrnHedr.h"
 #include "window/OnDisplay.h"
@@ -127,7 +128,8 @@ void FollowDisplay()
 {
     static const bool FOLLOWS = [] {
         for (const char* signal : {"size-changed", "monitors-changed"})
-            g_signal_connect(gdk_screen_get_default(), signal, G_CALLBACK(FitToDisplay), nullptr);
+            g_signal_connect(gdk_screen_get_default(), signal, G_CALLBACK(Guarded<FitToDisplay>::call),
+                             nullptr);
         return true;
     }();
     static_cast<void>(FOLLOWS);

@@ -58,6 +58,7 @@ constexpr Area AREAS[] = {
     {"tests/support", Group::tests, 0, true},
     {"tests", Group::tests, 1, true},
     {"bench", Group::tests, 1, true},
+    {"fuzz", Group::tests, 1, true},
 };
 
 /// The area of a file: the longest path that holds it; null for none.
