@@ -32,10 +32,12 @@ template <typename Change> double TickTime(CPtrnDisp& window, Change change)
         int ticks = 0;
         const double start = ProcessorTime();
         double time = 0;
-        for (; time < BATCH_SECONDS; time = ProcessorTime() - start, ticks++) {
+        while (time < BATCH_SECONDS) {
             change();
             window.TimrEvent();
             HandleEvents();
+            ticks++;
+            time = ProcessorTime() - start;
         }
         times.push_back(time / ticks);
     }

@@ -356,7 +356,7 @@ TEST_F(Operator, is_told_that_the_panel_stops_and_is_offered_no_way_back)
                     return false;
         return true;
     };
-    const RECT line = {told.left, told.top, told.left + 160, told.top + 20, 160, 20};
+    const RECT line = {told.left, told.top, told.left + 160, told.top + 16, 160, 16};
     EXPECT_TRUE(isPlain(line));
     EXPECT_FALSE(isPlain(back));
     clickOn(stop);
