@@ -7,7 +7,6 @@
 using namespace tessary;
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
