@@ -5,6 +5,7 @@
 #include "tests/support/Project.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -284,8 +285,9 @@ TEST_F(DrawXpm, scales_with_the_tiles_filter)
         Picture expected = canvas.blank();
         for (int y = 0; y < size.cy; y++) {
             for (int x = 0; x < size.cx; x++) {
-                const guchar* const rgb =
-                    gdk_pixbuf_get_pixels(scaled) + y * gdk_pixbuf_get_rowstride(scaled) + 3 * x;
+                const guchar* const rgb = gdk_pixbuf_get_pixels(scaled) +
+                                          std::ptrdiff_t{y} * gdk_pixbuf_get_rowstride(scaled) +
+                                          std::ptrdiff_t{3} * x;
                 expected.set(5 + x, 6 + y, static_cast<std::uint32_t>(rgb[0] << 16 | rgb[1] << 8 | rgb[2]));
             }
         }
@@ -502,7 +504,7 @@ TEST_F(DrawBmap, of_absurd_size_draws_nothing)
 
 TEST_F(DrawBmap, of_a_file_with_too_many_pixels_draws_nothing)
 {
-    project.write("Bitmap/huge.pbm", "P4\n10008 10000\n" + std::string(10008 / 8 * 10000, '\0'));
+    project.write("Bitmap/huge.pbm", "P4\n10008 10000\n" + std::string(std::size_t{10008} / 8 * 10000, '\0'));
     canvas->DrawBmap(0, 0, 12, 10, NONE, "huge.pbm");
     EXPECT_TRUE(same(canvas.picture(), canvas.blank()));
 }
