@@ -10,6 +10,8 @@ make_root() {
     say "Making a bare Debian $suite from $mirror"
     as_root debootstrap --variant=minbase "$suite" "$root" "$mirror" >"$root.log" 2>&1 ||
         { tail -n 10 "$root.log" >&2; fail "debootstrap failed; the whole output is in $root.log"; }
+    # An installed Debian knows its own name.
+    as_root sh -c "printf '127.0.0.1 localhost\n::1 localhost\n' >'$root/etc/hosts'"
     # It is not to start services.
     as_root sh -c "printf '#!/bin/sh\nexit 101\n' >'$root/usr/sbin/policy-rc.d'"
     as_root chmod +x "$root/usr/sbin/policy-rc.d"
