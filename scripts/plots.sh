@@ -23,7 +23,7 @@ TEXT
 esac
 
 . scripts/prepare.sh
-install_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${HEADLESS_PACKAGES[@]}" libxres-dev gnuplot-nox
+install_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${HEADLESS_PACKAGES[@]}" libxres-dev xauth gnuplot-nox
 make_locale
 build_preset bench
 rm -f "$log"

@@ -71,7 +71,8 @@ class MqttPlant : public LinkedPlant
             " -out server.pem -days 2 -extfile names"
             " && openssl req -x509 -newkey rsa:2048 -nodes -keyout other.key -out other.pem -days 2 -subj "
             "/CN=other");
-        settings("listener " + std::to_string(port) + " 127.0.0.1\nallow_anonymous true\ncafile " +
+        // By each of its addresses, of which the panel takes the first.
+        settings("listener " + std::to_string(port) + " localhost\nallow_anonymous true\ncafile " +
                  project.root() + "/ca.pem\ncertfile " + project.root() + "/server.pem\nkeyfile " +
                  project.root() + "/server.key\n");
     }
