@@ -25,7 +25,6 @@ class PanelOnDisplay : public Panel
     {
         Panel::SetUp();
         saveNotice();
-        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
         menu().save(project);
     }
 

@@ -15,9 +15,8 @@ class FaultyPanel : public Panel
     void SetUp() override
     {
         Panel::SetUp();
-        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
         saveNotice();
-        rememberedChild(CHILD).item(PTRN_BUTN, 10, 30, 90, 60).text("close").action(9).save(project);
+        saveClosableChild(CHILD);
         Pattern(MENU)
             .size(500, 300)
             .item(PTRN_BUTN, 10, 10, 90, 40)

@@ -31,7 +31,6 @@ class PanelOutside : public Panel
         Panel::SetUp();
         Pattern(MENU).size(300, 200).item(PTRN_BUTN, 10, 10, 90, 40).text("stop").action(16).save(project);
         saveNotice();
-        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
     }
 
     ScreenWindow runMenu()
@@ -47,24 +46,6 @@ class PanelOutside : public Panel
     }
 };
 
-bool hasTopWindow(Display* display)
-{
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
-    unsigned count = 0;
-    XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count);
-    bool mapped = false;
-    for (unsigned i = 0; i < count; ++i) {
-        XWindowAttributes attributes;
-        mapped = mapped || (XGetWindowAttributes(display, children[i], &attributes) &&
-                            attributes.map_state == IsViewable && attributes.width == 300);
-    }
-    if (children)
-        XFree(children);
-    return mapped;
-}
-
 } // namespace
 
 TEST_F(PanelOutside, ends_with_a_status_and_a_whole_log_when_its_server_is_lost)
@@ -72,8 +53,8 @@ TEST_F(PanelOutside, ends_with_a_status_and_a_whole_log_when_its_server_is_lost)
     OtherServer server;
     program.emplace("panel", project.root() + "/panel", std::vector<std::string>{"--display", server.name()});
     {
-        const Client eyes(server.name().c_str());
-        ASSERT_TRUE(user.waitFor([&] { return hasTopWindow(eyes); }, "the menu"));
+        const OtherUser eyes(server.name());
+        ASSERT_TRUE(user.waitFor([&] { return eyes.shows(300, 200); }, "the menu"));
     }
     server.end();
     EXPECT_EQ(waitEnd(), 1);

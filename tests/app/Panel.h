@@ -50,9 +50,16 @@ class Panel : public testing::Test
             .header(tessary::HEDR_TITLE_HEIGHT, 20);
     }
 
-    /// The system window that announces the end.
-    void saveNotice()
+    /// A child that its button closes.
+    void saveClosableChild(const char* name)
     {
+        rememberedChild(name).item(PTRN_BUTN, 10, 30, 90, 60).text("close").action(9).save(project);
+    }
+
+    /// The end takes that long, and a system window announces it.
+    void saveNotice(const char* seconds = "1")
+    {
+        project.set("TESSARY", "WAITTIMER", seconds).set("PTRN", "PTRNSTOP", NOTICE);
         Pattern(NOTICE)
             .size(100, 60)
             .header(tessary::HEDR_KIND, 2)

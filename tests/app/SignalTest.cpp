@@ -22,9 +22,8 @@ class PanelSignal : public Panel, public testing::WithParamInterface<int>
     void SetUp() override
     {
         Panel::SetUp();
-        project.set("TESSARY", "WAITTIMER", "60").set("PTRN", "PTRNSTOP", NOTICE);
         rememberedChild(CHILD).header(HEDR_MODELESS, 1).save(project);
-        saveNotice();
+        saveNotice("60");
         Pattern(MENU)
             .size(300, 200)
             .item(PTRN_BUTN, 10, 10, 90, 40)

@@ -26,9 +26,8 @@ class VanishedProject : public Panel
     void SetUp() override
     {
         Panel::SetUp();
-        project.set("TESSARY", "WAITTIMER", "1").set("PTRN", "PTRNSTOP", NOTICE);
         saveNotice();
-        rememberedChild(CHILD).item(PTRN_BUTN, 10, 30, 90, 60).text("close").action(9).save(project);
+        saveClosableChild(CHILD);
         Pattern(OTHER).size(320, 210).item(PTRN_BUTN, 10, 10, 90, 40).text("stop").action(16).save(project);
         Pattern(MENU)
             .size(500, 300)
