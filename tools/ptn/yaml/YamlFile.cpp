@@ -1,5 +1,6 @@
 // From a file to its top node, and what is wrong with a file as a whole.
 #include "tools/ptn/common/Files.h"
+#include "tools/ptn/yaml/Documents.h"
 #include "tools/ptn/yaml/Source.h"
 
 #include <algorithm>
@@ -128,18 +129,11 @@ std::optional<Source> ParseYaml(const std::string& file, const std::string& text
     if (!CheckUtf8(file, text, diagnostics) || !CheckAmount(file, text, diagnostics))
         return std::nullopt;
     try {
-        const std::vector<YAML::Node> documents = YAML::LoadAll(text);
-        if (documents.empty())
-            return Source(std::make_shared<const std::string>(file), YAML::Node());
-        for (std::size_t i = 1; i < documents.size(); ++i)
-            if (!documents[i].IsNull())
-                diagnostics.error(
-                    {file, documents[i].Mark().line + 1},
-                    "a second document begins before this line, with '---', and would not be read. "
-                    "Put it into a file of its own, or take the '---' away.");
-        if (!CheckAliases(file, text, documents[0], diagnostics))
+        const YAML::Node document = YAML::Load(text);
+        CheckDocuments(file, text, document, diagnostics);
+        if (!CheckAliases(file, text, document, diagnostics))
             return std::nullopt;
-        return Source(std::make_shared<const std::string>(file), documents[0]);
+        return Source(std::make_shared<const std::string>(file), document);
     } catch (const YAML::Exception& problem) {
         // Without a position the mark's line is -1.
         diagnostics.error({file, problem.mark.line + 1},
