@@ -55,6 +55,7 @@ struct ParmSchema {
     int maximum = 0;
     int initial = 0;                 ///< value of every variant when a screen says nothing
     int enable = -1;                 ///< entry of the flag without which this one has no effect; -1 none
+    bool blinks = false;             ///< an item that blinks is drawn with it, whatever that flag says
     bool fatal = false;              ///< drawing ends the program when the value is out of its range
     bool written = false;            ///< the program writes it; what a screen says has no effect
     std::optional<Correction> since; ///< has an effect only with it
@@ -157,6 +158,13 @@ class ParmRow
     {
         ParmRow made = *this;
         made.row_.enable = index;
+        return made;
+    }
+
+    constexpr ParmRow usedByBlinking() const
+    {
+        ParmRow made = *this;
+        made.row_.blinks = true;
         return made;
     }
 

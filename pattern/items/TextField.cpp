@@ -23,8 +23,12 @@ constexpr ParmChoice NAVIGATION_NAMES[] = {
 
 // What the three text types share.
 constexpr ParmSchema COLOR = parm("color", TEXT_COLOR4).color().perState().help("the text");
-constexpr ParmSchema BACK =
-    parm("back", TEXT_BACK4).color().perState().enabledBy(TEXT_BACKED).help("behind the text; blinks in it");
+constexpr ParmSchema BACK = parm("back", TEXT_BACK4)
+                                .color()
+                                .perState()
+                                .enabledBy(TEXT_BACKED)
+                                .usedByBlinking()
+                                .help("behind the text; blinks in it");
 constexpr ParmSchema BACKED =
     parm("backed", TEXT_BACKED).flag().help("whether the background is painted; set by back");
 constexpr ParmSchema BLINK = parm("blink", TEXT_FLICKER).flag().help("blinks from the start");

@@ -65,6 +65,12 @@ TEST_F(Check, finds_nothing_in_a_screen_without_mistakes)
     expectFinds("", "out/ProjPath");
 }
 
+TEST_F(Check, does_not_ask_for_the_ground_of_a_text_that_never_blinks)
+{
+    sources.screen(screen("  - { type: text, at: [1, 1], text: x, parm: { 8: 100 } }\n"));
+    expectFinds("");
+}
+
 /// The text is the items of the screen, from line 4 on.
 class CheckItem : public Check, public testing::WithParamInterface<MessageCase>
 {
@@ -94,6 +100,12 @@ const MessageCase ITEM_CASES[] = {
     {"type", "  - { type: 99, rect: [1, 1, 20, 20] }\n", NO_SUCH_TYPE.c_str()},
     {"colour", "  - { type: line, rect: [1, 1, 20, 1], parm: { 4: 100 } }\n",
      ":4: line at 1,1: 'color' is 100, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
+    {"ground_of_a_text_that_blinks",
+     "  - { type: text, at: [1, 1], text: x, blink: yes, parm: { 8: 100 } }\n",
+     ":4: text at 1,1: 'back' is 100, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
+    {"ground_of_a_text_that_its_cell_may_make_blink",
+     "  - { type: text, at: [1, 1], text: x, data: A, parm: { 8: -1 } }\n",
+     ":4: text at 1,1: 'back' is -1, outside 0 to 99, which ends the panel when it is drawn. Correct it."},
     {"font_number", "  - { type: text, at: [1, 1], text: x, parm: { 15: 20 } }\n",
      ":4: text at 1,1: 'font' is 20, outside 0 to 19, which ends the panel when it is drawn. Correct it."},
     {"mark", "  - { type: mark, rect: [1, 1, 33, 33], parm: { 15: 354 } }\n",

@@ -30,10 +30,11 @@ class Checker
         diagnostics_.error(place_, label_ + ": ", text, std::forward<Values>(values)...);
     }
 
-    void values(SchemaTable<ParmSchema> parms, const std::int32_t* values, bool onlyFatal = false)
+    void values(SchemaTable<ParmSchema> parms, const std::int32_t* values, bool onlyFatal = false,
+                bool blinking = false)
     {
         for (const ParmSchema& parm : parms) {
-            const bool used = parm.enable < 0 || values[parm.enable] != 0;
+            const bool used = parm.enable < 0 || values[parm.enable] != 0 || (parm.blinks && blinking);
             if ((onlyFatal && !parm.fatal) || !used || parm.index == PARM_PASS || parm.written ||
                 (parm.since && !has(*parm.since)))
                 continue;
@@ -136,6 +137,12 @@ class Checker
     Diagnostics& diagnostics_;
 };
 
+// Whether the item blinks, or a cell may make it blink.
+bool MayBlink(const PatternItem& item, const ItemClass& schema)
+{
+    return schema.blink && (!item.code.empty() || item.record.Parm[schema.blinkParm] != 0);
+}
+
 void CheckRoom(const ItemFacts& facts, Checker& checker)
 {
     if (!facts.fits())
@@ -189,7 +196,7 @@ void CheckDrawable(const Pattern& pattern, const ProjectSource& project, Diagnos
         const ItemClass* schema = FindItemClass(item.record.Type);
         if (!schema)
             continue;
-        checker.values(schema->parms, item.record.Parm, true);
+        checker.values(schema->parms, item.record.Parm, true, MayBlink(item, *schema));
         checker.values(CommonParms(), item.record.Parm, true);
         CheckRoom(ItemFacts(item, project.resources), checker);
     }
@@ -220,7 +227,7 @@ void CheckItems(const Pattern& pattern, const ProjectSource& project, Diagnostic
             checker.say("no such type, so nothing is drawn. Use a type from 1 to {}.", CONT_PTRN);
             continue;
         }
-        checker.values(schema->parms, item.record.Parm);
+        checker.values(schema->parms, item.record.Parm, false, MayBlink(item, *schema));
         checker.values(CommonParms(), item.record.Parm);
         const int pass = item.record.Parm[PARM_PASS];
         if (pass != 0 && pass != 1)
