@@ -10,11 +10,13 @@
 #include "tools/ptn/system/TemporaryFolder.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -92,6 +94,7 @@ Project& Project::own()
 Project::Project()
 {
     static const ptn::TemporaryFolder FOLDER("tessary-fuzz-", Place());
+    std::signal(SIGTRAP, [](int) { std::abort(); }); // the toolkit's end, at which no input would be kept
     fs::current_path(FOLDER.path());
     fs::create_directories("ProjPath/Bitmap");
     tessary::UseEucLocale();
@@ -105,8 +108,9 @@ Project::Project()
 void Project::write(const std::string& name, const std::string& bytes) const
 {
     const fs::path path(name);
+    std::error_code taken; // the name of the folder is that of another file
     if (path.has_parent_path())
-        fs::create_directories(path.parent_path());
+        fs::create_directories(path.parent_path(), taken);
     std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 

@@ -41,7 +41,7 @@ class Project
   public:
     static Project& own();
 
-    /// A file below the working directory, whose folders are made.
+    /// A file below the working directory, whose folders are made. One that can not be made is left out.
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
     /// A folder below the working directory, empty.

@@ -10,7 +10,7 @@ Usage: scripts/fuzz.sh [--help] [--seconds N] [--jobs N] [TARGET...]
 Installs what is missing (clang), builds into build-fuzz/ with libFuzzer, AddressSanitizer and
 UndefinedBehaviorSanitizer, and lets libFuzzer change inputs for each TARGET, by default for all of
 fuzz/targets/; prints figures at the end. A target ends at its first finding, which fails: any crash, leak,
-broken promise, an input that takes 20 seconds or 2 GB.
+broken promise, an input that takes 20 seconds (longer when a processor has several jobs) or 2 GB.
 
   --seconds N  for each target; by default 3600
   --jobs N     targets at a time; by default as many as there are processors
@@ -66,7 +66,8 @@ mkdir -p build-fuzz/findings
 memory=/dev/shm
 [ -w "$memory" ] || memory=/tmp
 TMPDIR=$(mktemp -d "$memory/tessary-fuzz.XXXXXX")
-export TMPDIR seconds
+longest=$((20 * ((jobs + $(nproc) - 1) / $(nproc))))
+export TMPDIR seconds longest
 trap 'rm -rf "$TMPDIR"' EXIT
 
 run() {
@@ -74,17 +75,19 @@ run() {
     local kept=$PWD/build-fuzz/corpus/$name
     mkdir -p "$kept"
     [ ! -e "fuzz/dict/$name.dict" ] || words=("-dict=$PWD/fuzz/dict/$name.dict")
+    local TIMEFORMAT='processor: %0U'
     # The working directory becomes the target's own: whole paths.
-    "build-fuzz/fuzz-$name" "${words[@]}" -max_total_time="$seconds" -max_len=32768 -timeout=20 \
+    { time "build-fuzz/fuzz-$name" "${words[@]}" -max_total_time="$seconds" -max_len=32768 -timeout="$longest" \
         -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$PWD/build-fuzz/findings/$name-" \
-        "$kept" "$PWD/fuzz/corpus/$name" >"build-fuzz/$name.log" 2>&1 || true
+        "$kept" "$PWD/fuzz/corpus/$name"; } >"build-fuzz/$name.log" 2>&1 || true
 }
 export -f run
 for name in "${targets[@]}"; do rm -f "build-fuzz/$name.log"; done
 printf '%s\n' "${targets[@]}" | xargs -P "$jobs" -I{} bash -c 'run {}'
 
 status=0
-printf '%-14s %9s %12s %9s %7s %7s %7s  %s\n' target seconds executions 'a second' edges traits inputs findings
+printf '%-14s %9s %9s %12s %9s %7s %7s %7s  %s\n' \
+    target seconds processor executions 'a second' edges traits inputs findings
 for name in "${targets[@]}"; do
     out=build-fuzz/$name.log
     figure() { grep -aoE "$1" "$out" | tail -n 1 | grep -oE '[0-9]+$' || echo 0; }
@@ -96,7 +99,7 @@ for name in "${targets[@]}"; do
         finding=$(grep -aoE '(SUMMARY: |BROKEN PROMISE: |ERROR \*\*: ).*' "$out" | tail -n 1 || true)
         status=1
     fi
-    printf '%-14s %9s %12s %9s %7s %7s %7s  %s\n' "$name" "$took" "$executions" "$rate" "$(figure 'cov: [0-9]+')" \
-        "$(figure 'ft: [0-9]+')" "$(find "build-fuzz/corpus/$name" -type f | wc -l)" "${finding:-see $out}"
+    printf '%-14s %9s %9s %12s %9s %7s %7s %7s  %s\n' "$name" "$took" "$(figure 'processor: [0-9]+')" \
+        "$executions" "$rate" "$(figure 'cov: [0-9]+')" "$(figure 'ft: [0-9]+')" "$(find "build-fuzz/corpus/$name" -type f | wc -l)" "${finding:-see $out}"
 done
 exit $status
