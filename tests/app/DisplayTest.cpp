@@ -73,12 +73,6 @@ class PanelOnDisplay : public Panel
         g_object_unref(image);
     }
 
-    void runOn(const OtherServer& server)
-    {
-        program.emplace("panel", project.root() + "/panel",
-                        std::vector<std::string>{"--display", server.name()});
-    }
-
     /// What the panel shows, once two looks at it are alike and show more than one colour.
     Picture look(const OtherUser& eyes, int width, int height)
     {
@@ -99,7 +93,7 @@ class PanelOnDisplay : public Panel
     {
         const OtherServer server("400x300x" + std::to_string(depth));
         const OtherUser eyes(server.name());
-        runOn(server);
+        runOn(server.name());
         Picture picture = look(eyes, WIDTH, HEIGHT);
         EXPECT_EQ(kill(program->pid(), SIGTERM), 0);
         EXPECT_EQ(waitEnd(), 0) << program->output();
@@ -142,7 +136,7 @@ TEST_P(PanelOnScreen, starts_is_operated_and_stops_in_order)
     const OtherServer server(GetParam());
     ASSERT_NE(server.name(), "");
     const OtherUser eyes(server.name());
-    runOn(server);
+    runOn(server.name());
     look(eyes, WIDTH, HEIGHT);
     eyes.click(50, 25);
     EXPECT_EQ(waitEnd(), 0) << program->output();
@@ -171,7 +165,7 @@ TEST_P(ScaledPanelOnDisplay, follows_a_display_that_changes_its_size)
     project.set("TESSARY", "DISPSIZE", "300,200").set("TESSARY", "SCALE", shown.word);
     const OtherServer server("1000x500x24");
     const OtherUser eyes(server.name());
-    runOn(server);
+    runOn(server.name());
     EXPECT_TRUE(user.waitFor([&] { return eyes.shows(1000, 500); }, "the panel"));
     const std::uint32_t body = color(HEDR_BODY_COLOR);
     EXPECT_TRUE(user.waitFor(

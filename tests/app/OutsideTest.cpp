@@ -51,7 +51,7 @@ class PanelOutside : public Panel
 TEST_F(PanelOutside, ends_with_a_status_and_a_whole_log_when_its_server_is_lost)
 {
     OtherServer server;
-    program.emplace("panel", project.root() + "/panel", std::vector<std::string>{"--display", server.name()});
+    runOn(server.name());
     {
         const OtherUser eyes(server.name());
         ASSERT_TRUE(user.waitFor([&] { return eyes.shows(300, 200); }, "the menu"));

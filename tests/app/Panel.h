@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
 /// The program has a name of the test's own, so that its profile is the project's: 100 colours, font 0 of 16
 /// pixels, 200 cells of the code "DATA", and the menu as start pattern, which the test has to save.
@@ -68,6 +69,12 @@ class Panel : public testing::Test
     }
 
     void run() { program.emplace("panel", project.root() + "/panel"); }
+
+    /// On another display than the tests'.
+    void runOn(const std::string& display)
+    {
+        program.emplace("panel", project.root() + "/panel", std::vector<std::string>{"--display", display});
+    }
 
     int waitEnd()
     {

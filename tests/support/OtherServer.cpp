@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 #include <X11/extensions/XTest.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -21,7 +22,7 @@ std::uint32_t eightBits(unsigned long pixel, unsigned long mask)
 
 } // namespace
 
-OtherServer::OtherServer(const std::string& screen)
+OtherServer::OtherServer(const std::string& screen, const std::string& name)
 {
     int ends[2];
     if (pipe(ends) != 0)
@@ -29,8 +30,12 @@ OtherServer::OtherServer(const std::string& screen)
     pid_ = fork();
     if (pid_ == 0) {
         const std::string number = std::to_string(ends[1]);
-        execlp("Xvfb", "Xvfb", "-displayfd", number.c_str(), "-screen", "0", screen.c_str(), "-nolisten",
-               "tcp", static_cast<char*>(nullptr));
+        std::vector<const char*> words = {"Xvfb", "-displayfd",   number.c_str(), "-screen",
+                                          "0",    screen.c_str(), "-nolisten",    "tcp"};
+        if (!name.empty())
+            words.push_back(name.c_str());
+        words.push_back(nullptr);
+        execvp("Xvfb", const_cast<char* const*>(words.data()));
         _exit(127);
     }
     close(ends[1]);
@@ -54,6 +59,16 @@ void OtherServer::end()
         return;
     kill(pid_, SIGKILL);
     waitpid(std::exchange(pid_, -1), nullptr, 0);
+}
+
+void OtherServer::stop() const
+{
+    kill(pid_, SIGSTOP);
+}
+
+void OtherServer::goOn() const
+{
+    kill(pid_, SIGCONT);
 }
 
 OtherUser::OtherUser(const std::string& display) : display_(XOpenDisplay(display.c_str())) {}

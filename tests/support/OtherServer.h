@@ -12,7 +12,8 @@ class OtherServer
 {
   public:
     /// @param screen  width x height x depth, as Xvfb takes it
-    explicit OtherServer(const std::string& screen = "1280x1024x24");
+    /// @param name    of the display, such as ":7"; by default one that is free
+    explicit OtherServer(const std::string& screen = "1280x1024x24", const std::string& name = "");
     ~OtherServer();
     OtherServer(const OtherServer&) = delete;
     OtherServer& operator=(const OtherServer&) = delete;
@@ -20,6 +21,9 @@ class OtherServer
     /// Of the display, such as ":7"; empty when no server has come up.
     const std::string& name() const { return name_; }
     void end();
+    /// Serves nobody until it goes on.
+    void stop() const;
+    void goOn() const;
 
   private:
     pid_t pid_ = -1;
