@@ -38,12 +38,14 @@ found=$PWD/build-debug/memcheck
 # sanitizers.
 slow='RandomProfile.*:HostileProject.*:*64_mib*:*million*:*may_be_many*:Messages.in_a_file_that_is_too_long*'
 slow+=':AReplacedFile.is_old_or_new*:AReplacedFile.is_whole_when_two*'
+# Here the calls that they let fail are those of valgrind as well.
+cut='*CutWrites*'
 
 run_suites() {
     local name
     for name in "${suites[@]}"; do
         echo "== test_$name"
-        "${check[@]}" "build-debug/test_$name" --gtest_brief=1 "--gtest_filter=-$slow"
+        "${check[@]}" "build-debug/test_$name" --gtest_brief=1 "--gtest_filter=-$slow:$cut"
     done
 }
 
