@@ -75,7 +75,7 @@ run() {
     local kept=$PWD/build-fuzz/corpus/$name
     mkdir -p "$kept"
     [ ! -e "fuzz/dict/$name.dict" ] || words=("-dict=$PWD/fuzz/dict/$name.dict")
-    local TIMEFORMAT='processor: %0U'
+    local TIMEFORMAT='user: %0U system: %0S'
     # The working directory becomes the target's own: whole paths.
     { time "build-fuzz/fuzz-$name" "${words[@]}" -max_total_time="$seconds" -max_len=32768 -timeout="$longest" \
         -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$PWD/build-fuzz/findings/$name-" \
@@ -94,12 +94,13 @@ for name in "${targets[@]}"; do
     executions=$(figure 'stat::number_of_executed_units: *[0-9]+')
     rate=$(figure 'stat::average_exec_per_sec: *[0-9]+')
     took=$(grep -aoE 'Done [0-9]+ runs in [0-9]+' "$out" | grep -oE '[0-9]+$' || echo '-')
+    processor=$(($(figure 'user: [0-9]+') + $(figure 'system: [0-9]+')))
     finding=none
     if [ "$took" = - ]; then
         finding=$(grep -aoE '(SUMMARY: |BROKEN PROMISE: |ERROR \*\*: ).*' "$out" | tail -n 1 || true)
         status=1
     fi
-    printf '%-14s %9s %9s %12s %9s %7s %7s %7s  %s\n' "$name" "$took" "$(figure 'processor: [0-9]+')" \
+    printf '%-14s %9s %9s %12s %9s %7s %7s %7s  %s\n' "$name" "$took" "$processor" \
         "$executions" "$rate" "$(figure 'cov: [0-9]+')" "$(figure 'ft: [0-9]+')" "$(find "build-fuzz/corpus/$name" -type f | wc -l)" "${finding:-see $out}"
 done
 exit $status
