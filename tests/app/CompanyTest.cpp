@@ -18,16 +18,6 @@ namespace
 class Company : public FaultyPanel
 {
   protected:
-    /// Handles events, as everything else that is waited for.
-    void pass(std::chrono::seconds time)
-    {
-        for (; time.count() > 0; --time) { // shorter than the patience of waitFor()
-            const auto from = std::chrono::steady_clock::now();
-            user.waitFor([&] { return std::chrono::steady_clock::now() - from >= std::chrono::seconds(1); },
-                         "a second to pass");
-        }
-    }
-
     /// The panel by a shell that prepares its surroundings, or by a program that does.
     void runBy(std::vector<std::string> arguments, const std::string& shell,
                const std::string& file = Program::buildFolder() + "/panel")

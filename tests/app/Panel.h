@@ -7,6 +7,7 @@
 #include "tests/support/XDriver.h"
 
 #include <algorithm>
+#include <chrono>
 #include <gtest/gtest.h>
 #include <optional>
 #include <vector>
@@ -80,6 +81,16 @@ class Panel : public testing::Test
     {
         user.waitFor([&] { return program->status().has_value(); }, "the end of the program");
         return program->status().value_or(-1);
+    }
+
+    /// For faults that last; events are handled, as by everything that is waited for.
+    void pass(std::chrono::seconds time)
+    {
+        for (; time.count() > 0; --time) { // shorter than the patience of waitFor()
+            const auto from = std::chrono::steady_clock::now();
+            user.waitFor([&] { return std::chrono::steady_clock::now() - from >= std::chrono::seconds(1); },
+                         "a second to pass");
+        }
     }
 
     std::vector<std::string> logged() { return project.messages(); }
