@@ -74,6 +74,17 @@ TEST_F(PanelOutside, ends_with_a_status_when_another_program_destroys_its_window
                                          Contains("Ｘサーバがエラーを返した。")));
 }
 
+TEST_F(PanelOutside, ends_with_a_status_when_another_program_has_the_server_kill_it)
+{
+    const ScreenWindow menu = runMenu();
+    const Client other;
+    XKillClient(other, menu.id);
+    XSync(other, False);
+    EXPECT_EQ(waitEnd(), 1);
+    EXPECT_EQ(logged().back(), "Ｘサーバとの接続が切れた。");
+    EXPECT_THAT(program->output(), HasSubstr("panel: The connection to the X server is lost. Start"));
+}
+
 TEST_F(PanelOutside, does_not_mind_events_that_another_program_has_made_up)
 {
     const ScreenWindow menu = runMenu();
