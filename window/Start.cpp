@@ -10,6 +10,7 @@
 #include "window/Request.h"
 #include "window/Retire.h"
 
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 #include <utility>
 
@@ -112,6 +113,17 @@ struct tessary::WindowSignals {
         return FALSE;
     }
 
+    /// A window manager raises the window that was clicked with its own children only, and the system window
+    /// is no child of a child. Without one no click changes what lies above.
+    static int Focus(GtkWidget* widget, GdkEvent*, CPtrnDisp* wnd)
+    {
+        const bool managed = gdk_x11_screen_supports_net_wm_hint(
+            gtk_widget_get_screen(widget), gdk_atom_intern_static_string("_NET_ACTIVE_WINDOW"));
+        if (managed && SystmWnd && wnd != SystmWnd && SystmWnd->Widget && SystmWnd->Widget->window)
+            gdk_window_raise(SystmWnd->Widget->window);
+        return FALSE;
+    }
+
     /// By another program: nobody else takes a panel's window away. The ticks bring it back.
     static int Unmap(GtkWidget* widget, GdkEvent* event, CPtrnDisp* wnd)
     {
@@ -193,6 +205,7 @@ void PtrnDispStart(CPtrnDisp* wnd, GtkWidget* parent, RECT rect)
     Connect<Key_Release>(top, "key_release_event", wnd);
     Connect<WindowSignals::Configure>(top, "configure_event", wnd);
     Connect<WindowSignals::Map>(top, "map_event", wnd);
+    Connect<WindowSignals::Focus>(top, "focus_in_event", wnd);
     Connect<WindowSignals::Unmap>(top, "unmap_event", wnd);
     Connect<WindowSignals::LetGo>(area, "grab_broken_event", wnd);
     Connect<Refuse_Delete>(top, "delete_event", wnd);

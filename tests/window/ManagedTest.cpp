@@ -160,6 +160,30 @@ TEST_F(Managed, the_system_window_stays_above_an_application_window_that_is_open
     EXPECT_THAT(titles(), ElementsAre("full", "q"));
 }
 
+TEST_F(Managed, the_system_window_stays_above_a_child_that_is_clicked)
+{
+    know(plain("system", 300, 250));
+    CPtrnDisp* child = openChild(AppliWnd, 1, "q", 250, 180);
+    openSystem("system");
+    user.waitFor(
+        [this] {
+            return titles() == std::vector<std::string>{"p", "q", "system"};
+        },
+        "the system window");
+    click(child, 10, 190);
+    user.waitFor(
+        [this] {
+            return titles() == std::vector<std::string>{"p", "q", "system"};
+        },
+        "the system window above again");
+    waitActive(child);
+    user.waitFor(
+        [this] {
+            return titles() == std::vector<std::string>{"p", "q", "system"};
+        },
+        "the system window above again");
+}
+
 TEST_F(Managed, have_the_keyboard_wherever_the_pointer_is)
 {
     user.move(1000, 900);
